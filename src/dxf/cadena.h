@@ -1,0 +1,30 @@
+#pragma once
+// cAddString: a growing text buffer with cheap appends. The capacity is bounded from above by a byte bound that doubles
+// when an append would reach it.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace duktores {
+
+class cAddString {
+ public:
+  std::int32_t MaxBytes() const { return iMaxBytes_; }
+  /// Capacity in characters of two bytes; the contents are lost. Nothing happens for v <= 0.
+  void MaxBytes(std::int32_t v);
+
+  bool BeginAdd();             ///< empties the buffer and keeps its capacity; true
+  std::int32_t Length() const;  ///< characters held, in UTF-16 units
+  bool AddString(std::string_view sString);
+  bool Add2Strings(std::string_view sString1, std::string_view sString2);
+  const std::string& CurString() const { return texto_; }
+  std::string EndAdd();  ///< the text; the buffer is then empty
+
+ private:
+  std::int32_t iMaxBytes_ = 128000;
+  std::int64_t iLimite_ = 2 * 128000 - 1;  // highest index of a byte
+  std::string texto_;
+};
+
+}  // namespace duktores

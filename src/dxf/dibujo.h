@@ -1,0 +1,38 @@
+#pragma once
+// cDrawing: the drawing model of one run. It keeps no entities: each becomes DXF text as it is inserted, in the order of
+// drawing, and widens the extent. An arc counts as its whole circle, a text as the square around its insertion point
+// with half side (characters of Text) * Height, in z too.
+
+#include <cstdint>
+#include <string>
+
+#include "dxf/cadena.h"
+#include "dxf/entidades.h"
+
+namespace duktores {
+
+class cDrawing {
+ public:
+  std::string Name;                     ///< when the drawing serves as a block
+  double BaseX = 0, BaseY = 0, BaseZ = 0;  ///< base point as a block
+
+  // Each is false, and changes nothing, for a missing object only. An entity that finds no handle left throws
+  // ErrorCorrida before anything has changed.
+  bool InsertLine(cLine* oLine);
+  bool InsertArc(cArc* oArc);
+  bool InsertText(cText* oText);
+  bool InsertCircle(cCircle* oCircle);
+  bool InsertPoint(cPoint* oPoint);
+  void InsertPolyLine(cPolyline* oPolyLine);
+
+  std::int32_t Count() const { return m_count; }
+  void GetBorder(double& xMin, double& yMin, double& zMin, double& xMax, double& yMax, double& zMax) const;
+  const std::string& GetEntities() const { return entidades_.CurString(); }
+
+ private:
+  double m_xMin = 0, m_yMin = 0, m_zMin = 0, m_xMax = 0, m_yMax = 0, m_zMax = 0;
+  std::int32_t m_count = 0;
+  cAddString entidades_;
+};
+
+}  // namespace duktores

@@ -1,0 +1,68 @@
+#pragma once
+// cDXF: writes a drawing as a DXF file, by copying the template line by line, rewriting extent and view, and putting the
+// entities behind the line "ENTITIES". The file is in code page 1252 with CR LF line ends.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dxf/cabecera.h"
+
+namespace duktores {
+
+class cDrawing;
+
+/// The blocks of a cDXF, for look-up by name.
+class cGlobals {
+ public:
+  void SetBlocks(std::vector<std::shared_ptr<cDrawing>> Blocks) { Blocks_ = std::move(Blocks); }
+  /// Border of the first block of that name, both trimmed and in capitals; false if there is none.
+  bool GetBlockBorder(std::string_view sName, double& xMin, double& yMin, double& zMin, double& xMax, double& yMax,
+                      double& zMax) const;
+
+ private:
+  std::vector<std::shared_ptr<cDrawing>> Blocks_;
+};
+
+class cDXF {
+ public:
+  bool InsertEntities(std::shared_ptr<cDrawing> Entities);  ///< false for a missing drawing
+
+  /// Writes the file and is true if it then stands. The template is Template/Template.dxf below `estado.sRutaPrograma`,
+  /// read anew each time. The file is made beside its place under another name and renamed at the end: on false what stood
+  /// there before still stands. False: no template, one without a line "ENTITIES" or cut short, no entities set, or a
+  /// place that can't be written.
+  bool Save(const std::string& sDXFFile);
+
+  void LineTypeScale(double v) { header_.LineTypeScale(v); }
+  double LineTypeScale() const { return header_.LineTypeScale(); }
+  bool SetLayers(std::vector<std::string> LayerNames, std::vector<std::int16_t> LayerFlags,
+                 std::vector<std::int16_t> LayerColorIndex, std::vector<std::string> LayerLineTypeName);
+  int GetLayers(std::vector<std::string>& LayerNames, std::vector<std::int16_t>& LayerFlags,
+                std::vector<std::int16_t>& LayerColorIndex, std::vector<std::string>& LayerLineTypeName) const;
+  bool SetFonts(std::vector<std::string> Fonts, int FontCharSet);
+  int GetFonts(std::vector<std::string>& Fonts, int& FontCharSet) const;
+  bool SetLineTypes(std::vector<std::string> LineTypes) { return header_.SetLineTypes(std::move(LineTypes)); }
+  int GetLineTypes(std::vector<std::string>& LineTypes) const { return header_.GetLineTypes(LineTypes); }
+  /// Takes the present blocks over; an empty list changes nothing.
+  void InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks);
+  const cGlobals& Globals() const { return globals_; }
+
+ private:
+  cHeader header_;
+  std::shared_ptr<cDrawing> Entities_;
+  std::vector<std::shared_ptr<cDrawing>> Blocks_;
+  int FontCharSet_ = 0;
+  cGlobals globals_;
+};
+
+/// Full path of the template.
+std::string RutaPlantilla();
+
+bool ExisteFichero(const std::string& ruta);  ///< a file with a length above 0
+/// Overwrites every `busca` in the text by `pone`.
+void SustituyeCaracter(std::string& texto, char busca, char pone);
+
+}  // namespace duktores

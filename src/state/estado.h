@@ -1,0 +1,61 @@
+#pragma once
+// The program state: everything that one run reads and writes by name. One instance per thread, so that several pieces
+// can be worked at once; a fresh EstadoPrograma is the state before start-up. Lengths are in the configured unit, angles
+// in degrees.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "geometry/puntos.h"
+#include "platform/plataforma.h"
+
+namespace duktores {
+
+class cDrawing;
+class cDXF;
+
+struct EstadoPrograma {
+  // Places and host, set at start-up. Paths of folders end in a separator.
+  std::string sRutaPrograma;  ///< folder of the executable: Images, Template and the scratch file lie here
+  std::string sRutaBase;      ///< installation root
+  std::string sRutaIni;       ///< configuration file
+  Ventana hVentanaHost = 0;   ///< foreground window at start
+  bool bComaDecimal = false;  ///< the system's decimal separator is a comma
+
+  // Configuration.
+  double dIdioma = 0;  ///< base of the text ids: 0, 10000 .. 60000
+  std::int16_t iUnidad = 0;  ///< 1 millimetres; any other: inches
+  std::string sRutaDuct;     ///< starting folder of the save dialog
+  double dEspesor = 0;       ///< sheet thickness
+  double dTamanoTexto = 0;   ///< height of the annotation text
+  std::int16_t iFibra = 0;   ///< surface that the entered dimensions refer to: 1 inner, 2 medium, 3 outer
+  std::int16_t iColorDoblez = 0;  ///< colour index of the bend lines
+  std::string sDimensiones;       ///< number as text; 1 switches the dimensions of a pattern on
+  std::string sDensidad;          ///< number as text; density for the weight figures
+  std::int16_t iDivisiones = 0;   ///< divisions: the configured default, then those of the last accepted dialog
+  std::int16_t iBox = 0;          ///< any value but 0 switches the title block on
+  double dPasoTablaX = 60.0, dPasoTablaY = 30.0;  ///< spacing of the drawn dimensions, in drawing units
+
+  // Piece, set by the catalogue, the dialogs and the run driver.
+  std::string sTipoPieza;  ///< piece type key
+  double dAltura = 0, dAx = 0, dAy = 0, dAlfa = 0;
+  std::int16_t iPosIni = 0;      ///< start position, 1 to 4
+  std::int16_t inumDoblado = 0;  ///< divisions of the current run
+  bool bDosPiezas = false;
+  double dL1Base = 0, dL2Base = 0, dRadioAlto = 0;  ///< circle on a rectangular base, after the fibre correction
+
+  // The current run.
+  std::shared_ptr<cDrawing> oDrawing;
+  std::shared_ptr<cDXF> oDXF;
+  std::vector<Punto2> PoliContorno;  ///< the outline being built
+  std::int16_t iHandleDxf = 0;       ///< DXF handle of the next entity, 500 at the start of a run
+  double ExtMinX = 0, ExtMinY = 0, ExtMinZ = 0, ExtMaxX = 0, ExtMaxY = 0, ExtMaxZ = 0;  ///< extent of the last save
+
+  Plataforma* plataforma = nullptr;  ///< not owned; null is a world in which nothing happens
+};
+
+extern thread_local EstadoPrograma estado;
+
+}  // namespace duktores

@@ -1,0 +1,27 @@
+#pragma once
+// Numbers as texts, and texts as numbers, outside the DXF file. Independent of the process's locale; the decimal mark
+// of written numbers follows `estado.bComaDecimal`.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace duktores {
+
+/// The default conversion of a double: up to 15 significant digits in general form, no trailing zeros, exponent as
+/// E+15; decimal mark of the system.
+std::string TextoDeNumero(double v);
+
+/// The number at the left of a text, after blanks: sign, digits, point, decimals, exponent; 0 if there is none. Always a
+/// finite number.
+double NumeroIzquierda(std::string_view texto);
+
+/// The number that a field holds: the whole text but blanks around it, an optional minus first, digits with at most one
+/// point or comma, at least one digit. Empty if it isn't such a number or too large for a double.
+std::optional<double> NumeroDeCampo(std::string_view texto);
+
+/// Rounded half to even; 0 when out of range.
+std::int16_t EnteroCorto(double v);
+
+}  // namespace duktores
