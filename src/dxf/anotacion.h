@@ -22,14 +22,16 @@ void DibujaArco(EWdraw& axew, double cx, double cy, double radio, double angIni,
 /// The arc and its span in degrees as text below the centre. 360 is added to `angFin` when it is below angIni.
 void DibujaArcoCota(EWdraw& axew, double cx, double cy, double radio, double angIni, double& angFin, double altura,
                     std::int16_t color);
-/// `texto` starts at (x, y). In all languages but Chinese a blank is put behind each "^" in it, in the caller's text too.
+/// `texto` starts at (x, y). In all languages but Chinese a blank is put behind each "^" in it, in the caller's text
+/// too.
 void DibujaTexto(EWdraw& axew, double x, double y, std::string& texto, double altura, std::int16_t color,
                  double angulo);
-/// A dimension. "M": between two points, its line passing near (xp, yp), with extension lines and arrow heads. "S", "E":
-/// the line and its length at the first or second point. Any other type draws nothing.
+/// A dimension. "M": between two points, its line passing near (xp, yp), with extension lines and arrow heads. "S",
+/// "E": the line and its length at the first or second point. Any other type draws nothing.
 void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double xp, double yp, double altura,
                 std::int16_t color, std::string_view tipo);
-/// A closed outline, colour 7 on the control; in the file its first vertex stands again at the end. At least one vertex.
+/// A closed outline, colour 7 on the control; in the file its first vertex stands again at the end. Nothing is drawn
+/// without a vertex.
 void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices);
 /// The frame around the data table, from its upper left corner.
 void DibujaMarcoDatos(EWdraw& axew, std::int16_t inumDoblado, Punto3 dblPoint3);

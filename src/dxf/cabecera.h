@@ -1,6 +1,6 @@
 #pragma once
-// cHeader: generators of the HEADER and TABLES text of an AC1015 DXF file, and the settings that they take. The template
-// of the drawings is made from them. All lines end in CR LF. Arrays of settings are indexed from 0 here.
+// cHeader: generators of the HEADER and TABLES text of an AC1015 DXF file, and the settings that they take. The
+// template of the drawings is made from them. All lines end in CR LF. Arrays of settings are indexed from 0 here.
 
 #include <cstdint>
 #include <string>
@@ -8,12 +8,18 @@
 
 namespace duktores {
 
+/// What the active view shows of the extent of `estado`: its centre, and as height the largest absolute coordinate.
+struct VistaDxf {
+  double x = 0, y = 0, altura = 0;
+};
+VistaDxf VistaDeExtension();
+
 class cHeader {
  public:
   cHeader() { InitLineType(); }
 
-  std::string DxfHeader();    ///< the HEADER section; the extent is that of `estado`
-  std::string DxfTables();    ///< the TABLES section: viewport, line types, fonts, layers
+  std::string DxfHeader() const;      ///< the HEADER section; the extent is that of `estado`
+  std::string DxfTables();            ///< the TABLES section: viewport, line types, fonts, layers
   std::string DxfTableVPORT() const;  ///< laid out as cDXF::Save counts its lines
   std::string DxfLineTypes() const;
   std::string DxfFonts() const;
@@ -25,7 +31,7 @@ class cHeader {
   void LineTypeScale(double v);
   double LineTypeScale() const { return dLineTypeScale_; }
 
-  // Settings; the getters give the number of rows.
+  // Settings; as many layers as there are names, missing columns are 0 or empty. The getters give the number of rows.
   bool SetLineTypes(std::vector<std::string> LineTypes);
   bool SetFonts(std::vector<std::string> Fonts);
   bool SetLayers(std::vector<std::string> LayerNames, std::vector<std::int16_t> LayerFlags,

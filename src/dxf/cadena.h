@@ -1,6 +1,6 @@
 #pragma once
-// cAddString: a growing text buffer with cheap appends. The capacity is bounded from above by a byte bound that doubles
-// when an append would reach it.
+// cAddString: a growing text buffer with cheap appends. It is UTF-8; its capacity is counted at two bytes for each of
+// its own and has an upper bound that doubles when an append would reach it.
 
 #include <cstdint>
 #include <string>
@@ -11,10 +11,10 @@ namespace duktores {
 class cAddString {
  public:
   std::int32_t MaxBytes() const { return iMaxBytes_; }
-  /// Capacity in characters of two bytes; the contents are lost. Nothing happens for v <= 0.
+  /// Capacity in characters of two bytes. What was held becomes as many NULs. Nothing happens for v <= 0.
   void MaxBytes(std::int32_t v);
 
-  bool BeginAdd();             ///< empties the buffer and keeps its capacity; true
+  bool BeginAdd();              ///< empties the buffer and keeps its capacity; true
   std::int32_t Length() const;  ///< characters held, in UTF-16 units
   bool AddString(std::string_view sString);
   bool Add2Strings(std::string_view sString1, std::string_view sString2);

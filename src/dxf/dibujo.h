@@ -1,19 +1,21 @@
 #pragma once
-// cDrawing: the drawing model of one run. It keeps no entities: each becomes DXF text as it is inserted, in the order of
-// drawing, and widens the extent. An arc counts as its whole circle, a text as the square around its insertion point
+// cDrawing: the drawing model of one run. It keeps no entities: each becomes DXF text as it is inserted, in the order
+// of drawing, and widens the extent. An arc counts as its whole circle, a text as the square around its insertion point
 // with half side (characters of Text) * Height, in z too.
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "dxf/cadena.h"
 #include "dxf/entidades.h"
+#include "geometry/puntos.h"
 
 namespace duktores {
 
 class cDrawing {
  public:
-  std::string Name;                     ///< when the drawing serves as a block
+  std::string Name;                        ///< when the drawing serves as a block
   double BaseX = 0, BaseY = 0, BaseZ = 0;  ///< base point as a block
 
   // Each is false, and changes nothing, for a missing object only. An entity that finds no handle left throws
@@ -30,7 +32,12 @@ class cDrawing {
   const std::string& GetEntities() const { return entidades_.CurString(); }
 
  private:
-  double m_xMin = 0, m_yMin = 0, m_zMin = 0, m_xMax = 0, m_yMax = 0, m_zMax = 0;
+  bool Anade(std::string_view entidad);  // true for the first one of the drawing
+  void Amplia(Punto3 p);
+  void AmpliaAlrededor(Punto3 centro, double r);
+
+  // Only a line or an outline that comes first sets both corners; any other first entity leaves the high one at 0.
+  Punto3 minimo_, maximo_;
   std::int32_t m_count = 0;
   cAddString entidades_;
 };

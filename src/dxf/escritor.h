@@ -1,6 +1,6 @@
 #pragma once
-// cDXF: writes a drawing as a DXF file, by copying the template line by line, rewriting extent and view, and putting the
-// entities behind the line "ENTITIES". The file is in code page 1252 with CR LF line ends.
+// cDXF: writes a drawing as a DXF file, by copying the template line by line, rewriting extent and view, and putting
+// the entities behind the line "ENTITIES". The file is in code page 1252 with CR LF line ends.
 
 #include <cstdint>
 #include <memory>
@@ -31,9 +31,9 @@ class cDXF {
   bool InsertEntities(std::shared_ptr<cDrawing> Entities);  ///< false for a missing drawing
 
   /// Writes the file and is true if it then stands. The template is Template/Template.dxf below `estado.sRutaPrograma`,
-  /// read anew each time. The file is made beside its place under another name and renamed at the end: on false what stood
-  /// there before still stands. False: no template, one without a line "ENTITIES" or cut short, no entities set, or a
-  /// place that can't be written.
+  /// read anew each time. The file is made beside its place under another name and renamed at the end: on false what
+  /// stood there before still stands. False: no template, one without a line "ENTITIES" or cut short, no entities set,
+  /// or a place that can't be written.
   bool Save(const std::string& sDXFFile);
 
   void LineTypeScale(double v) { header_.LineTypeScale(v); }

@@ -5,8 +5,8 @@
 
 namespace duktores {
 
-/// "0.0" for 0; below 1 up to 16 decimals, cut at the last digit that is not 0 (all 16 when every one is 0, then without
-/// a sign); from 1 upward the general form with 15 significant digits, exponent as E+15.
+/// "0.0" for 0; below 1 up to 16 decimals, cut at the last digit that is not 0 (all 16 when every one is 0, then
+/// without a sign); from 1 upward the general form with 15 significant digits, exponent as E+15.
 std::string DxfNumeroTexto(double v);
 
 /// The two lines of a numeric pair, the code behind two blanks: "  10", CR LF, the number, CR LF.

@@ -17,9 +17,9 @@ class ErrorCorrida : public std::runtime_error {
   int numeroTexto_;
 };
 
-inline constexpr int kTextoNoGuardado = 80;        ///< the file could not be saved
-inline constexpr int kTextoPlantilla = 81;         ///< the template is missing or unusable
-inline constexpr int kTextoDemasiadas = 82;        ///< run ended early: no handle left
-inline constexpr int kTextoMedidaImposible = 83;   ///< run ended early: a coordinate is no number
+inline constexpr int kTextoNoGuardado = 80;       ///< the file could not be saved
+inline constexpr int kTextoPlantilla = 81;        ///< the template is missing or unusable
+inline constexpr int kTextoDemasiadas = 82;       ///< run ended early: no handle left
+inline constexpr int kTextoMedidaImposible = 83;  ///< run ended early: a coordinate is no number
 
 }  // namespace duktores

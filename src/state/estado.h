@@ -1,7 +1,7 @@
 #pragma once
-// The program state: everything that one run reads and writes by name. One instance per thread, so that several pieces
-// can be worked at once; a fresh EstadoPrograma is the state before start-up. Lengths are in the configured unit, angles
-// in degrees.
+// The program state: everything that one run reads and writes by name. One instance per thread, so that several
+// pieces can be worked at once; a fresh EstadoPrograma is the state before start-up. Lengths are in the configured
+// unit, angles in degrees.
 
 #include <cstdint>
 #include <memory>
@@ -25,12 +25,12 @@ struct EstadoPrograma {
   bool bComaDecimal = false;  ///< the system's decimal separator is a comma
 
   // Configuration.
-  double dIdioma = 0;  ///< base of the text ids: 0, 10000 .. 60000
-  std::int16_t iUnidad = 0;  ///< 1 millimetres; any other: inches
-  std::string sRutaDuct;     ///< starting folder of the save dialog
-  double dEspesor = 0;       ///< sheet thickness
-  double dTamanoTexto = 0;   ///< height of the annotation text
-  std::int16_t iFibra = 0;   ///< surface that the entered dimensions refer to: 1 inner, 2 medium, 3 outer
+  double dIdioma = 0;             ///< base of the text ids: 0, 10000 .. 60000
+  std::int16_t iUnidad = 0;       ///< 1 millimetres; any other: inches
+  std::string sRutaDuct;          ///< starting folder of the save dialog
+  double dEspesor = 0;            ///< sheet thickness
+  double dTamanoTexto = 0;        ///< height of the annotation text
+  std::int16_t iFibra = 0;        ///< surface that the entered dimensions refer to: 1 inner, 2 medium, 3 outer
   std::int16_t iColorDoblez = 0;  ///< colour index of the bend lines
   std::string sDimensiones;       ///< number as text; 1 switches the dimensions of a pattern on
   std::string sDensidad;          ///< number as text; density for the weight figures
@@ -50,7 +50,7 @@ struct EstadoPrograma {
   std::shared_ptr<cDrawing> oDrawing;
   std::shared_ptr<cDXF> oDXF;
   std::vector<Punto2> PoliContorno;  ///< the outline being built
-  std::int16_t iHandleDxf = 0;       ///< DXF handle of the next entity, 500 at the start of a run
+  std::int32_t iHandleDxf = 0;       ///< DXF handle of the next entity, 500 at the start of a run; none above 32767
   double ExtMinX = 0, ExtMinY = 0, ExtMinZ = 0, ExtMaxX = 0, ExtMaxY = 0, ExtMaxZ = 0;  ///< extent of the last save
 
   Plataforma* plataforma = nullptr;  ///< not owned; null is a world in which nothing happens

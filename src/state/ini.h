@@ -1,7 +1,8 @@
 #pragma once
 // Text of an INI file, read key by key as users of such files know it: section and key without regard to case, blanks
 // around names and values trimmed, one pair of quotes around a value dropped, lines that begin with ';' are comments,
-// the first match wins, line ends CR LF or LF, a UTF-8 byte-order mark skipped. Any bytes are acceptable input.
+// the first match wins (a section may come in several pieces), line ends CR LF or LF, a UTF-8 byte-order mark skipped.
+// Any bytes are acceptable input.
 
 #include <string>
 #include <string_view>

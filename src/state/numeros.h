@@ -10,15 +10,19 @@
 namespace duktores {
 
 /// The default conversion of a double: up to 15 significant digits in general form, no trailing zeros, exponent as
-/// E+15; decimal mark of the system.
+/// E+15; decimal mark of the system. Zero has no sign; what is not finite gives "inf", "-inf" or "nan".
 std::string TextoDeNumero(double v);
 
-/// The number at the left of a text, after blanks: sign, digits, point, decimals, exponent; 0 if there is none. Always a
-/// finite number.
+/// The number at the left of a text, after blanks: sign, digits, point, decimals, exponent; 0 if there is none or if it
+/// is beyond the range of a double. Always a finite number.
 double NumeroIzquierda(std::string_view texto);
 
+/// Reads what TextoDeNumero has written, under either mark; other texts as NumeroIzquierda does. A number that went
+/// this way has kept 15 significant digits.
+double NumeroDeTexto(std::string_view texto);
+
 /// The number that a field holds: the whole text but blanks around it, an optional minus first, digits with at most one
-/// point or comma, at least one digit. Empty if it isn't such a number or too large for a double.
+/// point or comma, at least one digit. Empty if it isn't such a number or beyond the range of a double.
 std::optional<double> NumeroDeCampo(std::string_view texto);
 
 /// Rounded half to even; 0 when out of range.

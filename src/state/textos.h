@@ -1,7 +1,6 @@
 #pragma once
-// The texts that reach a user, in seven languages, by number. Texts are UTF-8. A text id is the language base
-// `estado.dIdioma` plus the text number; the short labels 51 to 56, 59 and 60 are the same everywhere and read at their
-// own number.
+// The texts that reach a user, in seven languages, by number. Texts are UTF-8. A text id is the language base plus the
+// text number; the short labels 51 to 56, 59 and 60 are the same everywhere and have no id but their own number.
 
 #include <string>
 #include <string_view>
@@ -12,7 +11,7 @@ namespace duktores {
 
 inline constexpr double kChino = 60000.0;  ///< language base of Chinese
 
-/// Text of an id. An id without a text is an error of the run: std::out_of_range.
+/// Text of an id, whatever the configured language. An id without a text is an error of the run: std::out_of_range.
 std::string TextoIdioma(double id);
 
 /// Text number `n` in the configured language.

@@ -3,8 +3,8 @@
 // services that the engines ask for, and a view that answers picks and repaints. The engines get it as `axew`.
 //
 // Coordinates are model coordinates in the configured unit, angles of the operations degrees. Entities are named by ids
-// from 1 upwards that are never used twice, EwClear included. An id that names no entity, or one of the wrong kind, makes
-// a changing operation do nothing and a reading one answer false or 0; nothing here crashes on it.
+// from 1 upwards that are never used twice, EwClear included. An id that names no entity, or one of the wrong kind,
+// makes a changing operation do nothing and a reading one answer false or 0; nothing here crashes on it.
 
 #include <cstdint>
 #include <optional>
@@ -25,7 +25,7 @@ struct Entidad {
   std::int32_t color = 7;      ///< colour index 0..255, or a value of EwRgb
   std::vector<Punto3> puntos;  ///< point: itself; line: both ends; circle, ellipse, arc: centre; text: where it starts;
                                ///< outline, polyline, region: the vertices, the first not repeated
-  Punto3 u, v;                 ///< curves: centre + u*cos t + v*sin t; texts: baseline and up, each one text height long
+  Punto3 u, v;  ///< curves: centre + u*cos t + v*sin t; texts: baseline and up, each one text height long
   double inicio = 0, fin = 0;  ///< curves: t runs from `inicio` to `fin`, radians, inicio <= fin
   std::string texto, fuente;   ///< texts: UTF-8, font name
 };
@@ -70,8 +70,8 @@ class EWdraw {
   std::int32_t EwAddCircle(Punto3 centro, double radio, Punto3 normal);
   /// The first semi-axis lies along X for the normal (0, 0, 1); for others along the DXF arbitrary axis.
   std::int32_t EwAddEllipse(Punto3 centro, double semiejeX, double semiejeY, Punto3 normal);
-  /// From `angIni` to `angFin` degrees, counter-clockwise seen against the normal; whole turns are added to angFin until
-  /// it is not below angIni.
+  /// From `angIni` to `angFin` degrees, counter-clockwise seen against the normal; whole turns are added to angFin
+  /// until it is not below angIni.
   std::int32_t EwAddArc(Punto3 centro, double radio, double angIni, double angFin, Punto3 normal);
   std::int32_t EwAddText(std::string_view texto, std::string_view fuente, Punto3 p, double altura, double angulo);
 
@@ -108,9 +108,9 @@ class EWdraw {
   bool EwIntersectPoint(std::int32_t indice, double& x, double& y, double& z) const;  ///< of the last EwIntersect
 
   // View.
-  void EwInicia(bool inicia);
+  void EwInicia(bool inicia);  ///< true: no entities, seen from above
   void EwViewMode(std::int32_t modo);
-  void EwViewDirection(double x, double y, double z);
+  void EwViewDirection(double x, double y, double z);  ///< the place to look from; without a length nothing changes
   void EwRegen();
   /// Blocks until the view has given a point; throws EleccionRechazada if it refuses or there is no view.
   void EwPickPoint(double& x, double& y, double& z);
@@ -132,6 +132,8 @@ class EWdraw {
   std::int32_t Anade(Entidad entidad);
   Entidad* Busca(std::int32_t id);
   const Entidad* Busca(std::int32_t id) const;
+  const Entidad* BuscaCerrada(std::int32_t id) const;  // an outline or region, else null
+  void Manda(MandoVista mando);
 
   std::vector<Entidad> entidades_;  // in ascending order of ids
   std::int32_t ultimoId_ = 0;

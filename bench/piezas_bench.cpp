@@ -1,0 +1,105 @@
+// One whole piece from its values to its DXF text, the number texts, and the writer.
+
+#include <benchmark/benchmark.h>
+
+#include <charconv>
+#include <filesystem>
+#include <random>
+
+#include "dxf/dibujo.h"
+#include "dxf/escritor.h"
+#include "dxf/numero_dxf.h"
+#include "shell/corrida.h"
+#include "state/estado.h"
+
+namespace {
+
+using namespace duktores;
+
+void PonPieza(std::int16_t divisiones) {
+  estado = {};
+  estado.sRutaPrograma = RAIZ_DATOS;
+  estado.sTipoPieza = "TransCR";
+  estado.dL1Base = 400;
+  estado.dL2Base = 300;
+  estado.dRadioAlto = 100;
+  estado.dAltura = 300;
+  estado.dAx = 30;
+  estado.dAlfa = 12;
+  estado.iPosIni = 1;
+  estado.iDivisiones = divisiones;
+}
+
+void Desarrollo(benchmark::State& s) {
+  PonPieza(static_cast<std::int16_t>(s.range(0)));
+  EWdraw axew;
+  for (auto _ : s) {
+    Desplegado(axew);
+    benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
+  }
+}
+BENCHMARK(Desarrollo)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+
+std::vector<double> Numeros() {
+  std::mt19937 azar(1);
+  std::uniform_real_distribution<double> u(-1500, 1500);
+  std::vector<double> numeros(6000);
+  for (double& v : numeros) v = u(azar);
+  return numeros;
+}
+
+void NumerosSinMas(benchmark::State& s) {
+  const auto numeros = Numeros();
+  std::vector<char> destino(numeros.size() * 32);
+  for (auto _ : s) {
+    char* fin = destino.data();
+    for (const double v : numeros) fin = std::to_chars(fin, fin + 32, v, std::chars_format::general, 15).ptr;
+    benchmark::DoNotOptimize(destino.data());
+    benchmark::ClobberMemory();
+  }
+  s.SetItemsProcessed(s.iterations() * static_cast<std::int64_t>(numeros.size()));
+}
+BENCHMARK(NumerosSinMas)->Unit(benchmark::kMicrosecond);
+
+void NumerosDxf(benchmark::State& s) {
+  const auto numeros = Numeros();
+  for (auto _ : s) {
+    std::string destino;
+    for (const double v : numeros) AnadeDxfNumero(destino, v);
+    benchmark::DoNotOptimize(destino.data());
+  }
+  s.SetItemsProcessed(s.iterations() * static_cast<std::int64_t>(numeros.size()));
+}
+BENCHMARK(NumerosDxf)->Unit(benchmark::kMicrosecond);
+
+// The same numbers as lines of a drawing, six to a line, of which the two z are 0.
+std::shared_ptr<cDrawing> Lineas() {
+  const auto numeros = Numeros();
+  estado.iHandleDxf = 500;
+  auto dibujo = std::make_shared<cDrawing>();
+  for (std::size_t i = 0; i + 4 <= numeros.size(); i += 4) {
+    cLine linea{.x1 = numeros[i], .y1 = numeros[i + 1], .x2 = numeros[i + 2], .y2 = numeros[i + 3]};
+    dibujo->InsertLine(&linea);
+  }
+  return dibujo;
+}
+
+void LineasEnTexto(benchmark::State& s) {
+  for (auto _ : s) benchmark::DoNotOptimize(Lineas()->GetEntities().data());
+  s.SetItemsProcessed(s.iterations() * 6000);
+}
+BENCHMARK(LineasEnTexto)->Unit(benchmark::kMicrosecond);
+
+void Save(benchmark::State& s) {
+  PonPieza(120);
+  cDXF dxf;
+  dxf.InsertEntities(Lineas());
+  const auto fichero = std::filesystem::temp_directory_path() / "duktores_bench.dxf";
+  for (auto _ : s) {
+    if (!dxf.Save(fichero.string())) s.SkipWithError("not saved");
+  }
+  std::filesystem::remove(fichero);
+}
+BENCHMARK(Save)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

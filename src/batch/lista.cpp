@@ -1,0 +1,121 @@
+#include "batch/lista.h"
+
+#include <algorithm>
+#include <charconv>
+#include <nlohmann/json.hpp>
+#include <set>
+
+namespace duktores {
+
+namespace {
+
+using nlohmann::json;
+
+// A key that stands twice in an object would silently lose one of its values: the parser's callback notes it.
+struct ClavesRepetidas {
+  int trabajo = -1;
+  std::set<std::string> claves;
+  std::vector<std::optional<std::string>> repetidas;
+
+  bool operator()(int profundidad, json::parse_event_t suceso, json& valor) {
+    if (profundidad == 1 && suceso != json::parse_event_t::object_end && suceso != json::parse_event_t::array_end &&
+        suceso != json::parse_event_t::key) {
+      repetidas.resize(static_cast<std::size_t>(++trabajo) + 1);
+      claves.clear();
+    }
+    if (profundidad == 2 && suceso == json::parse_event_t::key && trabajo >= 0) {
+      const auto clave = valor.get<std::string>();
+      if (!claves.insert(clave).second) repetidas.back() = clave;
+    }
+    return true;
+  }
+};
+
+// A number as a person would type it: plain decimals, no exponent.
+std::string TextoDe(const json& valor) {
+  if (valor.is_string()) return valor.get<std::string>();
+  if (!valor.is_number_float()) return valor.dump();
+  std::string texto(400, '\0');
+  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor.get<double>(), std::chars_format::fixed);
+  texto.resize(static_cast<std::size_t>(fin.ptr - texto.data()));
+  return texto;
+}
+
+bool EsNombre(const std::string& nombre) {
+  return !nombre.empty() && std::none_of(nombre.begin(), nombre.end(), [](unsigned char c) {
+    return c == '/' || c == '\\' || c < ' ';
+  });
+}
+
+std::optional<std::vector<Punto2>> LeePuntos(const json& valor) {
+  std::vector<Punto2> puntos;
+  if (!valor.is_array()) return std::nullopt;
+  for (const json& punto : valor) {
+    if (!punto.is_array() || punto.size() != 2 || !punto[0].is_number() || !punto[1].is_number()) return std::nullopt;
+    puntos.push_back({punto[0].get<double>(), punto[1].get<double>()});
+  }
+  return puntos;
+}
+
+void LeeClave(Trabajo& trabajo, const std::string& clave, const json& valor) {
+  if (clave == "picks") {
+    trabajo.puntos = LeePuntos(valor);
+    if (!trabajo.puntos) trabajo.rechazo = {clave, "must be an array of points [x, y]."};
+  } else if (clave == "name" || clave == "piece") {
+    if (!valor.is_string()) {
+      trabajo.rechazo = {clave, "must be a text."};
+    } else {
+      (clave == "name" ? trabajo.nombre : trabajo.pieza) = valor.get<std::string>();
+    }
+  } else if (valor.is_number() || valor.is_string()) {
+    trabajo.valores.emplace_back(clave, TextoDe(valor));
+  } else {
+    trabajo.rechazo = {clave, "must be a number or a text."};
+  }
+}
+
+Trabajo LeeTrabajo(const json& objeto) {
+  Trabajo trabajo;
+  if (!objeto.is_object()) {
+    trabajo.rechazo = {"job", "must be an object."};
+    return trabajo;
+  }
+  for (const auto& [clave, valor] : objeto.items()) {
+    LeeClave(trabajo, clave, valor);
+  }
+  if (!trabajo.rechazo && !objeto.contains("name")) trabajo.rechazo = {"name", "is missing."};
+  if (!trabajo.rechazo && !objeto.contains("piece")) trabajo.rechazo = {"piece", "is missing."};
+  if (!trabajo.rechazo && !EsNombre(trabajo.nombre)) {
+    trabajo.rechazo = {"name", "must be a file name: not empty, no folder separators, no control characters."};
+  }
+  return trabajo;
+}
+
+}  // namespace
+
+std::vector<Trabajo> LeeLista(const std::string& texto) {
+  ClavesRepetidas repetidas;
+  json lista;
+  try {
+    lista = json::parse(texto, std::ref(repetidas));
+  } catch (const json::exception& error) {
+    throw ErrorLista(error.what());
+  }
+  if (!lista.is_array()) throw ErrorLista("it must be one array of objects, one object a piece.");
+
+  std::vector<Trabajo> trabajos;
+  std::set<std::string> nombres;
+  for (std::size_t i = 0; i < lista.size(); ++i) {
+    Trabajo trabajo = LeeTrabajo(lista[i]);
+    if (repetidas.repetidas[i]) trabajo.rechazo = {*repetidas.repetidas[i], "stands twice in the job."};
+    if (!EsNombre(trabajo.nombre)) {
+      trabajo.nombre = "job " + std::to_string(i + 1);
+    } else if (!nombres.insert(trabajo.nombre).second && !trabajo.rechazo) {
+      trabajo.rechazo = {"name", "stands on another job too."};
+    }
+    trabajos.push_back(std::move(trabajo));
+  }
+  return trabajos;
+}
+
+}  // namespace duktores

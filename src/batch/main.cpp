@@ -1,0 +1,168 @@
+// duktores-batch: a list of pieces becomes a folder of drawings.
+
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <QGuiApplication>
+#include <atomic>
+#include <condition_variable>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+#include "batch/lista.h"
+#include "batch/trabajo.h"
+#include "dxf/escritor.h"
+#include "state/arranque.h"
+#include "state/error_corrida.h"
+#include "state/estado.h"
+#include "state/textos.h"
+
+namespace {
+
+using namespace duktores;
+
+constexpr int kTodoEscrito = 0, kAlgoRechazado = 1, kNadaHecho = 2;
+
+struct Ordenes {
+  std::string lista, configuracion;
+  Opciones opciones;
+  bool png = false, svg = false, pdf = false;
+  unsigned hilos = std::max(1U, std::thread::hardware_concurrency());
+};
+
+std::optional<std::string> LeeTodo(std::istream& entrada) {
+  std::string texto{std::istreambuf_iterator<char>(entrada), {}};
+  if (entrada.bad()) return std::nullopt;
+  return texto;
+}
+
+std::optional<std::string> LeeFichero(const std::string& ruta) {
+  if (ruta == "-") return LeeTodo(std::cin);
+  std::error_code error;
+  if (std::filesystem::is_directory(ruta, error)) return std::nullopt;
+  std::ifstream entrada(ruta, std::ios::binary);
+  return entrada ? LeeTodo(entrada) : std::nullopt;
+}
+
+std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
+  if (resultado.rechazo) {
+    return trabajo.nombre + ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
+  }
+  return trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero);
+}
+
+// Works the jobs on several threads and answers in the order of the list. Each thread has its own program state.
+int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
+  const EstadoPrograma configurado = estado;
+  std::vector<std::optional<Resultado>> resultados(trabajos.size());
+  std::atomic<std::size_t> siguiente{0};
+  std::mutex cerrojo;
+  std::condition_variable hecho;
+
+  const auto obrero = [&] {
+    for (std::size_t i = siguiente++; i < trabajos.size(); i = siguiente++) {
+      estado = configurado;
+      Resultado resultado;
+      try {
+        resultado = Trabaja(trabajos[i], ordenes.opciones);
+      } catch (const std::exception& error) {
+        resultado.rechazo = {"job", error.what()};
+      }
+      const std::lock_guard guarda(cerrojo);
+      resultados[i] = std::move(resultado);
+      hecho.notify_one();
+    }
+  };
+  std::vector<std::jthread> hilos;
+  const std::size_t cuantos = std::min<std::size_t>(ordenes.hilos, trabajos.size());
+  for (std::size_t i = 0; i < cuantos; ++i) hilos.emplace_back(obrero);
+
+  const bool terminal = isatty(STDERR_FILENO) != 0;
+  bool rechazado = false;
+  for (std::size_t i = 0; i < trabajos.size(); ++i) {
+    std::unique_lock guarda(cerrojo);
+    hecho.wait(guarda, [&] { return resultados[i].has_value(); });
+    guarda.unlock();
+    if (terminal) std::cerr << "\r\033[K" << std::flush;
+    std::cout << Linea(trabajos[i], *resultados[i]) << '\n' << std::flush;
+    if (terminal && i + 1 < trabajos.size()) std::cerr << i + 1 << " of " << trabajos.size() << std::flush;
+    rechazado = rechazado || resultados[i]->rechazo.has_value();
+  }
+  if (!std::cout) {
+    std::cerr << "duktores-batch: the answers can't be written\n";
+    return kAlgoRechazado;
+  }
+  return rechazado ? kAlgoRechazado : kTodoEscrito;
+}
+
+int Falla(const std::string& texto) {
+  std::cerr << "duktores-batch: " << texto << '\n';
+  return kNadaHecho;
+}
+
+int Ejecuta(const Ordenes& ordenes) {
+  Arranca(RutaEjecutable(), ordenes.configuracion);
+  if (!ordenes.configuracion.empty() && !LeeFichero(ordenes.configuracion)) {
+    return Falla("can't read the configuration file " + ordenes.configuracion);
+  }
+  const auto texto = LeeFichero(ordenes.lista);
+  if (!texto) return Falla("can't read the job list " + ordenes.lista);
+  std::vector<Trabajo> trabajos;
+  try {
+    trabajos = LeeLista(*texto);
+  } catch (const ErrorLista& error) {
+    return Falla(ordenes.lista + " is no job list: " + error.what());
+  }
+  if (!ordenes.opciones.soloComprueba) {
+    if (!HayPlantilla()) return Falla(Texto(kTextoPlantilla) + " " + RutaPlantilla());
+    std::error_code error;
+    std::filesystem::create_directories(ordenes.opciones.carpeta, error);
+    if (!std::filesystem::is_directory(ordenes.opciones.carpeta, error)) {
+      return Falla("can't make the output folder " + ordenes.opciones.carpeta);
+    }
+  }
+  return TrabajaTodos(trabajos, ordenes);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Ordenes ordenes;
+  CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
+  app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
+  app.add_option("JOBS.json", ordenes.lista, "job list; - for standard input")->required();
+  app.add_option("--config", ordenes.configuracion, "configuration file; default: Config/Config.ini of the installation")
+      ->type_name("FILE");
+  app.add_option("--out", ordenes.opciones.carpeta, "folder of the drawings, made if missing")
+      ->type_name("DIR")
+      ->capture_default_str();
+  app.add_flag("--png", ordenes.png, "a PNG picture of each pattern beside its drawing");
+  app.add_flag("--svg", ordenes.svg, "the same as SVG");
+  app.add_flag("--pdf", ordenes.pdf, "the same as PDF");
+  app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
+  app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1024));
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
+  }
+  if (ordenes.png) ordenes.opciones.imagenes.push_back(Formato::png);
+  if (ordenes.svg) ordenes.opciones.imagenes.push_back(Formato::svg);
+  if (ordenes.pdf) ordenes.opciones.imagenes.push_back(Formato::pdf);
+
+  // Texts of a picture need fonts, which need the application object; no screen is needed for either.
+  std::unique_ptr<QGuiApplication> qt;
+  if (!ordenes.opciones.imagenes.empty()) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qt = std::make_unique<QGuiApplication>(argc, argv);
+  }
+  return Ejecuta(ordenes);
+}

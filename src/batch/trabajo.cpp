@@ -1,0 +1,136 @@
+#include "batch/trabajo.h"
+
+#include <algorithm>
+
+#include "batch/puntos_lote.h"
+#include "dialogs/dialogo.h"
+#include "dxf/escritor.h"
+#include "shell/corrida.h"
+#include "state/caracteres.h"
+#include "state/error_corrida.h"
+#include "state/estado.h"
+#include "state/textos.h"
+
+namespace duktores {
+
+namespace {
+
+// Keeps the last message for the answer line.
+class PlataformaLote : public Plataforma {
+ public:
+  void CajaMensaje(std::string_view texto, EstiloMensaje, std::string_view) override { mensaje = texto; }
+  void VentanaMensaje(std::string_view texto) override { mensaje = texto; }
+  std::string mensaje;
+};
+
+std::string Palabra(const Dialogo& dialogo, int campo) {
+  return std::string(dialogo.Definicion().campos[static_cast<std::size_t>(campo)].palabra);
+}
+
+std::string Lista(std::span<const std::string_view> valores) {
+  std::string lista;
+  for (const auto valor : valores) (lista += lista.empty() ? "" : ", ") += valor;
+  return lista;
+}
+
+// Key by key, as a person would.
+std::optional<std::string> EscribeCampo(Dialogo& dialogo, int campo, const std::string& texto) {
+  const DefCampo& def = dialogo.Definicion().campos[static_cast<std::size_t>(campo)];
+  if (!def.filtro) {
+    if (dialogo.Elige(campo, texto)) return std::nullopt;
+    return "\"" + texto + "\" is none of " + Lista(def.valores) + ".";
+  }
+  SeleccionaTodo(dialogo.CampoDe(campo));
+  for (const char16_t tecla : Utf16(texto)) {
+    if (!Teclea(tecla, dialogo.CampoDe(campo), def.filtro)) {
+      return "\"" + texto + "\" can't be typed into this field.";
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> EscribeValor(Dialogo& dialogo, const std::string& clave, const std::string& texto) {
+  const auto campos = dialogo.Definicion().campos;
+  if (clave == "Pieces" && dialogo.Definicion().opcionPiezas) {
+    if (texto != "1" && texto != "2") return "\"" + texto + "\" is none of 1, 2.";
+    dialogo.dosPiezas = texto == "2";
+    return std::nullopt;
+  }
+  const auto campo = std::find_if(campos.begin(), campos.end(), [&](const DefCampo& c) { return c.palabra == clave; });
+  if (campo == campos.end()) return "is no key of this piece.";
+  return EscribeCampo(dialogo, static_cast<int>(campo - campos.begin()), texto);
+}
+
+std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, const PlataformaLote& plataforma) {
+  for (const auto& [clave, texto] : trabajo.valores) {
+    if (auto motivo = EscribeValor(dialogo, clave, texto)) return Rechazo{clave, *motivo};
+  }
+  switch (dialogo.CmdAceptar()) {
+    case Respuesta::campoVacio: return Rechazo{Palabra(dialogo, dialogo.Foco()), plataforma.mensaje};
+    case Respuesta::datoErroneo: return Rechazo{Palabra(dialogo, dialogo.Foco()), dialogo.lblerror()};
+    case Respuesta::aceptado: break;
+  }
+  return std::nullopt;
+}
+
+std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, PlataformaLote& plataforma) {
+  PuntosLote puntos(trabajo.puntos);
+  axew.PonVista(&puntos);
+  plataforma.mensaje.clear();
+  const FinCorrida fin = Desplegado(axew);
+  axew.PonVista(nullptr);
+  switch (fin) {
+    case FinCorrida::completo: return std::nullopt;
+    case FinCorrida::eleccionRechazada:
+      return Rechazo{"picks", "pick " + std::to_string(trabajo.puntos->size() + 1) + " is missing."};
+    case FinCorrida::error: break;
+  }
+  return Rechazo{"piece", plataforma.mensaje.empty() ? "the unfolding failed." : plataforma.mensaje};
+}
+
+std::string Sufijo(Formato formato) {
+  switch (formato) {
+    case Formato::png: return ".png";
+    case Formato::svg: return ".svg";
+    case Formato::pdf: break;
+  }
+  return ".pdf";
+}
+
+std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const Opciones& opciones) {
+  const auto noGuardado = [](const std::string& ruta) {
+    return Rechazo{"name", Texto(kTextoNoGuardado) + " " + ruta};
+  };
+  const std::string dxf = base + ".dxf";
+  if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(dxf)) return noGuardado(dxf);
+  for (const Formato formato : opciones.imagenes) {
+    const std::string imagen = base + Sufijo(formato);
+    if (!GuardaImagen(axew, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
+  if (trabajo.rechazo) return {"", trabajo.rechazo};
+  const DefDialogo* def = DialogoDe(trabajo.pieza);
+  if (!def) return {"", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
+
+  PlataformaLote plataforma;
+  estado.plataforma = &plataforma;
+  Dialogo dialogo(*def);
+  EWdraw axew;
+  Resultado resultado;
+  resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
+  if (!resultado.rechazo && !opciones.soloComprueba) {
+    const std::string base = opciones.carpeta + "/" + trabajo.nombre;
+    resultado.rechazo = Desarrolla(axew, trabajo, plataforma);
+    if (!resultado.rechazo) resultado.rechazo = Guarda(axew, base, opciones);
+    if (!resultado.rechazo) resultado.fichero = base + ".dxf";
+  }
+  estado.plataforma = nullptr;
+  return resultado;
+}
+
+}  // namespace duktores

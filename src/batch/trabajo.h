@@ -1,0 +1,29 @@
+#pragma once
+// One job from its list entry to its drawing: types the values into the dialog, presses CmdAceptar, unfolds, saves. All
+// in the calling thread, on that thread's `estado`.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "batch/lista.h"
+#include "paint/pintura.h"
+
+namespace duktores {
+
+struct Opciones {
+  std::string carpeta = ".";
+  std::vector<Formato> imagenes;
+  bool soloComprueba = false;
+};
+
+/// What was written (empty with `soloComprueba`), or why not.
+struct Resultado {
+  std::string fichero;
+  std::optional<Rechazo> rechazo;
+};
+
+/// `estado` is as the configuration leaves it; the job changes it.
+Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones);
+
+}  // namespace duktores

@@ -1,0 +1,92 @@
+#pragma once
+// The dialogs as plain objects. A dialog is a table of fields, a table of checks and a function that stores the values in
+// `estado`; the window shows it, the batch program types into it. CmdAceptar answers what the user would see.
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "dialogs/campo.h"
+
+namespace duktores {
+
+enum class Rotulo {
+  longitud,         ///< the word and the unit
+  angulo,           ///< the word and "degrees"; in Chinese a text alone
+  texto,            ///< a text
+  textoDosPuntos,   ///< a text that ends in a colon, which Chinese leaves out
+};
+
+struct DefCampo {
+  std::string_view nombre;   ///< of the control
+  std::string_view palabra;  ///< on the label, and key of a job
+  Rotulo rotulo;
+  int textoRotulo;                            ///< of `texto` and `textoDosPuntos`; of `angulo` in Chinese
+  Filtro filtro;                              ///< null: a combo box, which the keyboard can't fill
+  std::span<const std::string_view> valores;  ///< of a combo box
+};
+
+/// The numbers of the fields, in their order.
+using Valores = std::vector<double>;
+
+struct Comprobacion {
+  int campo;  ///< takes the focus when the check fails
+  bool (*falla)(const Valores& v);
+};
+
+struct DefDialogo {
+  std::string_view nombre;  ///< of the window
+  std::string_view clave;   ///< piece type key
+  int textoTitulo;
+  int textoVacio;  ///< message: a field is empty
+  int textoError;  ///< error label: a check failed
+  std::span<const DefCampo> campos;
+  std::span<const Comprobacion> comprobaciones;
+  bool opcionPiezas;  ///< has OpUnapieza and OpDosPiezas
+  void (*guarda)(const Valores& v, bool dosPiezas);
+};
+
+enum class Respuesta { aceptado, campoVacio, datoErroneo };
+
+class Dialogo {
+ public:
+  /// All fields empty, no combo chosen, two pieces. `def` must outlive the dialog.
+  explicit Dialogo(const DefDialogo& def);
+
+  const DefDialogo& Definicion() const { return *def_; }
+  /// The window's caption; none in Chinese, where the designed one stays.
+  std::optional<std::string> Titulo() const;
+  std::string TextoRotulo(int campo) const;
+
+  Campo& CampoDe(int campo) { return campos_.at(static_cast<std::size_t>(campo)); }
+  const Campo& CampoDe(int campo) const { return campos_.at(static_cast<std::size_t>(campo)); }
+  /// Takes one of a combo box's values; false for any other text.
+  bool Elige(int campo, std::string_view valor);
+
+  bool dosPiezas = true;
+
+  /// Checks the fields and stores them in `estado`. What is refused is told: an empty field by a message box, a failed
+  /// check in lblerror(). Foco() is then the field to mend.
+  Respuesta CmdAceptar();
+
+  void Activa() { foco_ = 0; }
+  int Foco() const { return foco_; }
+  const std::string& lblerror() const { return lblerror_; }
+
+ private:
+  /// The numbers of all fields, or the index of the first that holds none.
+  std::optional<int> LeeCampos(Valores& v) const;
+
+  const DefDialogo* def_;
+  std::vector<Campo> campos_;
+  int foco_ = 0;
+  std::string lblerror_;
+};
+
+/// The dialog of a piece type key; null if there is none.
+const DefDialogo* DialogoDe(std::string_view clave);
+
+}  // namespace duktores

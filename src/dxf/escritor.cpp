@@ -1,0 +1,189 @@
+#include "dxf/escritor.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "dxf/dibujo.h"
+#include "dxf/numero_dxf.h"
+#include "state/caracteres.h"
+#include "state/estado.h"
+
+namespace duktores {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Copies the lines of a template, one after the other, with CR LF behind each.
+class Copiadora {
+ public:
+  Copiadora(std::string_view plantilla, std::string& destino) : resto_(plantilla), destino_(destino) {}
+
+  /// False at the end of the template.
+  bool Lee(std::string_view& linea) {
+    if (resto_.empty()) return false;
+    const std::size_t fin = std::min(resto_.find('\n'), resto_.size());
+    linea = resto_.substr(0, fin);
+    resto_.remove_prefix(std::min(fin + 1, resto_.size()));
+    if (linea.ends_with('\r')) linea.remove_suffix(1);
+    return true;
+  }
+  bool Copia(int lineas) {
+    std::string_view linea;
+    for (int i = 0; i < lineas; ++i) {
+      if (!Lee(linea)) return false;
+      Escribe(linea);
+    }
+    return true;
+  }
+  void Escribe(std::string_view linea) {
+    destino_ += linea;
+    destino_ += "\r\n";
+  }
+
+ private:
+  std::string_view resto_;
+  std::string& destino_;
+};
+
+/// Copies `lineas` lines and writes a number in place of the one after them.
+struct Sustitucion {
+  int lineas;
+  double valor;
+};
+
+/// What follows on a line that reads like `marca` in any mix of case.
+struct Regla {
+  std::string_view marca;
+  std::vector<Sustitucion> sustituciones;
+};
+
+std::vector<Regla> Reglas() {
+  const VistaDxf vista = VistaDeExtension();
+  return {{"$EXTMIN", {{1, estado.ExtMinX}, {1, estado.ExtMinY}}},
+          {"$EXTMAX", {{1, estado.ExtMaxX}, {1, estado.ExtMaxY}}},
+          {"*ACTIVE", {{11, vista.x}, {1, vista.y}, {25, vista.altura}}}};
+}
+
+bool Aplica(const Regla& regla, Copiadora& copiadora) {
+  std::string_view anterior;
+  for (const auto& [lineas, valor] : regla.sustituciones) {
+    if (!std::isfinite(valor) || !copiadora.Copia(lineas) || !copiadora.Lee(anterior)) return false;
+    copiadora.Escribe(DxfNumeroTexto(valor));
+  }
+  return true;
+}
+
+/// The whole file; false if the template is cut short within a rule or before its entities.
+bool Compone(std::string_view plantilla, std::string_view entidades, std::string& fichero) {
+  const std::vector<Regla> reglas = Reglas();
+  Copiadora copiadora(plantilla, fichero);
+  std::string_view linea;
+  while (copiadora.Lee(linea)) {
+    copiadora.Escribe(linea);
+    const std::string marca = Mayusculas(linea);
+    if (marca == "ENTITIES") {
+      fichero += entidades;
+      while (copiadora.Copia(1)) {
+      }
+      return true;
+    }
+    const auto regla = std::ranges::find(reglas, marca, &Regla::marca);
+    if (regla != reglas.end() && !Aplica(*regla, copiadora)) return false;
+  }
+  return false;
+}
+
+/// The name of the temporary file is this thread's own, so that two savers of one file don't meet in it.
+bool Reemplaza(const std::string& destino, std::string_view contenido) {
+  const std::string temporal = destino + "." + std::to_string(gettid()) + ".tmp";
+  std::ofstream fichero(temporal, std::ios::binary);
+  fichero.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
+  fichero.close();
+  std::error_code fallo;
+  if (fichero) fs::rename(temporal, destino, fallo);
+  const bool hecho = fichero && !fallo;
+  if (!hecho) fs::remove(temporal, fallo);
+  return hecho;
+}
+
+std::string LeeFichero(const std::string& ruta) {
+  std::ifstream fichero(ruta, std::ios::binary);
+  return {std::istreambuf_iterator<char>(fichero), {}};
+}
+
+}  // namespace
+
+bool cGlobals::GetBlockBorder(std::string_view sName, double& xMin, double& yMin, double& zMin, double& xMax,
+                              double& yMax, double& zMax) const {
+  const std::string buscado = Mayusculas(Recorta(sName));
+  const auto bloque = std::ranges::find_if(
+      Blocks_, [&](const auto& candidato) { return Mayusculas(Recorta(candidato->Name)) == buscado; });
+  if (bloque == Blocks_.end()) return false;
+  (*bloque)->GetBorder(xMin, yMin, zMin, xMax, yMax, zMax);
+  return true;
+}
+
+bool cDXF::InsertEntities(std::shared_ptr<cDrawing> Entities) {
+  if (!Entities) return false;
+  Entities_ = std::move(Entities);
+  return true;
+}
+
+bool cDXF::Save(const std::string& sDXFFile) {
+  if (!Entities_) return false;
+  try {
+    EstadoPrograma& e = estado;
+    Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
+    std::string fichero;
+    return Compone(LeeFichero(RutaPlantilla()), Cp1252DeUtf8(Entities_->GetEntities()), fichero) &&
+           Reemplaza(sDXFFile, fichero) && ExisteFichero(sDXFFile);
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+bool cDXF::SetLayers(std::vector<std::string> LayerNames, std::vector<std::int16_t> LayerFlags,
+                     std::vector<std::int16_t> LayerColorIndex, std::vector<std::string> LayerLineTypeName) {
+  return header_.SetLayers(std::move(LayerNames), std::move(LayerFlags), std::move(LayerColorIndex),
+                           std::move(LayerLineTypeName));
+}
+
+int cDXF::GetLayers(std::vector<std::string>& LayerNames, std::vector<std::int16_t>& LayerFlags,
+                    std::vector<std::int16_t>& LayerColorIndex, std::vector<std::string>& LayerLineTypeName) const {
+  return header_.GetLayers(LayerNames, LayerFlags, LayerColorIndex, LayerLineTypeName);
+}
+
+bool cDXF::SetFonts(std::vector<std::string> Fonts, int FontCharSet) {
+  FontCharSet_ = FontCharSet;
+  return header_.SetFonts(std::move(Fonts));
+}
+
+int cDXF::GetFonts(std::vector<std::string>& Fonts, int& FontCharSet) const {
+  FontCharSet = FontCharSet_;
+  return header_.GetFonts(Fonts);
+}
+
+void cDXF::InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks) {
+  if (Blocks.empty()) return;
+  Blocks_.clear();
+  std::ranges::copy_if(Blocks, std::back_inserter(Blocks_), [](const auto& bloque) { return bloque != nullptr; });
+  globals_.SetBlocks(Blocks_);
+}
+
+std::string RutaPlantilla() { return estado.sRutaPrograma + "Template/Template.dxf"; }
+
+bool ExisteFichero(const std::string& ruta) {
+  std::error_code fallo;
+  const auto bytes = fs::file_size(ruta, fallo);
+  return !fallo && bytes > 0;
+}
+
+void SustituyeCaracter(std::string& texto, char busca, char pone) { std::ranges::replace(texto, busca, pone); }
+
+}  // namespace duktores

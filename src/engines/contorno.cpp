@@ -1,0 +1,66 @@
+#include "engines/contorno.h"
+
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+#include "dxf/anotacion.h"
+#include "state/estado.h"
+#include "state/textos.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr int kTextoColocar = 63, kTextoColocarSegunda = 64;
+
+// F(desde) .. F(hasta), the vertices given, and F(desde) again.
+std::vector<Punto2> Contorno(const Transicion& t, int desde, int hasta, std::initializer_list<Punto2> resto) {
+  std::vector<Punto2> contorno;
+  contorno.reserve(static_cast<std::size_t>(hasta - desde + 2) + resto.size());
+  for (int k = desde; k <= hasta; ++k) contorno.push_back(t.dPuntosPlano(k));
+  contorno.insert(contorno.end(), resto);
+  contorno.push_back(t.dPuntosPlano(desde));
+  return contorno;
+}
+
+// The outline hangs on the pointer until the pick has placed it.
+void ColocaPieza(EWdraw& axew, int texto, std::vector<Punto2> contorno) {
+  MuestraMensaje(Texto(texto), EstiloMensaje::informacion, "");
+  axew.EwGhost(contorno);
+  Punto3 base;
+  axew.EwPickPoint(base.x, base.y, base.z);
+  for (Punto2& p : contorno) p = p + Punto2{base.x, base.y};
+  estado.PoliContorno = std::move(contorno);
+  DibujaPolilinea(axew, estado.PoliContorno);
+}
+
+void DesarrollaUnaPieza(const Transicion& t, EWdraw& axew, int N) {
+  const auto& C = t.dVerticesPlano;
+  estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
+  DibujaPolilinea(axew, estado.PoliContorno);
+  axew.EwRegen();
+}
+
+void DesarrollaDosPiezas(Transicion& t, EWdraw& axew, int N) {
+  const auto& C = t.dVerticesPlano;
+  const int h = N / 2;
+  CortePieza1(t);
+  ColocaPieza(axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  axew.EwRegen();
+  ColocaPieza(axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  axew.EwRegen();
+}
+
+}  // namespace
+
+void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos) {
+  estado.PoliContorno.clear();
+  if (estado.bDosPiezas) {
+    DesarrollaDosPiezas(t, axew, inumPuntos);
+  } else {
+    DesarrollaUnaPieza(t, axew, inumPuntos);
+  }
+}
+
+}  // namespace duktores

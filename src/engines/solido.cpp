@@ -1,0 +1,19 @@
+#include "engines/solido.h"
+
+namespace duktores {
+
+std::array<Punto3, 4> EsquinasCentradas(double L1, double L2, double z) {
+  const double x = L1 / 2, y = L2 / 2;
+  return {{{x, y, z}, {-x, y, z}, {-x, -y, z}, {x, -y, z}}};
+}
+
+void DibujaRectanguloYGeneratrices(EWdraw& axew, const std::array<Punto3, 4>& esquinas, const Puntos3& boca) {
+  const auto linea = [&](Punto3 p, Punto3 q) { axew.EwSetColor(axew.EwAddLine(p, q), kColorSolido); };
+  for (std::size_t lado = 4; lado > 0; --lado) linea(esquinas[lado % 4], esquinas[lado - 1]);
+  const int q = (boca.Cuenta() - 1) / 4;
+  for (int cuarto = 0; cuarto < 4; ++cuarto) {
+    for (int i = cuarto * q + 1; i <= (cuarto + 1) * q + 1; ++i) linea(esquinas[static_cast<std::size_t>(cuarto)], boca(i));
+  }
+}
+
+}  // namespace duktores

@@ -1,0 +1,35 @@
+#pragma once
+// clTransCR: a circle above a rectangular base. Lengths in the configured unit.
+//
+// In the view (GeneraDibujo) the rectangle is centred at z = 0 and the circle's centre lies at (-Ax, -Ay, Altura). In the
+// development (GeneraPuntos) the rectangle's corner is the origin and the centre lies at (L1/2 + Ax, L2/2 + Ay, Altura).
+// The circle's plane is tilted about the parallel to Y through its centre, in the view by -Inclinacion, in the
+// development by +Inclinacion. Nothing is validated: an impossible piece is drawn badly.
+
+#include <cstdint>
+
+#include "engines/transicion.h"
+#include "viewer/ewdraw.h"
+
+namespace duktores {
+
+class clTransCR {
+ public:
+  /// Draws the solid on the control. `Inclinacion` in degrees.
+  void GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax, double Ay,
+                    double Altura, double Inclinacion, EWdraw& axew);
+
+  /// Computes the points in space and lays them flat. `Inclinacion` in radians, `iInicio` 1 to 4.
+  void GeneraPuntos(EWdraw& axew, double L1Base, double L2Base, double RadioTop, std::int16_t inumDoblado, double Ax,
+                    double Ay, double Altura, double Inclinacion, std::int16_t iInicio);
+
+  /// Draws the pattern of the points that GeneraPuntos has left.
+  void GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos);
+
+  const Transicion& Modelo() const { return modelo_; }
+
+ private:
+  Transicion modelo_;
+};
+
+}  // namespace duktores

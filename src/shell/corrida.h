@@ -1,0 +1,22 @@
+#pragma once
+// The run driver: which engine serves which piece, and the signs and units between the dialogs' values and each engine's
+// arguments. It reads the piece from `estado`.
+
+#include "viewer/ewdraw.h"
+
+namespace duktores {
+
+/// Draws the solid of the current piece on the control. A piece without an engine draws nothing.
+void Dibuja3D(EWdraw& axew);
+
+/// How an unfolding has ended. In all three cases what has been drawn stays.
+enum class FinCorrida { completo, eleccionRechazada, error };
+
+/// Unfolds the current piece into the control and a new `estado.oDrawing`. Never throws: a refused pick ends the run
+/// quietly, an error of the run is told to the user.
+FinCorrida Despliega(EWdraw& axew);
+
+/// What the unfold command does around it: empties the control, looks at it from above, starts the handles at 500.
+FinCorrida Desplegado(EWdraw& axew);
+
+}  // namespace duktores

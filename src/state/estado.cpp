@@ -1,0 +1,7 @@
+#include "state/estado.h"
+
+namespace duktores {
+
+thread_local EstadoPrograma estado;
+
+}  // namespace duktores

@@ -1,0 +1,80 @@
+#include "state/numeros.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+#include "state/caracteres.h"
+#include "state/estado.h"
+
+namespace duktores {
+
+namespace {
+
+bool EsCifra(char c) { return c >= '0' && c <= '9'; }
+
+/// Takes a sign off the front.
+bool QuitaSigno(std::string_view& texto, std::string_view signos) {
+  if (texto.empty() || signos.find(texto.front()) == std::string_view::npos) return false;
+  const bool negativo = texto.front() == '-';
+  texto.remove_prefix(1);
+  return negativo;
+}
+
+/// The number without a sign at the front; empty if there is none or if it is out of range.
+std::optional<double> SinSigno(std::string_view texto, std::chars_format formato) {
+  // from_chars would also take a second sign, "inf" and "nan".
+  if (texto.empty() || !(EsCifra(texto.front()) || texto.front() == '.')) return std::nullopt;
+  double v = 0;
+  if (std::from_chars(texto.data(), texto.data() + texto.size(), v, formato).ec != std::errc()) return std::nullopt;
+  return v;
+}
+
+std::string ConPunto(std::string_view texto) {
+  std::string copia(texto);
+  std::ranges::replace(copia, ',', '.');
+  return copia;
+}
+
+}  // namespace
+
+std::string TextoDeNumero(double v) {
+  std::array<char, 32> letras{};
+  const double sinMenosCero = v == 0 ? 0.0 : v;
+  const auto fin =
+      std::to_chars(letras.data(), letras.data() + letras.size(), sinMenosCero, std::chars_format::general, 15).ptr;
+  std::string texto(letras.data(), fin);
+  std::ranges::replace(texto, 'e', 'E');
+  if (estado.bComaDecimal) std::ranges::replace(texto, '.', ',');
+  return texto;
+}
+
+double NumeroIzquierda(std::string_view texto) {
+  texto = Recorta(texto);
+  const bool negativo = QuitaSigno(texto, "+-");
+  const double v = SinSigno(texto, std::chars_format::general).value_or(0.0);
+  return negativo ? -v : v;
+}
+
+double NumeroDeTexto(std::string_view texto) { return NumeroIzquierda(ConPunto(texto)); }
+
+std::optional<double> NumeroDeCampo(std::string_view texto) {
+  texto = Recorta(texto);
+  const bool negativo = QuitaSigno(texto, "-");
+  const std::string numero = ConPunto(texto);
+  const bool soloCifras = std::ranges::all_of(numero, [](char c) { return EsCifra(c) || c == '.'; });
+  if (!soloCifras || std::ranges::count(numero, '.') > 1) return std::nullopt;
+  const auto v = SinSigno(numero, std::chars_format::fixed);
+  return v && negativo ? std::optional(-*v) : v;
+}
+
+std::int16_t EnteroCorto(double v) {
+  using Limites = std::numeric_limits<std::int16_t>;
+  const double entero = std::nearbyint(v);
+  return entero >= Limites::min() && entero <= Limites::max() ? static_cast<std::int16_t>(entero) : std::int16_t{0};
+}
+
+}  // namespace duktores

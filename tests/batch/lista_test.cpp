@@ -1,0 +1,60 @@
+#include "batch/lista.h"
+
+#include <gtest/gtest.h>
+
+namespace duktores {
+namespace {
+
+TEST(LeeLista, TextsAndNumbersBecomeWhatIsTyped) {
+  const auto trabajos = LeeLista(R"([{"name": "a", "piece": "TransCR", "H": 1e3, "RS": 0.1, "LI": "4,5", "AI": 12345678,
+                                      "AX": 1.5e-7, "picks": [[1, 2.5], [-3, 0]]}])");
+  ASSERT_EQ(trabajos.size(), 1U);
+  EXPECT_FALSE(trabajos[0].rechazo);
+  const std::vector<std::pair<std::string, std::string>> valores{
+      {"AI", "12345678"}, {"AX", "0.00000015"}, {"H", "1000"}, {"LI", "4,5"}, {"RS", "0.1"}};
+  EXPECT_EQ(trabajos[0].valores, valores);
+  EXPECT_EQ(*trabajos[0].puntos, (std::vector<Punto2>{{1, 2.5}, {-3, 0}}));
+}
+
+TEST(LeeLista, RefusesByName) {
+  const struct {
+    const char* trabajo;
+    const char* clave;
+  } casos[]{
+      {R"({"piece": "TransCR"})", "name"},
+      {R"({"name": "", "piece": "TransCR"})", "name"},
+      {R"({"name": "a/b", "piece": "TransCR"})", "name"},
+      {R"({"name": "a\\b", "piece": "TransCR"})", "name"},
+      {R"({"name": "a\u0000", "piece": "TransCR"})", "name"},
+      {R"({"name": 7, "piece": "TransCR"})", "name"},
+      {R"({"name": "a"})", "piece"},
+      {R"({"name": "a", "piece": "TransCR", "H": [1]})", "H"},
+      {R"({"name": "a", "piece": "TransCR", "H": null})", "H"},
+      {R"({"name": "a", "piece": "TransCR", "H": 1, "H": 2})", "H"},
+      {R"({"name": "a", "piece": "TransCR", "picks": [[1]]})", "picks"},
+      {R"({"name": "a", "piece": "TransCR", "picks": 3})", "picks"},
+      {R"([])", "job"},
+      {R"("a")", "job"},
+  };
+  for (const auto& caso : casos) {
+    // A neighbour on each side stays sound.
+    const std::string bueno = R"({"name": "b", "piece": "TransCR", "H": 1})";
+    const auto trabajos = LeeLista("[" + bueno + "," + caso.trabajo + R"(,{"name": "c", "piece": "x"}])");
+    ASSERT_EQ(trabajos.size(), 3U) << caso.trabajo;
+    EXPECT_FALSE(trabajos[0].rechazo || trabajos[2].rechazo) << caso.trabajo;
+    ASSERT_TRUE(trabajos[1].rechazo) << caso.trabajo;
+    EXPECT_EQ(trabajos[1].rechazo->clave, caso.clave) << caso.trabajo;
+  }
+  const auto dobles = LeeLista(R"([{"name": "a", "piece": "x"}, {"name": "a", "piece": "x"}])");
+  EXPECT_FALSE(dobles[0].rechazo);
+  EXPECT_EQ(dobles[1].rechazo->clave, "name");
+}
+
+TEST(LeeLista, WhatIsNoListThrows) {
+  for (const char* texto : {"", "[", "{}", "3", "[{\"name\": \"a\"]", "\xff\xfe", "[1,]"}) {
+    EXPECT_THROW(LeeLista(texto), ErrorLista) << texto;
+  }
+}
+
+}  // namespace
+}  // namespace duktores

@@ -1,0 +1,230 @@
+#include "engines/trans_cr.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "dxf/dibujo.h"
+#include "state/estado.h"
+
+namespace duktores {
+namespace {
+
+struct Pieza {
+  double L1, L2, R;
+  std::int16_t N;
+  double Ax, Ay, H, alfa;
+  std::int16_t iInicio;
+};
+
+Transicion Coloca(const Pieza& p) {
+  EWdraw axew;
+  clTransCR motor;
+  motor.GeneraPuntos(axew, p.L1, p.L2, p.R, p.N, p.Ax, p.Ay, p.H, Radianes(p.alfa), p.iInicio);
+  EXPECT_EQ(axew.EwEntityCount(), 0);
+  return motor.Modelo();
+}
+
+void ExpectPunto(Punto2 p, double x, double y) {
+  EXPECT_NEAR(p.x, x, 0.005);
+  EXPECT_NEAR(p.y, y, 0.005);
+}
+
+TEST(ClTransCR, WorkedPattern) {
+  const Transicion t = Coloca({400, 400, 100, 12, 0, 0, 300, 0, 1});
+  const auto& [F, C] = std::pair(t.dPuntosPlano, t.dVerticesPlano);
+  ExpectPunto(C(4), 200, 0);
+  ExpectPunto(C(3), -200, 0);
+  ExpectPunto(F(7), 0, std::hypot(300, 100));
+  ExpectPunto(F(8), 51.50, 321.42);
+  ExpectPunto(F(13), 213.83, 503.49);
+  ExpectPunto(C(5), 500.92, 263.53);
+  ExpectPunto(C(6), 527.30, 461.78);
+  ExpectPunto(C(1), -527.30, 461.78);
+  for (int i = 1; i <= 6; ++i) {
+    EXPECT_NEAR(F(7 - i).x, -F(7 + i).x, 1e-9);
+    EXPECT_NEAR(F(7 - i).y, F(7 + i).y, 1e-9);
+  }
+}
+
+TEST(ClTransCR, StartPositions) {
+  for (std::int16_t inicio = 1; inicio <= 4; ++inicio) {
+    const Transicion t = Coloca({500, 300, 100, 12, 40, -30, 250, 20, inicio});
+    const bool ladoY = inicio % 2 == 1;
+    const Punto3 P1 = t.dVertices3D(1), S = t.dPtoInicio, Q1 = t.dPuntos3D(1);
+    EXPECT_NEAR(t.dVerticesPlano(4).x, Distancia(S, P1), 1e-9);
+    EXPECT_NEAR(Escalar(P1 - t.dVertices3D(3), Q1 - S), 0, 1e-9) << "Q(1) stands square above the start side";
+    EXPECT_NEAR(Distancia(P1, t.dVertices3D(2)), ladoY ? 500 : 300, 1e-9);
+    EXPECT_LT(Distancia(Q1, S), Distancia(t.dPuntos3D(7), S)) << "Q(1) is on the start's side of the circle";
+    EXPECT_NEAR(Distancia(t.dPuntos3D(14), t.dPuntos3D(7)), 0, 1e-12);
+  }
+}
+
+TEST(ClTransCR, SeamGoesToTheMiddleWhenTheCentreIsOutside) {
+  for (std::int16_t inicio = 1; inicio <= 2; ++inicio) {
+    const double limite = inicio == 1 ? 150 : 200;
+    for (const bool fuera : {false, true}) {
+      const double desvio = fuera ? limite : limite - 0.01;
+      const Transicion t = Coloca({400, 300, 80, 12, inicio == 2 ? desvio : 0, inicio == 1 ? desvio : 0, 300, 0, inicio});
+      EXPECT_EQ(t.bFueraCierre, fuera);
+      EXPECT_FALSE(t.bFueraLado);
+      const Punto2 costura = t.dVerticesPlano(1) - t.dPuntosPlano(1), lado = t.dVerticesPlano(2) - t.dVerticesPlano(1);
+      const double coseno = (costura.x * lado.x + costura.y * lado.y) / std::hypot(costura.x, costura.y);
+      if (fuera) {
+        EXPECT_NEAR(std::hypot(lado.x, lado.y), limite, 0.02);
+      } else {
+        EXPECT_NEAR(coseno, 0, 0.02);
+      }
+    }
+  }
+}
+
+// The greatest difference between a length on the flat pattern and the same length in space.
+double Desviacion(const Transicion& t, double ladoA, double ladoB) {
+  const auto& [Q, P] = std::pair(t.dPuntos3D, t.dVertices3D);
+  const auto& [F, C] = std::pair(t.dPuntosPlano, t.dVerticesPlano);
+  const int N = F.Cuenta() - 1, h = N / 2, q = N / 4;
+  double peor = 0;
+  const auto compara = [&](double plano, double espacio) { peor = std::max(peor, std::abs(plano - espacio)); };
+  // Corners of the four fans, from left to right, flat and in space.
+  const int esquinaPlana[]{2, 3, 4, 5}, esquina[]{4, 3, 1, 2};
+  for (int k = 1; k <= N + 1; ++k) {
+    const Punto3 enEspacio = k > h ? Q(k - h) : Q(N + 3 - k);
+    for (int abanico = 0; abanico < 4; ++abanico) {
+      if (k >= abanico * q + 1 && k <= (abanico + 1) * q + 1) {
+        compara(Distancia(F(k), C(esquinaPlana[abanico])), Distancia(enEspacio, P(esquina[abanico])));
+      }
+    }
+    if (k <= N) compara(Distancia(F(k), F(k + 1)), Distancia(Q(1), Q(2)));
+  }
+  compara(Distancia(C(2), C(3)), ladoA);
+  compara(Distancia(C(3), C(4)), ladoB);
+  compara(Distancia(C(4), C(5)), ladoA);
+  compara(Distancia(C(1), C(2)) + Distancia(C(5), C(6)), ladoB);
+  compara(Distancia(F(1), C(1)), Distancia(F(N + 1), C(6)));
+  return peor;
+}
+
+// Level centres are laid as if exactly level, up to 0.01 apart: no length can be off by more than twice that.
+TEST(ClTransCR, FlatLengthsAreTrueLengths) {
+  const auto semilla = std::random_device{}();
+  std::mt19937 azar(semilla);
+  std::uniform_real_distribution<double> u(0, 1);
+  double peor = 0;
+  for (int i = 0; i < 8000; ++i) {
+    Pieza p{};
+    p.L1 = 50 + 1500 * u(azar);
+    p.L2 = 50 + 1500 * u(azar);
+    p.R = std::max(p.L1, p.L2) / 2 * (0.02 + 0.98 * u(azar));
+    p.N = static_cast<std::int16_t>(12 * (1 + azar() % 10));
+    p.Ax = p.L1 * (2 * u(azar) - 1);
+    p.Ay = p.L2 * (2 * u(azar) - 1);
+    p.H = 10 + 1500 * u(azar);
+    p.alfa = azar() % 3 == 0 ? 0 : 90 * (2 * u(azar) - 1);
+    p.iInicio = static_cast<std::int16_t>(1 + azar() % 4);
+    const bool impar = p.iInicio % 2 == 1;
+    const double desviacion = Desviacion(Coloca(p), impar ? p.L1 : p.L2, impar ? p.L2 : p.L1);
+    ASSERT_LT(desviacion, 0.02) << "seed " << semilla << " piece " << i << ": L1 " << p.L1 << " L2 " << p.L2 << " R "
+                                << p.R << " N " << p.N << " Ax " << p.Ax << " Ay " << p.Ay << " H " << p.H << " alfa "
+                                << p.alfa << " start " << p.iInicio;
+    peor = std::max(peor, desviacion);
+  }
+  RecordProperty("greatest_deviation", std::to_string(peor));
+}
+
+class Elige : public VistaEWdraw {
+ public:
+  std::optional<Punto3> EligePunto(EWdraw& axew) override {
+    fantasmas.push_back(axew.Fantasma());
+    if (puntos.empty()) return std::nullopt;
+    const Punto3 p = puntos.front();
+    puntos.erase(puntos.begin());
+    return p;
+  }
+  std::vector<Punto3> puntos;
+  std::vector<std::vector<Punto2>> fantasmas;
+};
+
+class Desarrollo : public testing::Test {
+ protected:
+  void Prepara(bool dosPiezas) {
+    estado = {};
+    estado.oDrawing = std::make_shared<cDrawing>();
+    estado.iHandleDxf = 500;
+    estado.bDosPiezas = dosPiezas;
+    axew.PonVista(&vista);
+    motor.GeneraPuntos(axew, 400, 300, 100, 24, 20, 10, 300, Radianes(10), 2);
+  }
+  EWdraw axew;
+  Elige vista;
+  clTransCR motor;
+};
+
+TEST_F(Desarrollo, OnePieceIsOneClosedOutline) {
+  Prepara(false);
+  motor.GeneraDesarrollo(axew, 24);
+  EXPECT_EQ(estado.PoliContorno.size(), 24U + 9);
+  EXPECT_EQ(estado.PoliContorno.front(), estado.PoliContorno.back());
+  EXPECT_EQ(estado.oDrawing->Count(), 1);
+  EXPECT_NE(estado.oDrawing->GetEntities().find(" 90\r\n34\r\n"), std::string::npos);
+  EXPECT_TRUE(vista.fantasmas.empty());
+}
+
+TEST_F(Desarrollo, TwoPiecesLieWhereTheyArePicked) {
+  Prepara(true);
+  vista.puntos = {{1000, 200, 0}, {-3000, 50, 0}};
+  motor.GeneraDesarrollo(axew, 24);
+  ASSERT_EQ(estado.oDrawing->Count(), 2);
+  ASSERT_EQ(vista.fantasmas.size(), 2U);
+  const auto& [F, C] = std::pair(motor.Modelo().dPuntosPlano, motor.Modelo().dVerticesPlano);
+  const auto& primera = axew.Entidades()[0].puntos;
+  const auto& segunda = axew.Entidades()[1].puntos;
+  EXPECT_EQ(estado.PoliContorno.size(), 12U + 6);
+  EXPECT_EQ((Punto2{primera[0].x, primera[0].y}), F(1) + (Punto2{1000, 200}));
+  EXPECT_EQ((Punto2{segunda[0].x, segunda[0].y}), F(13) + (Punto2{-3000, 50}));
+  // The cut has the same length on both pieces and ends on the start side.
+  const Punto2 base = motor.Modelo().dCorteBajo;
+  EXPECT_NEAR(base.x, 0, 1e-9);
+  EXPECT_NEAR(base.y, 0, 1e-9);
+  EXPECT_EQ(vista.fantasmas[0][13], base);
+  EXPECT_EQ(vista.fantasmas[1][16], Punto2{});
+}
+
+TEST_F(Desarrollo, ARefusedPickKeepsTheFirstPiece) {
+  Prepara(true);
+  vista.puntos = {{0, 0, 0}};
+  EXPECT_THROW(motor.GeneraDesarrollo(axew, 24), EleccionRechazada);
+  EXPECT_EQ(estado.oDrawing->Count(), 1);
+}
+
+TEST(ClTransCRDibujo, SolidOnTheControl) {
+  EWdraw axew;
+  clTransCR motor;
+  motor.GeneraDibujo(400, 300, 100, 12, -50, -20, 300, -30, axew);
+  ASSERT_EQ(axew.EwEntityCount(), 1 + 4 + 12 + 1 + 3);
+  Caja caja;
+  for (const Entidad& e : axew.Entidades()) {
+    EXPECT_EQ(e.color, 120);
+    const Caja propia = CajaDe(e);
+    caja.Incluye(propia.minimo);
+    caja.Incluye(propia.maximo);
+  }
+  // Tilted by +30 degrees: the side of +X goes down.
+  EXPECT_NEAR(caja.maximo.z, 300 + 100 * std::sin(Radianes(30)), 1e-9);
+  const Entidad& primera = axew.Entidades()[5];
+  EXPECT_NEAR(primera.puntos[1].x, 50 + 100 * std::cos(Radianes(30)), 1e-9);
+  EXPECT_NEAR(primera.puntos[1].z, 300 - 100 * std::sin(Radianes(30)), 1e-9);
+}
+
+TEST(CalculaGiro, EveryQuarter) {
+  EXPECT_DOUBLE_EQ(CalculaGiro(0, 0), dPi / 2);
+  EXPECT_DOUBLE_EQ(CalculaGiro(0, -1), 3 * dPi / 2);
+  EXPECT_DOUBLE_EQ(CalculaGiro(-1, 0), dPi);
+  EXPECT_DOUBLE_EQ(CalculaGiro(1, -1), 7 * dPi / 4);
+  EXPECT_DOUBLE_EQ(CalculaGiro(-1, -1), 5 * dPi / 4);
+  EXPECT_DOUBLE_EQ(CalculaDistCentro(45, 7), 7);
+}
+
+}  // namespace
+}  // namespace duktores

@@ -1,0 +1,11 @@
+#pragma once
+// The text of the drawings' template: a complete AC1015 file without entities, with the view of an empty sheet. Strict
+// readers take it without complaint. Its handles lie below hexadecimal 500, where those of the entities begin.
+
+#include <string>
+
+namespace duktores {
+
+std::string TextoPlantilla();
+
+}  // namespace duktores
