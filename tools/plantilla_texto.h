@@ -6,6 +6,7 @@
 
 namespace duktores {
 
+/// Sets the extent of `estado` to that of the sheet.
 std::string TextoPlantilla();
 
 }  // namespace duktores

@@ -36,15 +36,15 @@ std::string TextoDe(const json& valor) {
   if (valor.is_string()) return valor.get<std::string>();
   if (!valor.is_number_float()) return valor.dump();
   std::string texto(400, '\0');
-  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor.get<double>(), std::chars_format::fixed);
+  const auto fin =
+      std::to_chars(texto.data(), texto.data() + texto.size(), valor.get<double>(), std::chars_format::fixed);
   texto.resize(static_cast<std::size_t>(fin.ptr - texto.data()));
   return texto;
 }
 
 bool EsNombre(const std::string& nombre) {
-  return !nombre.empty() && std::none_of(nombre.begin(), nombre.end(), [](unsigned char c) {
-    return c == '/' || c == '\\' || c < ' ';
-  });
+  return !nombre.empty() &&
+         std::none_of(nombre.begin(), nombre.end(), [](unsigned char c) { return c == '/' || c == '\\' || c < ' '; });
 }
 
 std::optional<std::vector<Punto2>> LeePuntos(const json& valor) {

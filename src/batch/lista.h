@@ -21,8 +21,8 @@ struct Trabajo {
   std::string nombre;  ///< of the drawing; "job 3" where the third job has none
   std::string pieza;
   std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key, in alphabetical order
-  std::optional<std::vector<Punto2>> puntos;                 ///< answers to the picks; none: the program places the shapes
-  std::optional<Rechazo> rechazo;                            ///< what is wrong with the job as it stands in the list
+  std::optional<std::vector<Punto2>> puntos;  ///< answers to the picks; none: the program places the shapes
+  std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };
 
 /// Thrown for a text that is no job list at all.

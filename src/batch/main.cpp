@@ -7,7 +7,6 @@
 #include <atomic>
 #include <condition_variable>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <memory>
@@ -21,6 +20,7 @@
 #include "state/arranque.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
+#include "state/fichero.h"
 #include "state/textos.h"
 
 namespace {
@@ -36,18 +36,10 @@ struct Ordenes {
   unsigned hilos = std::max(1U, std::thread::hardware_concurrency());
 };
 
-std::optional<std::string> LeeTodo(std::istream& entrada) {
-  std::string texto{std::istreambuf_iterator<char>(entrada), {}};
-  if (entrada.bad()) return std::nullopt;
-  return texto;
-}
-
-std::optional<std::string> LeeFichero(const std::string& ruta) {
-  if (ruta == "-") return LeeTodo(std::cin);
-  std::error_code error;
-  if (std::filesystem::is_directory(ruta, error)) return std::nullopt;
-  std::ifstream entrada(ruta, std::ios::binary);
-  return entrada ? LeeTodo(entrada) : std::nullopt;
+std::optional<std::string> TextoLista(const Ordenes& ordenes) {
+  if (ordenes.lista != "-") return LeeFichero(ordenes.lista);
+  std::string texto{std::istreambuf_iterator<char>(std::cin), {}};
+  return std::cin.bad() ? std::nullopt : std::optional(std::move(texto));
 }
 
 std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
@@ -107,21 +99,22 @@ int Falla(const std::string& texto) {
 }
 
 int Ejecuta(const Ordenes& ordenes) {
+  std::error_code error;
   Arranca(RutaEjecutable(), ordenes.configuracion);
-  if (!ordenes.configuracion.empty() && !LeeFichero(ordenes.configuracion)) {
+  const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
+  if (!ordenes.configuracion.empty() && !(regular && LeeFichero(estado.sRutaIni))) {
     return Falla("can't read the configuration file " + ordenes.configuracion);
   }
-  const auto texto = LeeFichero(ordenes.lista);
+  const auto texto = TextoLista(ordenes);
   if (!texto) return Falla("can't read the job list " + ordenes.lista);
   std::vector<Trabajo> trabajos;
   try {
     trabajos = LeeLista(*texto);
-  } catch (const ErrorLista& error) {
-    return Falla(ordenes.lista + " is no job list: " + error.what());
+  } catch (const ErrorLista& motivo) {
+    return Falla(ordenes.lista + " is no job list: " + motivo.what());
   }
   if (!ordenes.opciones.soloComprueba) {
     if (!HayPlantilla()) return Falla(Texto(kTextoPlantilla) + " " + RutaPlantilla());
-    std::error_code error;
     std::filesystem::create_directories(ordenes.opciones.carpeta, error);
     if (!std::filesystem::is_directory(ordenes.opciones.carpeta, error)) {
       return Falla("can't make the output folder " + ordenes.opciones.carpeta);
@@ -137,7 +130,8 @@ int main(int argc, char** argv) {
   CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
   app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
   app.add_option("JOBS.json", ordenes.lista, "job list; - for standard input")->required();
-  app.add_option("--config", ordenes.configuracion, "configuration file; default: Config/Config.ini of the installation")
+  app.add_option("--config", ordenes.configuracion,
+                 "configuration file; default: Config/Config.ini of the installation")
       ->type_name("FILE");
   app.add_option("--out", ordenes.opciones.carpeta, "folder of the drawings, made if missing")
       ->type_name("DIR")
@@ -162,6 +156,7 @@ int main(int argc, char** argv) {
   std::unique_ptr<QGuiApplication> qt;
   if (!ordenes.opciones.imagenes.empty()) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the session
     qt = std::make_unique<QGuiApplication>(argc, argv);
   }
   return Ejecuta(ordenes);

@@ -10,8 +10,8 @@ namespace duktores {
 
 class PuntosLote : public VistaEWdraw {
  public:
-  /// With a list, each pick takes the next point, and one beyond the list is refused. Without one each shape's lower left
-  /// corner goes to the bottom line y = 0, with a gap to what is drawn.
+  /// With a list, each pick takes the next point, and one beyond the list is refused. Without one each shape's lower
+  /// left corner goes to the bottom line y = 0, with a gap to what is drawn.
   explicit PuntosLote(std::optional<std::vector<Punto2>> puntos) : puntos_(std::move(puntos)) {}
 
   std::optional<Punto3> EligePunto(EWdraw& axew) override;

@@ -66,9 +66,12 @@ std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, co
     if (auto motivo = EscribeValor(dialogo, clave, texto)) return Rechazo{clave, *motivo};
   }
   switch (dialogo.CmdAceptar()) {
-    case Respuesta::campoVacio: return Rechazo{Palabra(dialogo, dialogo.Foco()), plataforma.mensaje};
-    case Respuesta::datoErroneo: return Rechazo{Palabra(dialogo, dialogo.Foco()), dialogo.lblerror()};
-    case Respuesta::aceptado: break;
+    case Respuesta::campoVacio:
+      return Rechazo{Palabra(dialogo, dialogo.Foco()), plataforma.mensaje};
+    case Respuesta::datoErroneo:
+      return Rechazo{Palabra(dialogo, dialogo.Foco()), dialogo.lblerror()};
+    case Respuesta::aceptado:
+      break;
   }
   return std::nullopt;
 }
@@ -80,27 +83,30 @@ std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, Platafor
   const FinCorrida fin = Desplegado(axew);
   axew.PonVista(nullptr);
   switch (fin) {
-    case FinCorrida::completo: return std::nullopt;
+    case FinCorrida::completo:
+      return std::nullopt;
     case FinCorrida::eleccionRechazada:
       return Rechazo{"picks", "pick " + std::to_string(trabajo.puntos->size() + 1) + " is missing."};
-    case FinCorrida::error: break;
+    case FinCorrida::error:
+      break;
   }
   return Rechazo{"piece", plataforma.mensaje.empty() ? "the unfolding failed." : plataforma.mensaje};
 }
 
 std::string Sufijo(Formato formato) {
   switch (formato) {
-    case Formato::png: return ".png";
-    case Formato::svg: return ".svg";
-    case Formato::pdf: break;
+    case Formato::png:
+      return ".png";
+    case Formato::svg:
+      return ".svg";
+    case Formato::pdf:
+      break;
   }
   return ".pdf";
 }
 
 std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const Opciones& opciones) {
-  const auto noGuardado = [](const std::string& ruta) {
-    return Rechazo{"name", Texto(kTextoNoGuardado) + " " + ruta};
-  };
+  const auto noGuardado = [](const std::string& ruta) { return Rechazo{"name", Texto(kTextoNoGuardado) + " " + ruta}; };
   const std::string dxf = base + ".dxf";
   if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(dxf)) return noGuardado(dxf);
   for (const Formato formato : opciones.imagenes) {

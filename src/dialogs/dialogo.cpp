@@ -22,10 +22,14 @@ std::string Dialogo::TextoRotulo(int campo) const {
   const DefCampo& def = def_->campos[static_cast<std::size_t>(campo)];
   const std::string palabra(def.palabra);
   switch (def.rotulo) {
-    case Rotulo::longitud: return palabra + (estado.iUnidad == 1 ? " (mm):" : " (inches):");
-    case Rotulo::angulo: return chino ? Texto(def.textoRotulo) : palabra + " (" + Texto(kTextoGrados) + "):";
-    case Rotulo::texto: return Texto(def.textoRotulo);
-    case Rotulo::textoDosPuntos: break;
+    case Rotulo::longitud:
+      return palabra + (estado.iUnidad == 1 ? " (mm):" : " (inches):");
+    case Rotulo::angulo:
+      return chino ? Texto(def.textoRotulo) : palabra + " (" + Texto(kTextoGrados) + "):";
+    case Rotulo::texto:
+      return Texto(def.textoRotulo);
+    case Rotulo::textoDosPuntos:
+      break;
   }
   // In some languages the text itself ends in the colon.
   const std::string texto = Texto(def.textoRotulo);

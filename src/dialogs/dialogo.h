@@ -1,6 +1,6 @@
 #pragma once
-// The dialogs as plain objects. A dialog is a table of fields, a table of checks and a function that stores the values in
-// `estado`; the window shows it, the batch program types into it. CmdAceptar answers what the user would see.
+// The dialogs as plain objects. A dialog is a table of fields, a table of checks and a function that stores the values
+// in `estado`; the window shows it, the batch program types into it. CmdAceptar answers what the user would see.
 
 #include <array>
 #include <optional>
@@ -14,10 +14,10 @@
 namespace duktores {
 
 enum class Rotulo {
-  longitud,         ///< the word and the unit
-  angulo,           ///< the word and "degrees"; in Chinese a text alone
-  texto,            ///< a text
-  textoDosPuntos,   ///< a text that ends in a colon, which Chinese leaves out
+  longitud,        ///< the word and the unit
+  angulo,          ///< the word and "degrees"; in Chinese a text alone
+  texto,           ///< a text
+  textoDosPuntos,  ///< a text that ends in a colon, which Chinese leaves out
 };
 
 struct DefCampo {

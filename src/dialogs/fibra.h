@@ -1,6 +1,6 @@
 #pragma once
-// Fibre correction: from the surface that the entered dimensions refer to, to the inner surface of the rectangle and the
-// medium fibre of the circle.
+// Fibre correction: from the surface that the entered dimensions refer to, to the inner surface of the rectangle and
+// the medium fibre of the circle.
 
 #include <optional>
 
@@ -16,10 +16,14 @@ struct CorreccionDeFibra {
 inline std::optional<CorreccionDeFibra> CorreccionFibra() {
   const double t = estado.dEspesor;
   switch (estado.iFibra) {
-    case 1: return CorreccionDeFibra{0, t / 2};
-    case 2: return CorreccionDeFibra{-t, 0};
-    case 3: return CorreccionDeFibra{-2 * t, -t / 2};
-    default: return std::nullopt;
+    case 1:
+      return CorreccionDeFibra{0, t / 2};
+    case 2:
+      return CorreccionDeFibra{-t, 0};
+    case 3:
+      return CorreccionDeFibra{-2 * t, -t / 2};
+    default:
+      return std::nullopt;
   }
 }
 

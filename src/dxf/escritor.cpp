@@ -1,18 +1,16 @@
 #include "dxf/escritor.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cmath>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 
 #include "dxf/dibujo.h"
 #include "dxf/numero_dxf.h"
 #include "state/caracteres.h"
 #include "state/estado.h"
+#include "state/fichero.h"
 
 namespace duktores {
 namespace {
@@ -79,16 +77,29 @@ bool Aplica(const Regla& regla, Copiadora& copiadora) {
   return true;
 }
 
+/// Appends UTF-8 in code page 1252. Nearly all of a drawing is ASCII, which is the same in both.
+void AnadeCp1252(std::string& destino, std::string_view utf8) {
+  const auto esAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  while (!utf8.empty()) {
+    const auto otro = std::ranges::find_if_not(utf8, esAscii);
+    destino.append(utf8.begin(), otro);
+    const auto ascii = std::find_if(otro, utf8.end(), esAscii);
+    if (otro != ascii) destino += Cp1252DeUtf8({otro, ascii});
+    utf8 = {ascii, utf8.end()};
+  }
+}
+
 /// The whole file; false if the template is cut short within a rule or before its entities.
 bool Compone(std::string_view plantilla, std::string_view entidades, std::string& fichero) {
   const std::vector<Regla> reglas = Reglas();
+  fichero.reserve(2 * plantilla.size() + entidades.size());
   Copiadora copiadora(plantilla, fichero);
   std::string_view linea;
   while (copiadora.Lee(linea)) {
     copiadora.Escribe(linea);
     const std::string marca = Mayusculas(linea);
     if (marca == "ENTITIES") {
-      fichero += entidades;
+      AnadeCp1252(fichero, entidades);
       while (copiadora.Copia(1)) {
       }
       return true;
@@ -99,23 +110,7 @@ bool Compone(std::string_view plantilla, std::string_view entidades, std::string
   return false;
 }
 
-/// The name of the temporary file is this thread's own, so that two savers of one file don't meet in it.
-bool Reemplaza(const std::string& destino, std::string_view contenido) {
-  const std::string temporal = destino + "." + std::to_string(gettid()) + ".tmp";
-  std::ofstream fichero(temporal, std::ios::binary);
-  fichero.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
-  fichero.close();
-  std::error_code fallo;
-  if (fichero) fs::rename(temporal, destino, fallo);
-  const bool hecho = fichero && !fallo;
-  if (!hecho) fs::remove(temporal, fallo);
-  return hecho;
-}
-
-std::string LeeFichero(const std::string& ruta) {
-  std::ifstream fichero(ruta, std::ios::binary);
-  return {std::istreambuf_iterator<char>(fichero), {}};
-}
+std::string LeePlantilla() { return LeeFichero(RutaPlantilla()).value_or(""); }
 
 }  // namespace
 
@@ -141,8 +136,8 @@ bool cDXF::Save(const std::string& sDXFFile) {
     EstadoPrograma& e = estado;
     Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
     std::string fichero;
-    return Compone(LeeFichero(RutaPlantilla()), Cp1252DeUtf8(Entities_->GetEntities()), fichero) &&
-           Reemplaza(sDXFFile, fichero) && ExisteFichero(sDXFFile);
+    return Compone(LeePlantilla(), Entities_->GetEntities(), fichero) && EscribeFichero(sDXFFile, fichero) &&
+           ExisteFichero(sDXFFile);
   } catch (const std::exception&) {
     return false;
   }
@@ -177,6 +172,11 @@ void cDXF::InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks) {
 }
 
 std::string RutaPlantilla() { return estado.sRutaPrograma + "Template/Template.dxf"; }
+
+bool HayPlantilla() {
+  std::string fichero;
+  return Compone(LeePlantilla(), {}, fichero);
+}
 
 bool ExisteFichero(const std::string& ruta) {
   std::error_code fallo;

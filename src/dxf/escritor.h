@@ -60,6 +60,8 @@ class cDXF {
 
 /// Full path of the template.
 std::string RutaPlantilla();
+/// Whether the template stands and can take a drawing.
+bool HayPlantilla();
 
 bool ExisteFichero(const std::string& ruta);  ///< a file with a length above 0
 /// Overwrites every `busca` in the text by `pone`.

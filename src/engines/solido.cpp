@@ -12,7 +12,8 @@ void DibujaRectanguloYGeneratrices(EWdraw& axew, const std::array<Punto3, 4>& es
   for (std::size_t lado = 4; lado > 0; --lado) linea(esquinas[lado % 4], esquinas[lado - 1]);
   const int q = (boca.Cuenta() - 1) / 4;
   for (int cuarto = 0; cuarto < 4; ++cuarto) {
-    for (int i = cuarto * q + 1; i <= (cuarto + 1) * q + 1; ++i) linea(esquinas[static_cast<std::size_t>(cuarto)], boca(i));
+    for (int i = cuarto * q + 1; i <= (cuarto + 1) * q + 1; ++i)
+      linea(esquinas[static_cast<std::size_t>(cuarto)], boca(i));
   }
 }
 

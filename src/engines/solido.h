@@ -14,8 +14,8 @@ inline constexpr std::int32_t kColorSolido = 120;
 /// Corners of a rectangle centred on the Z axis: of the quarters (+,+), (-,+), (-,-), (+,-), as the circle passes them.
 std::array<Punto3, 4> EsquinasCentradas(double L1, double L2, double z);
 
-/// The four sides, and from each corner a fan of generators to its quarter of the circle's points boca(1..N+1), of which
-/// the last repeats the first. The points where two quarters meet get a generator from both corners.
+/// The four sides, and from each corner a fan of generators to its quarter of the circle's points boca(1..N+1), of
+/// which the last repeats the first. The points where two quarters meet get a generator from both corners.
 void DibujaRectanguloYGeneratrices(EWdraw& axew, const std::array<Punto3, 4>& esquinas, const Puntos3& boca);
 
 }  // namespace duktores

@@ -13,7 +13,8 @@ namespace {
 
 constexpr Punto3 kEjeY{0, 1, 0};
 
-// With the corner above the previous point the circle goes on upwards, else outwards. The ties differ from half to half.
+// With the corner above the previous point the circle goes on upwards, else outwards. The ties differ from half to
+// half.
 Punto2 CirculoDerecha(const ParPuntos& AB, const Transicion& t, int m, int k) {
   if (t.dVerticesPlano(m).y > t.dPuntosPlano(k).y) return AB.B.y > AB.A.y ? AB.B : AB.A;
   return MasDerecha(AB);

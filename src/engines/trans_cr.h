@@ -1,9 +1,9 @@
 #pragma once
 // clTransCR: a circle above a rectangular base. Lengths in the configured unit.
 //
-// In the view (GeneraDibujo) the rectangle is centred at z = 0 and the circle's centre lies at (-Ax, -Ay, Altura). In the
-// development (GeneraPuntos) the rectangle's corner is the origin and the centre lies at (L1/2 + Ax, L2/2 + Ay, Altura).
-// The circle's plane is tilted about the parallel to Y through its centre, in the view by -Inclinacion, in the
+// In the view (GeneraDibujo) the rectangle is centred at z = 0 and the circle's centre lies at (-Ax, -Ay, Altura). In
+// the development (GeneraPuntos) the rectangle's corner is the origin and the centre lies at (L1/2 + Ax, L2/2 + Ay,
+// Altura). The circle's plane is tilted about the parallel to Y through its centre, in the view by -Inclinacion, in the
 // development by +Inclinacion. Nothing is validated: an impossible piece is drawn badly.
 
 #include <cstdint>

@@ -2,11 +2,11 @@
 // A triangulated transition between a circle and a rectangle: its points in space and its flat pattern, as the engines
 // share them.
 //
-// Glossary. N: divisions of the circle, a multiple of 4; h = N/2, q = N/4. L1, L2: sides of the rectangle along X and Y.
-// Q(c): points of the circle in space, walked in two halves that both begin at the start and end opposite to it, so that
-// Q(h+2) repeats Q(1) and Q(N+2) repeats Q(h+1). P(j): corners of the rectangle as the halves pass them, P(5) = P(2).
-// S: foot of the circle's centre on the start side. F(k): flat points of the circle, left to right. C(j): flat corners,
-// C(1) and C(6) the seam's ends; C(3)-C(4) is the start side, on the X axis, and S the flat origin.
+// Glossary. N: divisions of the circle, a multiple of 4; h = N/2, q = N/4. L1, L2: sides of the rectangle along X and
+// Y. Q(c): points of the circle in space, walked in two halves that both begin at the start and end opposite to it, so
+// that Q(h+2) repeats Q(1) and Q(N+2) repeats Q(h+1). P(j): corners of the rectangle as the halves pass them, P(5) =
+// P(2). S: foot of the circle's centre on the start side. F(k): flat points of the circle, left to right. C(j): flat
+// corners, C(1) and C(6) the seam's ends; C(3)-C(4) is the start side, on the X axis, and S the flat origin.
 //
 // Development frame: the rectangle's corner at the origin, sides along X and Y. Lengths in the configured unit.
 
@@ -18,11 +18,11 @@
 namespace duktores {
 
 struct Transicion {
-  Puntos3 dPuntos3D;       ///< Q(1..N+2)
-  Puntos3 dVertices3D;     ///< P(1..5)
-  Punto3 dPtoInicio;       ///< S
-  Puntos2 dPuntosPlano;    ///< F(1..N+1)
-  Puntos2 dVerticesPlano;  ///< C(1..6)
+  Puntos3 dPuntos3D;          ///< Q(1..N+2)
+  Puntos3 dVertices3D;        ///< P(1..5)
+  Punto3 dPtoInicio;          ///< S
+  Puntos2 dPuntosPlano;       ///< F(1..N+1)
+  Puntos2 dVerticesPlano;     ///< C(1..6)
   bool bFueraCierre = false;  ///< the circle's centre projects at or beyond the half-length of the closing side
   bool bFueraLado = false;    ///< the same for the two sides next to the start side
 
@@ -60,8 +60,9 @@ struct ReglasPlano {
 Punto2 MasDerecha(const ParPuntos& AB);
 Punto2 MasIzquierda(const ParPuntos& AB);
 
-/// Lays the transition flat by true lengths. Needs Q, P, F(h+1), C(4), both flags, and the lists of F and C in their full
-/// size. `ladoA` is the length P(1)-P(2), `ladoB` that of P(1)-P(3). Circles that don't meet put their point at (0, 0).
+/// Lays the transition flat by true lengths. Needs Q, P, F(h+1), C(4), both flags, and the lists of F and C in their
+/// full size. `ladoA` is the length P(1)-P(2), `ladoB` that of P(1)-P(3). Circles that don't meet put their point at
+/// (0, 0).
 void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas);
 
 /// The line that splits a pattern in two pieces.

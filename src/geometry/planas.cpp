@@ -23,9 +23,10 @@ ParPuntos CirculosNivelados(Punto2 c1, double r1, Punto2 c2, double r2, double d
 
 }  // namespace
 
-// The radical line y = m*x + b meets the first circle where a*x^2 + p*x + e = 0, a = 1 + m^2. Near level centres m grows
-// without bound and that quadratic loses all its digits. The same points lie half a chord to both sides of the foot on
-// the line of centres, and the quadratic's discriminant is D = (2 * half chord * d / dy)^2, by Heron a product of sums.
+// The radical line y = m*x + b meets the first circle where a*x^2 + p*x + e = 0, a = 1 + m^2. Near level centres m
+// grows without bound and that quadratic loses all its digits. The same points lie half a chord to both sides of the
+// foot on the line of centres, and the quadratic's discriminant is D = (2 * half chord * d / dy)^2, by Heron a product
+// of sums.
 ParPuntos InterseccionCirculos(Punto2 c1, double r1, Punto2 c2, double r2) {
   const double dx = c2.x - c1.x, dy = c2.y - c1.y;
   const double d = std::hypot(dx, dy);

@@ -22,7 +22,7 @@ QSize TamanoImagen(const EWdraw& axew) {
   constexpr int kAncho = 1600;
   const QRectF zona = ExtensionPintada(axew);
   const double forma = zona.width() > 0 ? zona.height() / zona.width() : 1;
-  return {kAncho, static_cast<int>(kAncho * std::clamp(forma, 0.4, 1.5))};
+  return {kAncho, qRound(kAncho * std::clamp(forma, 0.4, 1.5))};
 }
 
 bool PintaEn(QPaintDevice& dispositivo, const EWdraw& axew, QSizeF lienzo) {
@@ -71,7 +71,9 @@ bool GuardaImagen(const EWdraw& axew, const QString& ruta, Formato formato) {
                                                  : Pdf(salida, axew, lienzo, titulo);
   if (!pintado) return false;
   QSaveFile archivo(ruta);
-  return archivo.open(QIODevice::WriteOnly) && archivo.write(salida.data()) == salida.data().size() && archivo.commit();
+  // Unbuffered: a buffer's rest that no longer fits on the disk would not be reported.
+  return archivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+         archivo.write(salida.data()) == salida.data().size() && archivo.commit();
 }
 
 }  // namespace duktores

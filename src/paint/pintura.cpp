@@ -18,29 +18,43 @@ namespace duktores {
 
 namespace {
 
-constexpr double kTrazoFino = 1.1, kTrazoContorno = 1.8;
+// Widths in device units. On the screen the many thin lines take Qt's fast road, which ends at one pixel.
+struct Trazos {
+  double fino, contorno, punto;
+};
+constexpr Trazos kTrazosPantalla{1, 1.8, 4}, kTrazosPapel{1.4, 2.4, 5};
 
 QColor ColorFondo(Fondo fondo) { return fondo == Fondo::claro ? QColor(255, 255, 255) : QColor(27, 31, 37); }
 
-/// On paper greys are turned round, white to near black, and every colour is darkened until it reads on white.
+struct Canales {
+  double r, g, b;
+  double Claridad() const {
+    constexpr double kGamma = 2.2;
+    return 0.2126 * std::pow(r, kGamma) + 0.7152 * std::pow(g, kGamma) + 0.0722 * std::pow(b, kGamma);
+  }
+};
+
+/// The colour that is painted: as it is, if it stands out from the background by about 4.5 to 1 on paper or 3 to 1 on
+/// the screen; else darker or lighter. On paper greys are first turned round, white to near black.
 QColor Tinta(std::int32_t color, Fondo fondo) {
   const Rgb rgb = RgbDe(color);
-  const QColor pura(rgb.r, rgb.g, rgb.b);
-  if (fondo == Fondo::oscuro) return pura;
-  double canales[] = {pura.redF(), pura.greenF(), pura.blueF()};
-  const auto [bajo, alto] = std::ranges::minmax(canales);
-  if (alto - bajo < 0.15) {
-    for (double& c : canales) c = 1 - 0.88 * c;
+  Canales c{rgb.r / 255.0, rgb.g / 255.0, rgb.b / 255.0};
+  constexpr double kPaso = 0.02, kMaximaEnPapel = 0.18, kMinimaEnPantalla = 0.13;
+  if (fondo == Fondo::claro) {
+    const bool gris = std::max({c.r, c.g, c.b}) - std::min({c.r, c.g, c.b}) < 0.15;
+    if (gris) c = {1 - 0.88 * c.r, 1 - 0.88 * c.g, 1 - 0.88 * c.b};
+    while (c.Claridad() > kMaximaEnPapel) c = {(1 - kPaso) * c.r, (1 - kPaso) * c.g, (1 - kPaso) * c.b};
+  } else {
+    const auto aclara = [](double v) { return v + kPaso * (1 - v); };
+    while (c.Claridad() < kMinimaEnPantalla) c = {aclara(c.r), aclara(c.g), aclara(c.b)};
   }
-  constexpr double kGamma = 2.2, kClaridadMaxima = 0.18;  // a contrast of 4.5 to 1
-  const double claridad = 0.2126 * std::pow(canales[0], kGamma) + 0.7152 * std::pow(canales[1], kGamma) +
-                          0.0722 * std::pow(canales[2], kGamma);
-  const double resto = claridad > kClaridadMaxima ? std::pow(kClaridadMaxima / claridad, 1 / kGamma) : 1;
-  return QColor::fromRgbF(static_cast<float>(canales[0] * resto), static_cast<float>(canales[1] * resto),
-                          static_cast<float>(canales[2] * resto));
+  return QColor::fromRgbF(static_cast<float>(c.r), static_cast<float>(c.g), static_cast<float>(c.b));
 }
 
-bool Finito(QPointF p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
+/// Numbers, and such that their differences are numbers too.
+bool Dibujable(QPointF p) { return std::abs(p.x()) < 1e100 && std::abs(p.y()) < 1e100; }
+
+bool EsVueltaEntera(const Entidad& curva) { return curva.fin - curva.inicio > 2 * dPi - 1e-9; }
 
 /// The part of a line inside a rectangle.
 std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja) {
@@ -60,7 +74,12 @@ std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja) {
 class Pincel {
  public:
   Pincel(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo)
-      : pintor_(pintor), base_(BaseVista(axew.DireccionVista())), encuadre_(encuadre), lienzo_(lienzo), fondo_(fondo) {
+      : pintor_(pintor),
+        base_(BaseVista(axew.DireccionVista())),
+        encuadre_(encuadre),
+        lienzo_(lienzo),
+        fondo_(fondo),
+        trazos_(fondo == Fondo::claro ? kTrazosPapel : kTrazosPantalla) {
     const QPaintEngine::Type motor = pintor.paintEngine()->type();
     vectorial_ = motor == QPaintEngine::SVG || motor == QPaintEngine::Pdf;
     puntosPorUnidad_ = pintor.device()->devicePixelRatioF();
@@ -79,29 +98,35 @@ class Pincel {
   }
   QPolygonF Camino(const Entidad& entidad) const;
   QPolygonF CaminoCurva(const Entidad& curva) const;
-  void PonPluma(const QColor& color, double ancho);
-  void Traza(const QPolygonF& camino, bool cerrado);
-  QLineF Centra(QLineF linea) const;
+  void PonPluma(std::int32_t color, double ancho);
+  void Traza(QPolygonF camino, bool cerrado);
+  void Centra(QPointF& p, QPointF& q) const;
 
   QPainter& pintor_;
   Base3 base_;
   Encuadre encuadre_;
   QSizeF lienzo_;
   Fondo fondo_;
+  Trazos trazos_;
   bool vectorial_ = false;
   double puntosPorUnidad_ = 1;
   QRectF visible_;
-  QPen pluma_{Qt::NoPen};
+  std::int32_t colorPluma_ = 0;
+  double anchoPluma_ = 0;
   std::vector<QLineF> lineas_;  // waiting for the pen to change
   std::optional<Letra> letra_;
 };
 
-void Pincel::PonPluma(const QColor& color, double ancho) {
-  if (pluma_.style() != Qt::NoPen && pluma_.color() == color && pluma_.widthF() == ancho) return;
+// Square caps, because round ones on lines that share an end cost a hundred times as much; mitred joins, because round
+// ones leave blots on curves.
+void Pincel::PonPluma(std::int32_t color, double ancho) {
+  if (color == colorPluma_ && ancho == anchoPluma_) return;
   Vuelca();
-  pluma_ = QPen(color, ancho, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  pluma_.setCosmetic(true);
-  pintor_.setPen(pluma_);
+  colorPluma_ = color;
+  anchoPluma_ = ancho;
+  QPen pluma(Tinta(color, fondo_), ancho * puntosPorUnidad_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+  pluma.setCosmetic(true);
+  pintor_.setPen(pluma);
 }
 
 void Pincel::Vuelca() {
@@ -110,30 +135,36 @@ void Pincel::Vuelca() {
 }
 
 /// Long level and plumb lines go to the middle of a pixel, where they come out sharp.
-QLineF Pincel::Centra(QLineF linea) const {
+void Pincel::Centra(QPointF& p, QPointF& q) const {
   constexpr double kRecto = 0.01, kLargo = 24;
-  const double dx = std::abs(linea.dx()), dy = std::abs(linea.dy());
+  const double dx = std::abs(q.x() - p.x()), dy = std::abs(q.y() - p.y());
   const auto medio = [this](double c) { return (std::floor(c * puntosPorUnidad_) + 0.5) / puntosPorUnidad_; };
   if (dx < kRecto && dy > kLargo) {
-    const double x = medio(linea.x1());
-    linea.setLine(x, linea.y1(), x, linea.y2());
+    p.setX(medio(p.x()));
+    q.setX(p.x());
   } else if (dy < kRecto && dx > kLargo) {
-    const double y = medio(linea.y1());
-    linea.setLine(linea.x1(), y, linea.x2(), y);
+    p.setY(medio(p.y()));
+    q.setY(p.y());
   }
-  return linea;
 }
 
-// On pixels every segment goes by itself: long connected paths of a pen wider than a pixel take super-linear time.
-void Pincel::Traza(const QPolygonF& camino, bool cerrado) {
-  if (camino.isEmpty() || !std::ranges::all_of(camino, Finito)) return;
-  if (vectorial_) {
+void Pincel::Traza(QPolygonF camino, bool cerrado) {
+  if (camino.isEmpty() || !std::ranges::all_of(camino, Dibujable)) return;
+  const qsizetype primero = cerrado ? 0 : 1;
+  const auto anterior = [&](qsizetype i) -> QPointF& { return camino[i > 0 ? i - 1 : camino.size() - 1]; };
+  if (!vectorial_) {
+    for (qsizetype i = primero; i < camino.size(); ++i) Centra(anterior(i), camino[i]);
+  }
+  const bool suelta = camino.size() == 2;
+  // On pixels, a pen wider than one takes super-linear time for long connected paths.
+  constexpr qsizetype kCorto = 2000;
+  if (vectorial_ || (!suelta && camino.size() <= kCorto && visible_.contains(camino.boundingRect()))) {
+    Vuelca();
     cerrado ? pintor_.drawPolygon(camino) : pintor_.drawPolyline(camino);
     return;
   }
-  for (qsizetype i = cerrado ? 0 : 1; i < camino.size(); ++i) {
-    const QPointF anterior = i > 0 ? camino[i - 1] : camino.back();
-    if (const auto linea = Recorta({anterior, camino[i]}, visible_)) lineas_.push_back(Centra(*linea));
+  for (qsizetype i = primero; i < camino.size(); ++i) {
+    if (const auto linea = Recorta({anterior(i), camino[i]}, visible_)) lineas_.push_back(*linea);
   }
 }
 
@@ -145,7 +176,7 @@ QPolygonF Pincel::CaminoCurva(const Entidad& curva) const {
   if (!std::isfinite(pasos)) return {};
   const int n = static_cast<int>(std::clamp(pasos, 16.0, 4096.0));
   QPolygonF camino;
-  for (int i = 0; i <= n; ++i) {
+  for (int i = 0; i < n + (EsVueltaEntera(curva) ? 0 : 1); ++i) {
     const double t = curva.inicio + vuelta * i / n;
     camino << Lugar(curva.puntos[0] + std::cos(t) * curva.u + std::sin(t) * curva.v);
   }
@@ -160,25 +191,26 @@ QPolygonF Pincel::Camino(const Entidad& entidad) const {
 }
 
 void Pincel::PintaLineas(const Entidad& entidad) {
-  const QColor color = Tinta(entidad.color, fondo_);
   switch (entidad.tipo) {
     case TipoEntidad::texto:
       return;
-    case TipoEntidad::punto:
-      PonPluma(color, 2 * kTrazoContorno);
-      return Traza({Lugar(entidad.puntos[0]), Lugar(entidad.puntos[0])}, false);
+    case TipoEntidad::punto: {
+      PonPluma(entidad.color, trazos_.punto);
+      const QPointF lugar = Lugar(entidad.puntos[0]), pelo(0.01, 0);
+      return Traza({lugar - pelo, lugar + pelo}, false);
+    }
     case TipoEntidad::circulo:
     case TipoEntidad::elipse:
     case TipoEntidad::arco:
-      PonPluma(color, kTrazoFino);
-      return Traza(CaminoCurva(entidad), false);
+      PonPluma(entidad.color, trazos_.fino);
+      return Traza(CaminoCurva(entidad), EsVueltaEntera(entidad));
     case TipoEntidad::linea:
     case TipoEntidad::polilinea:
-      PonPluma(color, kTrazoFino);
+      PonPluma(entidad.color, trazos_.fino);
       return Traza(Camino(entidad), false);
     case TipoEntidad::contorno:
     case TipoEntidad::region:
-      PonPluma(color, kTrazoContorno);
+      PonPluma(entidad.color, trazos_.contorno);
       return Traza(Camino(entidad), true);
   }
 }
@@ -194,7 +226,7 @@ void Pincel::PintaTexto(const Entidad& entidad) {
   const QTransform marco(u.x(), u.y(), -v.x(), -v.y(), origen.x(), origen.y());
   const double largos = std::hypot(u.x(), u.y()) * std::hypot(v.x(), v.y());
   const bool deCanto = !(std::abs(marco.determinant()) > 1e-3 * largos);  // nothing to see, or no numbers
-  if (deCanto || !Finito(origen)) return;
+  if (deCanto || !Dibujable(origen)) return;
   const QString texto = Letra::Caracteres(entidad);
   const double alto = letra_->Fuente().pixelSize();
   const QRectF caja(-alto, -2 * alto, 2 * alto * static_cast<double>(texto.size() + 1), 3 * alto);  // ample
@@ -217,7 +249,12 @@ void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSize
   pintor.setLayoutDirection(Qt::LeftToRight);
   pintor.fillRect(QRectF(QPointF(), lienzo), ColorFondo(fondo));
   Pincel pincel(pintor, axew, encuadre, lienzo, fondo);
-  for (const Entidad& entidad : axew.Entidades()) pincel.PintaLineas(entidad);
+  // Outlines lie over the bend lines that run along them, texts over all.
+  for (const bool contornos : {false, true}) {
+    for (const Entidad& entidad : axew.Entidades()) {
+      if ((entidad.tipo == TipoEntidad::contorno) == contornos) pincel.PintaLineas(entidad);
+    }
+  }
   pincel.Vuelca();
   for (const Entidad& entidad : axew.Entidades()) pincel.PintaTexto(entidad);
   pintor.restore();

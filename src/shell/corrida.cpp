@@ -44,8 +44,8 @@ constexpr std::array kMotores{
 };
 
 const Motor* MotorActual() {
-  const auto* motor = std::find_if(kMotores.begin(), kMotores.end(),
-                                   [](const Motor& m) { return m.clave == estado.sTipoPieza; });
+  const auto* motor =
+      std::find_if(kMotores.begin(), kMotores.end(), [](const Motor& m) { return m.clave == estado.sTipoPieza; });
   return motor == kMotores.end() ? nullptr : motor;
 }
 

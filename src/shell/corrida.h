@@ -1,6 +1,6 @@
 #pragma once
-// The run driver: which engine serves which piece, and the signs and units between the dialogs' values and each engine's
-// arguments. It reads the piece from `estado`.
+// The run driver: which engine serves which piece, and the signs and units between the dialogs' values and each
+// engine's arguments. It reads the piece from `estado`.
 
 #include "viewer/ewdraw.h"
 

@@ -21,11 +21,10 @@ TEST(Campo, KeepsOnlyWellFormedNumbers) {
     Filtro filtro;
     std::string_view teclas, texto;
   } casos[]{
-      {1, FiltraNumero, "12.345", "12.34"},      {2, FiltraNumero, "12.3456", "12.345"},
-      {1, FiltraNumero, "1,5", "1.5"},           {1, FiltraNumero, ".5", "5"},
-      {1, FiltraNumero, "1..2.3", "1.23"},       {1, FiltraNumero, "-1a e2", "12"},
-      {1, FiltraNumero, "12\b\b7", "7"},         {1, FiltraNumeroSigno, "-4-5", "-45"},
-      {1, FiltraNumeroSigno, "3-", "3-"},        {1, FiltraEntero, "1.2-3,", "123"},
+      {1, FiltraNumero, "12.345", "12.34"}, {2, FiltraNumero, "12.3456", "12.345"}, {1, FiltraNumero, "1,5", "1.5"},
+      {1, FiltraNumero, ".5", "5"},         {1, FiltraNumero, "1..2.3", "1.23"},    {1, FiltraNumero, "-1a e2", "12"},
+      {1, FiltraNumero, "12\b\b7", "7"},    {1, FiltraNumeroSigno, "-4-5", "-45"},  {1, FiltraNumeroSigno, "3-", "3-"},
+      {1, FiltraEntero, "1.2-3,", "123"},
   };
   for (const auto& caso : casos) {
     estado.iUnidad = caso.unidad;

@@ -36,6 +36,13 @@ inline std::vector<std::string> Lineas(const std::string& texto) {
   return lineas;
 }
 
+/// The same in one row, a bar between them.
+inline std::string Fila(const std::string& texto) {
+  std::string fila;
+  for (const std::string& linea : Lineas(texto)) fila += (fila.empty() ? "" : "|") + linea;
+  return fila;
+}
+
 /// The six values of a drawing's extent, minima first.
 inline std::vector<double> Extension(const cDrawing& dibujo) {
   std::vector<double> v(6);
@@ -62,8 +69,7 @@ class PruebaFichero : public PruebaCorrida {
   void SetUp() override {
     PruebaCorrida::SetUp();
     const auto* prueba = testing::UnitTest::GetInstance()->current_test_info();
-    carpeta_ = std::filesystem::temp_directory_path() /
-               ("duktores_" + std::to_string(getpid()) + "_" + prueba->name());
+    carpeta_ = std::filesystem::temp_directory_path() / ("duktores_" + std::to_string(getpid()) + "_" + prueba->name());
     std::filesystem::create_directories(carpeta_ / "Template");
     std::filesystem::copy_file(DUKTORES_RAIZ "/Template/Template.dxf", Plantilla());
     estado.sRutaPrograma = carpeta_.string() + "/";

@@ -10,33 +10,17 @@
 namespace duktores {
 namespace {
 
-using Textos = std::vector<std::string>;
-
 TEST(NumeroDxf, WritesTheDigitsThatReadersExpect) {
+  // clang-format off
   const std::pair<double, const char*> casos[] = {
-      {0, "0.0"},
-      {-0.0, "0.0"},
-      {0.5, "0.5"},
-      {-0.25, "-0.25"},
-      {0.999, "0.999"},
-      {0.1 + 0.2, "0.3"},
-      {1.0 / 3, "0.3333333333333333"},
-      {1e-16, "0.0000000000000001"},
-      {1e-20, "0.0000000000000000"},
-      {-1e-20, "0.0000000000000000"},
-      {1, "1"},
-      {-1, "-1"},
-      {1.5, "1.5"},
-      {100, "100"},
-      {1234.5, "1234.5"},
-      {1000.0 / 3, "333.333333333333"},
-      {999999999999999, "999999999999999"},
-      {1e15, "1E+15"},
-      {999999999999999.9, "1E+15"},
-      {std::nextafter(1.0, 0.0), "0.9999999999999999"},
+      {0, "0.0"}, {-0.0, "0.0"}, {0.5, "0.5"}, {-0.25, "-0.25"}, {0.999, "0.999"}, {0.1 + 0.2, "0.3"},
+      {1.0 / 3, "0.3333333333333333"}, {1e-16, "0.0000000000000001"}, {1e-20, "0.0000000000000000"},
+      {-1e-20, "0.0000000000000000"}, {1, "1"}, {-1, "-1"}, {1.5, "1.5"}, {100, "100"}, {1234.5, "1234.5"},
+      {1000.0 / 3, "333.333333333333"}, {999999999999999, "999999999999999"}, {1e15, "1E+15"},
+      {999999999999999.9, "1E+15"}, {std::nextafter(1.0, 0.0), "0.9999999999999999"},
       {-std::numeric_limits<double>::max(), "-1.79769313486232E+308"},
-      {std::numeric_limits<double>::denorm_min(), "0.0000000000000000"},
-  };
+      {std::numeric_limits<double>::denorm_min(), "0.0000000000000000"},};
+  // clang-format on
   for (const auto& [valor, texto] : casos) EXPECT_EQ(DxfNumeroTexto(valor), texto);
   EXPECT_EQ(DxfParNumero(10, 1.5), "  10\r\n1.5\r\n");
   EXPECT_EQ(DxfParNumero(9, 0), "  9\r\n0.0\r\n");
@@ -68,41 +52,33 @@ using Entidades = PruebaCorrida;
 
 TEST_F(Entidades, LineIsWrittenInTwentySixLines) {
   cLine linea{.x2 = 100, .y2 = 50, .ColorIndex = 7};
-  EXPECT_EQ(Lineas(linea.DxfEntity()),
-            (Textos{"  0", "LINE", "5",    "500", "330",  "6B",  "100",  "AcDbEntity", "  8",
-                    "0",   " 62",  "7",    "100", "AcDbLine", "  10", "0.0", "  20", "0.0", "  30",
-                    "0.0", "  11", "100", "  21", "50",   "  31", "0.0"}));
+  EXPECT_EQ(Fila(linea.DxfEntity()),
+            "  0|LINE|5|500|330|6B|100|AcDbEntity|  8|0| 62|7|100|AcDbLine|  10|0.0|  20|0.0|  30|0.0|  11|"
+            "100|  21|50|  31|0.0");
   EXPECT_EQ(estado.iHandleDxf, 501);
 }
 
 TEST_F(Entidades, OtherKindsKeepTheirOwnLayout) {
   cArc arco{.x = 1, .y = 2, .R = 3, .StartAngle = 4, .EndAngle = 5, .LayerName = ""};
-  EXPECT_EQ(Lineas(arco.DxfEntity()),
-            (Textos{"  0",  "ARC", "5",    "500", "330",  "6B",  "100",  "AcDbEntity", "  8", "0", " 62",
-                    "255",  "100", "AcDbCircle", "  10", "1", "  20", "2", "  30", "0.0", "  40", "3",
-                    "100",  "AcDbArc", "  50", "4", "  51", "5"}));
+  EXPECT_EQ(Fila(arco.DxfEntity()),
+            "  0|ARC|5|500|330|6B|100|AcDbEntity|  8|0| 62|255|100|AcDbCircle|  10|1|  20|2|  30|0.0|  40|3|"
+            "100|AcDbArc|  50|4|  51|5");
   EXPECT_EQ(arco.LayerName, "0");
   cText texto{.Text = "A", .x = 1, .y = 2, .Angle = 45, .ColorIndex = 1};
-  EXPECT_EQ(Lineas(texto.DxfEntity()),
-            (Textos{"  0", "TEXT", "5", "501", "330", "6B", "100", "AcDbEntity", "  8", "0", " 62", "1", "100",
-                    "AcDbText", "  10", "1", "  20", "2", "  30", "0.0", "  40", "0.2", "  1", "A", "  50", "45",
-                    "100", "AcDbText"}));
+  EXPECT_EQ(Fila(texto.DxfEntity()),
+            "  0|TEXT|5|501|330|6B|100|AcDbEntity|  8|0| 62|1|100|AcDbText|  10|1|  20|2|  30|0.0|  40|0.2|"
+            "  1|A|  50|45|100|AcDbText");
   cPolyline contorno;
   EXPECT_EQ(contorno.DxfEntity(), "");
   contorno.InsertVertex(1, 2, 3);
   contorno.InsertVertex(4, 5, -6);
-  EXPECT_EQ(Lineas(contorno.DxfEntity()),
-            (Textos{"  0", "LWPOLYLINE", "  5", "502", "330", "6B", "100", "AcDbEntity", "  8", "DUCT", "100",
-                    "AcDbPolyline", " 90", "2", " 70", "    0", " 43", "0.0", "  10", "1", "  20", "2", "  10", "4",
-                    "  20", "5"}));
+  EXPECT_EQ(Fila(contorno.DxfEntity()),
+            "  0|LWPOLYLINE|  5|502|330|6B|100|AcDbEntity|  8|DUCT|100|AcDbPolyline| 90|2| 70|    0| 43|0.0|"
+            "  10|1|  20|2|  10|4|  20|5");
   cCircle circulo{.x = 1, .R = 2, .LineTypeName = "", .ColorIndex = 3};
-  EXPECT_EQ(Lineas(circulo.DxfEntity()),
-            (Textos{"  0", "CIRCLE", "  8", "0", " 62", "3", "  6", "CONTINUOUS", "  10", "1", "  20", "0.0",
-                    "  30", "0.0", "  40", "2"}));
+  EXPECT_EQ(Fila(circulo.DxfEntity()), "  0|CIRCLE|  8|0| 62|3|  6|CONTINUOUS|  10|1|  20|0.0|  30|0.0|  40|2");
   cPoint punto{.LayerName = "DUCT"};
-  EXPECT_EQ(Lineas(punto.DxfEntity()),
-            (Textos{"  0", "POINT", "  8", "DUCT", " 62", "255", "  6", "CONTINUOUS", "  10", "0.0", "  20", "0.0",
-                    "  30", "0.0"}));
+  EXPECT_EQ(Fila(punto.DxfEntity()), "  0|POINT|  8|DUCT| 62|255|  6|CONTINUOUS|  10|0.0|  20|0.0|  30|0.0");
   EXPECT_EQ(estado.iHandleDxf, 503);
 }
 

@@ -66,7 +66,8 @@ TEST(ClTransCR, SeamGoesToTheMiddleWhenTheCentreIsOutside) {
     const double limite = inicio == 1 ? 150 : 200;
     for (const bool fuera : {false, true}) {
       const double desvio = fuera ? limite : limite - 0.01;
-      const Transicion t = Coloca({400, 300, 80, 12, inicio == 2 ? desvio : 0, inicio == 1 ? desvio : 0, 300, 0, inicio});
+      const Transicion t =
+          Coloca({400, 300, 80, 12, inicio == 2 ? desvio : 0, inicio == 1 ? desvio : 0, 300, 0, inicio});
       EXPECT_EQ(t.bFueraCierre, fuera);
       EXPECT_FALSE(t.bFueraLado);
       const Punto2 costura = t.dVerticesPlano(1) - t.dPuntosPlano(1), lado = t.dVerticesPlano(2) - t.dVerticesPlano(1);

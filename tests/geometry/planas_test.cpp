@@ -82,7 +82,7 @@ TEST(AnguloRecta, EveryDirection) {
   const struct {
     Punto2 hacia;
     double grados;
-  } casos[]{{{1, 0}, 0},  {{1, 1}, 45},     {{0, 1}, 90},    {{-1, 1}, 135}, {{-1, 0}, 180},
+  } casos[]{{{1, 0}, 0},     {{1, 1}, 45},   {{0, 1}, 90},   {{-1, 1}, 135}, {{-1, 0}, 180},
             {{-1, -1}, 225}, {{0, -1}, 270}, {{1, -1}, 315}, {{0, 0}, 270}};
   for (const auto& caso : casos) EXPECT_NEAR(AnguloRecta({0, 0}, caso.hacia), caso.grados, 1e-12);
 }

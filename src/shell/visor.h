@@ -1,0 +1,35 @@
+#pragma once
+// What the viewer's buttons do, without the window: views, unfolding, saving.
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "shell/corrida.h"
+#include "viewer/ewdraw.h"
+
+namespace duktores {
+
+/// A fixed view: the button and the key that call it, the text of its tooltip, and the place that one looks from.
+struct VistaFija {
+  std::string_view boton, clave;
+  int texto;
+  Punto3 direccion;
+};
+
+std::span<const VistaFija> VistasFijas();
+
+/// Looks at the model as the view of the key `clave` says. The key "Z" with `soloRegen` only redraws; other keys do
+/// nothing.
+void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
+
+/// The unfold command: empties the control, looks at it from above, starts the handles at 500, unfolds.
+FinCorrida Desplegado(EWdraw& axew);
+
+/// The save command behind its dialog: writes the drawing of the last unfolding to the scratch file beside the program
+/// and copies it to `elegido`, which gets the ending ".dxf" if it has none. Tells the user what came of it; true if the
+/// file stands. A former file is replaced whole or not at all. An empty name does nothing.
+bool GuardaDibujo(std::string elegido);
+
+}  // namespace duktores
