@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QSaveFile>
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -30,9 +31,11 @@ constexpr std::array<Tinta, 5> kTintas{{
 constexpr QRgb kTintaLetra = 0xff123a66;
 
 constexpr double kAlturaLetra = 28, kHalo = 10;
-constexpr double kFlechaLargo = 18, kFlechaMedio = 3.4, kFlechaFuera = 34;
+constexpr double kFlechaLargo = 16, kFlechaMedio = 3.4, kFlechaFuera = 34;
 constexpr double kAparte = 30;                // from a dimension line to a letter beside it
 constexpr double kHueco = 8, kSaliente = 10;  // extension lines: from the point, beyond the dimension line
+
+QRgb Color(Trazo trazo) { return kTintas[static_cast<std::size_t>(trazo)].color; }
 
 QPen Pluma(Trazo trazo) {
   const Tinta& tinta = kTintas[static_cast<std::size_t>(trazo)];
@@ -57,14 +60,15 @@ QPointF Polar(double radio, double grados) {
 // A line two pixels wide covers a pair of pixels that becomes one when shown.
 double APareja(double v) { return 2 * std::floor(v / 2) + 1; }
 
-// White to each ink, and the tones of sheet metal between: what antialiased drawing needs, and no more.
+// The tones of sheet metal, and white to each ink for the edges of lines and letters.
 QList<QRgb> Paleta() {
-  constexpr std::array<QRgb, 6> tintas{0xff1d2b3a, 0xff3a6ea5, 0xff123a66, 0xff46586a, 0xff8a98a5, 0xff000000};
-  constexpr int kTonos = 42;
-  QList<QRgb> paleta{0xffffffff};
+  constexpr int kTonosAcero = 120, kTonosTinta = 45;
+  const std::array<QRgb, 3> tintas{Color(Trazo::arista), Color(Trazo::cota), kTintaLetra};
+  QList<QRgb> paleta;
+  for (int i = 0; i <= kTonosAcero; ++i) paleta << Acero(1 - 0.7 * i / kTonosAcero);
   for (const QRgb tinta : tintas) {
-    for (int i = 1; i <= kTonos; ++i) {
-      const auto tono = [i](int canal) { return 255 + (canal - 255) * i / kTonos; };
+    for (int i = 1; i <= kTonosTinta; ++i) {
+      const auto tono = [i](int canal) { return 255 + (canal - 255) * i / kTonosTinta; };
       paleta << qRgb(tono(qRed(tinta)), tono(qGreen(tinta)), tono(qBlue(tinta)));
     }
   }
@@ -72,6 +76,12 @@ QList<QRgb> Paleta() {
 }
 
 }  // namespace
+
+QRgb Acero(double claridad) {
+  const double azul = 0.095 * (1 - claridad) * (0.4 + claridad);
+  const auto canal = [](double x) { return static_cast<int>(std::lround(255 * std::clamp(x, 0.0, 1.0))); };
+  return qRgb(canal(claridad - azul), canal(claridad), canal(claridad + azul));
+}
 
 Papel::Papel() : imagen_(kLienzo, QImage::Format_RGB32), fuente_("DejaVu Sans") {
   imagen_.fill(Qt::white);
@@ -93,22 +103,22 @@ void Papel::Linea(Trazo trazo, QPointF a, QPointF b) {
   pintor_.drawLine(a, b);
 }
 
-void Papel::Rellena(const QPolygonF& contorno, QColor color) {
+void Papel::Rellena(const QPolygonF& contorno, QRgb color) {
   // The outline closes the seams that antialiasing would leave between neighbours.
-  pintor_.setPen(QPen(color, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  pintor_.setBrush(color);
+  pintor_.setPen(QPen(QColor(color), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  pintor_.setBrush(QColor(color));
   pintor_.drawPolygon(contorno);
 }
 
-void Papel::Perfil(QPointF a, QPointF b, QColor color, double ancho) {
-  pintor_.setPen(QPen(color, ancho, Qt::SolidLine, Qt::RoundCap));
+void Papel::Perfil(QPointF a, QPointF b, QRgb color, double ancho) {
+  pintor_.setPen(QPen(QColor(color), ancho, Qt::SolidLine, Qt::RoundCap));
   pintor_.drawLine(a, b);
 }
 
 void Papel::Flecha(QPointF punta, QPointF hacia) {
   const QPointF cola = punta - kFlechaLargo * hacia, lado = kFlechaMedio * QPointF(-hacia.y(), hacia.x());
   pintor_.setPen(Qt::NoPen);
-  pintor_.setBrush(QColor(kTintas[static_cast<std::size_t>(Trazo::cota)].color));
+  pintor_.setBrush(QColor(Color(Trazo::cota)));
   pintor_.drawPolygon(QPolygonF{punta, cola + lado, cola - lado});
 }
 
@@ -118,7 +128,7 @@ void Papel::Cota(const Medida& medida, const QString& letra, double corre) {
     if (Largo(fin - punto) < 1) continue;
     const QPointF hacia = Unidad(fin - punto);
     // A centre line passes its centre; other extension lines keep a gap to the edge.
-    Linea(extension, extension == Trazo::eje ? punto - 20 * hacia : punto + kHueco * hacia, fin + kSaliente * hacia);
+    Linea(extension, extension == Trazo::eje ? punto - 10 * hacia : punto + kHueco * hacia, fin + kSaliente * hacia);
   }
   const bool vertical = std::abs(a2.x() - b2.x()) < 1e-6, horizontal = std::abs(a2.y() - b2.y()) < 1e-6;
   QPointF p = a2, q = b2;
@@ -162,7 +172,7 @@ void Papel::CotaAngulo(QPointF vertice, double radio, double angulo, const QStri
   const double giro = Grados(kFlechaLargo / radio);
   Flecha(vertice + Polar(radio, 0), Polar(1, 90 - giro / 2));
   Flecha(vertice + Polar(radio, -angulo), Polar(1, -angulo - 90 + giro / 2));
-  Rotulo(letra, vertice + Polar(radio + 16 + AnchoRotulo(letra) / 2, -angulo / 2));
+  Rotulo(letra, vertice + Polar(radio + 13 + AnchoRotulo(letra) / 2, -angulo / 2));
 }
 
 void Papel::Rotulo(const QString& letra, QPointF centro) { letreros_.push_back({letra, centro}); }

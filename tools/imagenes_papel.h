@@ -5,7 +5,6 @@
 // The bitmaps are shown at half their size: thin lines that run straight along an axis are laid so that their two
 // pixels become one.
 
-#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QPointF>
@@ -20,14 +19,17 @@ inline constexpr QSize kLienzo{840, 680};
 /// The inks: visible edge, generator, dimension, centre line, part that is cut away.
 enum class Trazo { arista, generatriz, cota, eje, fantasma };
 
+/// The tone of sheet metal of a brightness from 0 to 1: dark tones lean towards blue.
+QRgb Acero(double claridad);
+
 class Papel {
  public:
   Papel();
 
   void Linea(Trazo trazo, QPointF a, QPointF b);
-  void Rellena(const QPolygonF& contorno, QColor color);
-  /// A line of any colour and width, for the shaded views.
-  void Perfil(QPointF a, QPointF b, QColor color, double ancho);
+  void Rellena(const QPolygonF& contorno, QRgb color);
+  /// A line of any tone and width, for the shaded views.
+  void Perfil(QPointF a, QPointF b, QRgb color, double ancho);
 
   /// The dimension line runs from `a2` to `b2`; extension lines come from the points `a` and `b` that are measured. In
   /// a narrow place the arrows stand outside. The letter sits in the middle, moved by `corre` along the line.

@@ -7,8 +7,8 @@
 namespace duktores {
 namespace {
 
-constexpr QRgb kCuerpo = 0xfff1f5f9, kSombra = 0xffe4e9ee;
-constexpr QRgb kPerfil = 0xff1d2b3a, kPerfilInterior = 0xff46586a;
+const QRgb kCuerpo = Acero(0.955), kSombra = Acero(0.905);
+constexpr QRgb kPerfil = 0xff1d2b3a, kPerfilInterior = 0xff4d5f72;
 
 struct Caras {
   std::vector<bool> alOjo;  // facet i shows its outer side
@@ -46,22 +46,17 @@ void DibujaContorno(Papel& papel, const Anillo& anillo, const Vista& vista, cons
 // Where the light throws a point's shadow on the ground.
 Punto3 Sombra(Punto3 p) { return p - p.z * Punto3{-0.30, 0.22, 1}; }
 
-QColor Tono(Punto3 normal, bool exterior) {
+double Claridad(Punto3 normal, bool exterior) {
   const Punto3 luz{-0.36, -0.62, 0.70};
-  const double signo = exterior ? 1 : -1;
-  const double claridad = std::clamp(signo * Escalar(normal, luz) / Distancia(normal, {}), -0.4, 1.0);
-  const double v = exterior ? 0.60 + 0.34 * claridad : 0.50 + 0.16 * claridad;
-  // Steel: dark tones lean towards blue, light ones towards white.
-  const double azul = 0.075 * (1 - v) + 0.02;
-  const auto canal = [](double x) { return static_cast<int>(std::lround(255 * std::clamp(x, 0.0, 1.0))); };
-  return QColor(canal(v - azul), canal(v), canal(v + azul));
+  const double coseno = Escalar(normal, luz) / Distancia(normal, {});
+  return exterior ? 0.60 + 0.34 * std::max(coseno, -0.4) : 0.50 + 0.16 * std::max(-coseno, -0.4);
 }
 
 void PintaCara(Papel& papel, const Anillo& anillo, std::size_t i, const Vista& vista, bool exterior) {
   const QPolygonF f = Faceta(anillo, i, vista);
-  const QColor tono = Tono(NormalFaceta(anillo, i), exterior);
-  papel.Rellena(f, tono);
-  const QColor raya = tono.darker(exterior ? 116 : 108);
+  const double claridad = Claridad(NormalFaceta(anillo, i), exterior);
+  papel.Rellena(f, Acero(claridad));
+  const QRgb raya = Acero(claridad - (exterior ? 0.11 : 0.05));
   const double ancho = std::clamp(2.2 * vista.escala, 1.2, 2.0);
   if (anillo[i].generatriz) papel.Perfil(f[0], f[3], raya, ancho);
   if (anillo[(i + 1) % anillo.size()].generatriz) papel.Perfil(f[1], f[2], raya, ancho);
@@ -79,7 +74,7 @@ Vista VistaCaballera(QPointF origen, double escala) {
 void DibujaLineas(Papel& papel, const Anillo& anillo, const Vista& vista) {
   const Caras caras = CarasDe(anillo, vista);
   for (std::size_t i = 0; i < anillo.size(); ++i) {
-    if (caras.alOjo[i]) papel.Rellena(Faceta(anillo, i, vista), QColor(kCuerpo));
+    if (caras.alOjo[i]) papel.Rellena(Faceta(anillo, i, vista), kCuerpo);
   }
   for (std::size_t i = 0; i < anillo.size(); ++i) {
     if (!anillo[i].generatriz || !(caras.alOjo[i] || caras.Antes(i))) continue;
@@ -105,10 +100,10 @@ void DibujaChapa(Papel& papel, const Anillo& anillo, const Vista& vista) {
   for (Elemento& e : sombra) e.arriba = Sombra(e.arriba);
   QPolygonF suelo;
   for (std::size_t i = 0; i < sombra.size(); ++i) {
-    papel.Rellena(Faceta(sombra, i, vista), QColor(kSombra));
+    papel.Rellena(Faceta(sombra, i, vista), kSombra);
     suelo << vista.AlPapel(sombra[i].abajo);
   }
-  papel.Rellena(suelo, QColor(kSombra));
+  papel.Rellena(suelo, kSombra);
 
   const Caras caras = CarasDe(anillo, vista);
   const Punto3 ojo = vista.HaciaOjo();
@@ -129,10 +124,10 @@ void DibujaChapa(Papel& papel, const Anillo& anillo, const Vista& vista) {
     }
     for (std::size_t i = 0; i < anillo.size(); ++i) {
       const QPolygonF f = Faceta(anillo, i, vista);
-      if (exterior && caras.alOjo[i] != caras.Antes(i)) papel.Perfil(f[0], f[3], QColor(kPerfil), ancho);
+      if (exterior && caras.alOjo[i] != caras.Antes(i)) papel.Perfil(f[0], f[3], kPerfil, ancho);
       if (caras.alOjo[i] != exterior) continue;
-      papel.Perfil(f[0], f[1], QColor(exterior ? kPerfil : kPerfilInterior), exterior ? ancho : 1.6);
-      papel.Perfil(f[3], f[2], QColor(kPerfil), ancho);
+      papel.Perfil(f[0], f[1], exterior ? kPerfil : kPerfilInterior, exterior ? ancho : 1.6);
+      papel.Perfil(f[3], f[2], kPerfil, ancho);
     }
   }
 }

@@ -150,6 +150,7 @@ void Pincel::Centra(QPointF& p, QPointF& q) const {
 
 void Pincel::Traza(QPolygonF camino, bool cerrado) {
   if (camino.isEmpty() || !std::ranges::all_of(camino, Dibujable)) return;
+  if (cerrado && camino.size() > 2 && camino.isClosed()) camino.removeLast();
   const qsizetype primero = cerrado ? 0 : 1;
   const auto anterior = [&](qsizetype i) -> QPointF& { return camino[i > 0 ? i - 1 : camino.size() - 1]; };
   if (!vectorial_) {
@@ -186,7 +187,10 @@ QPolygonF Pincel::CaminoCurva(const Entidad& curva) const {
 QPolygonF Pincel::Camino(const Entidad& entidad) const {
   QPolygonF camino;
   camino.reserve(static_cast<qsizetype>(entidad.puntos.size()));
-  for (const Punto3& p : entidad.puntos) camino << Lugar(p);
+  // A vertex that stands twice would leave a spur at its corner.
+  for (const Punto3& p : entidad.puntos) {
+    if (const QPointF q = Lugar(p); camino.isEmpty() || camino.back() != q) camino << q;
+  }
   return camino;
 }
 
