@@ -9,7 +9,7 @@
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
-#include "shell/corrida.h"
+#include "shell/visor.h"
 #include "state/estado.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "imagenes_lamina.h"
 
+#include <cmath>
+
 #include "imagenes_vista.h"
 
 namespace duktores {
@@ -54,11 +56,11 @@ void DibujaCotaPieza(Papel& papel, const Pieza& pieza, const CotaPieza& cota) {
   const QString letra = QString::fromUtf8(cota.letra.data(), static_cast<qsizetype>(cota.letra.size()));
   switch (cota.tipo) {
     case TipoCota::radio:
-      return papel.CotaRadio(de, RadioDe(pieza, cota.nivelDe, cota.de), cota.sitio, cota.corre, letra);
+      return papel.CotaRadio(de, RadioDe(pieza, cota.nivelDe, cota.de), cota.sitio, cota.largo, letra);
     case TipoCota::angulo:
       return papel.CotaAngulo(de, cota.sitio, cota.lugar == Lugar::lado ? pieza.beta : pieza.alfa, letra);
     default:
-      return papel.Cota(MedidaDe(cota, vista, de, a), letra, cota.corre);
+      return papel.Cota(MedidaDe(cota, vista, de, a), letra);
   }
 }
 

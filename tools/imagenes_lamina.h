@@ -17,13 +17,13 @@ enum class TipoCota { horizontal, vertical, alineada, radio, angulo };
 
 /// A row of a piece's table: what is measured in which view, and where the dimension stands. All in pixels.
 ///
-/// | tipo       | from, to                     | sitio                            | corre                          |
-/// |------------|------------------------------|----------------------------------|--------------------------------|
-/// | horizontal | both ends                    | y of the dimension line          | letter's way along the line    |
-/// | vertical   | both ends                    | x of the dimension line          | the same                       |
-/// | alineada   | both ends                    | distance, to the left of the way | the same                       |
-/// | radio      | corner                       | direction of the arrow, degrees  | its length, inwards below 0    |
-/// | angulo     | vertex; `a` counts for nothing | radius of the arc              | -                              |
+/// | tipo       | from, to              | sitio                            | largo                         |
+/// |------------|-----------------------|----------------------------------|-------------------------------|
+/// | horizontal | both ends             | y of the dimension line          | -                             |
+/// | vertical   | both ends             | x of the dimension line          | -                             |
+/// | alineada   | both ends             | distance, to the left of the way | -                             |
+/// | radio      | corner, twice         | direction of the arrow, degrees  | its length, inwards below 0   |
+/// | angulo     | vertex, twice         | radius of the arc                | -                             |
 ///
 /// x and y count from the view's origin, y upwards.
 struct CotaPieza {
@@ -34,7 +34,7 @@ struct CotaPieza {
   Ancla de;
   Nivel nivelA;
   Ancla a;
-  double sitio = 0, corre = 0;
+  double sitio = 0, largo = 0;
 };
 
 struct Lamina {

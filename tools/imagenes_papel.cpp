@@ -60,6 +60,14 @@ QPointF Polar(double radio, double grados) {
 // A line two pixels wide covers a pair of pixels that becomes one when shown.
 double APareja(double v) { return 2 * std::floor(v / 2) + 1; }
 
+bool EsVertical(QPointF a, QPointF b) { return std::abs(a.x() - b.x()) < 1e-6; }
+bool EsHorizontal(QPointF a, QPointF b) { return std::abs(a.y() - b.y()) < 1e-6; }
+
+// The end `a` of the line from `a` to `b`, moved so if the line runs along an axis.
+QPointF APareja(QPointF a, QPointF b) {
+  return {EsVertical(a, b) ? APareja(a.x()) : a.x(), EsHorizontal(a, b) ? APareja(a.y()) : a.y()};
+}
+
 // The tones of sheet metal, and white to each ink for the edges of lines and letters.
 QList<QRgb> Paleta() {
   constexpr int kTonosAcero = 120, kTonosTinta = 45;
@@ -78,7 +86,7 @@ QList<QRgb> Paleta() {
 }  // namespace
 
 QRgb Acero(double claridad) {
-  const double azul = 0.095 * (1 - claridad) * (0.4 + claridad);
+  const double azul = 0.09 * std::sqrt(claridad * (1 - claridad));
   const auto canal = [](double x) { return static_cast<int>(std::lround(255 * std::clamp(x, 0.0, 1.0))); };
   return qRgb(canal(claridad - azul), canal(claridad), canal(claridad + azul));
 }
@@ -92,15 +100,9 @@ Papel::Papel() : imagen_(kLienzo, QImage::Format_RGB32), fuente_("DejaVu Sans") 
 }
 
 void Papel::Linea(Trazo trazo, QPointF a, QPointF b) {
-  if (trazo != Trazo::arista && std::abs(a.x() - b.x()) < 1e-6) {
-    a.setX(APareja(a.x()));
-    b.setX(a.x());
-  } else if (trazo != Trazo::arista && std::abs(a.y() - b.y()) < 1e-6) {
-    a.setY(APareja(a.y()));
-    b.setY(a.y());
-  }
+  const bool fina = trazo != Trazo::arista;
   pintor_.setPen(Pluma(trazo));
-  pintor_.drawLine(a, b);
+  pintor_.drawLine(fina ? APareja(a, b) : a, fina ? APareja(b, a) : b);
 }
 
 void Papel::Rellena(const QPolygonF& contorno, QRgb color) {
@@ -122,7 +124,7 @@ void Papel::Flecha(QPointF punta, QPointF hacia) {
   pintor_.drawPolygon(QPolygonF{punta, cola + lado, cola - lado});
 }
 
-void Papel::Cota(const Medida& medida, const QString& letra, double corre) {
+void Papel::Cota(const Medida& medida, const QString& letra) {
   const auto& [a, b, a2, b2, extension] = medida;
   for (const auto& [punto, fin] : {std::pair(a, a2), std::pair(b, b2)}) {
     if (Largo(fin - punto) < 1) continue;
@@ -130,10 +132,8 @@ void Papel::Cota(const Medida& medida, const QString& letra, double corre) {
     // A centre line passes its centre; other extension lines keep a gap to the edge.
     Linea(extension, extension == Trazo::eje ? punto - 10 * hacia : punto + kHueco * hacia, fin + kSaliente * hacia);
   }
-  const bool vertical = std::abs(a2.x() - b2.x()) < 1e-6, horizontal = std::abs(a2.y() - b2.y()) < 1e-6;
-  QPointF p = a2, q = b2;
-  if (vertical) p.setX(APareja(p.x())), q.setX(p.x());
-  if (horizontal) p.setY(APareja(p.y())), q.setY(p.y());
+  const bool vertical = EsVertical(a2, b2), horizontal = EsHorizontal(a2, b2);
+  const QPointF p = APareja(a2, b2), q = APareja(b2, a2);
   const QPointF u = Unidad(q - p);
   const double letraLargo = vertical ? kAlturaLetra : AnchoRotulo(letra);
   const bool fuera = Largo(q - p) < letraLargo + 2 * kFlechaLargo + 16;
@@ -148,7 +148,7 @@ void Papel::Cota(const Medida& medida, const QString& letra, double corre) {
   QPointF aparte;
   if (fuera && horizontal) aparte.setY(kAparte);
   if (fuera && vertical) aparte.setX(kAparte / 2 + AnchoRotulo(letra) / 2);
-  Rotulo(letra, (p + q) / 2 + corre * u + aparte);
+  Rotulo(letra, (p + q) / 2 + aparte);
 }
 
 void Papel::CotaRadio(QPointF centro, double radio, double angulo, double largo, const QString& letra) {

@@ -31,13 +31,13 @@ class Papel {
   /// A line of any tone and width, for the shaded views.
   void Perfil(QPointF a, QPointF b, QRgb color, double ancho);
 
-  /// The dimension line runs from `a2` to `b2`; extension lines come from the points `a` and `b` that are measured. In
-  /// a narrow place the arrows stand outside. The letter sits in the middle, moved by `corre` along the line.
+  /// The dimension line runs from `a2` to `b2`; extension lines come from the points `a` and `b` that are measured. The
+  /// letter sits in the middle. In a narrow place the arrows stand outside and the letter below or to the right.
   struct Medida {
     QPointF a, b, a2, b2;
     Trazo extension = Trazo::cota;
   };
-  void Cota(const Medida& medida, const QString& letra, double corre);
+  void Cota(const Medida& medida, const QString& letra);
   /// An arrow that touches the arc from the outside (`largo` above 0) or the inside, and the letter at its end.
   /// `angulo` in degrees, counter-clockwise.
   void CotaRadio(QPointF centro, double radio, double angulo, double largo, const QString& letra);

@@ -3,12 +3,12 @@
 namespace duktores {
 namespace {
 
-constexpr Boca Rectangulo(double lx, double ly) { return {lx, ly, {}, false}; }
-constexpr Boca Circulo(double r) { return {2 * r, 2 * r, {r, r, r, r}, false}; }
+constexpr Boca Rectangulo(double lx, double ly) { return {lx, ly}; }
+constexpr Boca Circulo(double r) { return {2 * r, 2 * r, {r, r, r, r}}; }
 constexpr Boca Elipse(double a, double b) { return {a, b, {}, true}; }
-constexpr Boca Oblongo(double lx, double ly) { return {lx, ly, {ly / 2, ly / 2, ly / 2, ly / 2}, false}; }
+constexpr Boca Oblongo(double lx, double ly) { return {lx, ly, {ly / 2, ly / 2, ly / 2, ly / 2}}; }
 // Square at the -x end, half circle at the other.
-constexpr Boca MedioOblongo(double lx, double ly) { return {lx, ly, {0, 0, ly / 2, ly / 2}, false}; }
+constexpr Boca MedioOblongo(double lx, double ly) { return {lx, ly, {0, 0, ly / 2, ly / 2}}; }
 
 using enum Lugar;
 using enum TipoCota;
@@ -18,15 +18,15 @@ constexpr auto giro = Inclinacion::giro, corte = Inclinacion::corte;
 
 // clang-format off
 // All pieces fit one layout: the base about 310 by 230, with room for its dimensions.
-//                       lower mouth                               upper mouth                               H    ax  ay  alfa beta
-constexpr Pieza kCR   = {Rectangulo(310, 230),                     Circulo(84),                              160, 44, 22, 20, 0, giro};
-constexpr Pieza kRC   = {Circulo(128),                             Rectangulo(150, 104),                     160, 28, 18, 20, 0, giro};
-constexpr Pieza kElip = {Rectangulo(310, 230),                     Elipse(200, 140),                         160, 44, 22, 20, 0, giro};
-constexpr Pieza kEsp1 = {{310, 240, {44, 60, 76, 52}, false},      {210, 168, {30, 44, 56, 38}, false},      170, 36, 20, 16, 16, corte};
-constexpr Pieza kEsp2 = {Oblongo(310, 200),                        Circulo(74),                              170, 36, 16, 16, 16, corte};
-constexpr Pieza kEsp3 = {MedioOblongo(310, 220),                   Circulo(80),                              170, 36, 18, 16, 16, corte};
-constexpr Pieza kEsp4 = {{310, 230, {44, 60, 76, 52}, false},      Circulo(80),                              170, 40, 20, 16, 16, corte};
-constexpr Pieza kEsp5 = {Rectangulo(310, 240),                     {210, 168, {30, 44, 56, 38}, false},      170, 36, 20, 16, 16, corte};
+//                       lower mouth                    upper mouth                    H    ax  ay  alfa, beta
+constexpr Pieza kCR   = {Rectangulo(310, 230),          Circulo(84),                   160, 44, 22, 20, 0, giro};
+constexpr Pieza kRC   = {Circulo(128),                  Rectangulo(150, 104),          160, 28, 18, 20, 0, giro};
+constexpr Pieza kElip = {Rectangulo(310, 230),          Elipse(200, 140),              160, 44, 22, 20, 0, giro};
+constexpr Pieza kEsp1 = {{310, 240, {44, 60, 76, 52}},  {210, 168, {30, 44, 56, 38}},  170, 36, 20, 16, 16, corte};
+constexpr Pieza kEsp2 = {Oblongo(310, 200),             Circulo(74),                   170, 36, 16, 16, 16, corte};
+constexpr Pieza kEsp3 = {MedioOblongo(310, 220),        Circulo(80),                   170, 36, 18, 16, 16, corte};
+constexpr Pieza kEsp4 = {{310, 230, {44, 60, 76, 52}},  Circulo(80),                   170, 40, 20, 16, 16, corte};
+constexpr Pieza kEsp5 = {Rectangulo(310, 240),          {210, 168, {30, 44, 56, 38}},  170, 36, 20, 16, 16, corte};
 
 constexpr CotaPieza kCotasCR[] = {
     {frente, horizontal, "LI",   abajo,  oeste,    abajo,  este,      -40},
@@ -138,11 +138,11 @@ constexpr Figura kFigurasDuktores[] = {
     {&kRC, {632, 372}, 1.08},
     {&kCR, {240, 424}, 1.08}};
 constexpr Figura kFigurasEspeciales[] = {
-    {&kEsp3, {200, 194}, 0.84},
-    {&kEsp2, {646, 194}, 0.84},
-    {&kEsp1, {420, 388}, 0.84},
-    {&kEsp5, {200, 590}, 0.84},
-    {&kEsp4, {646, 590}, 0.84}};
+    {&kEsp3, {200, 186}, 0.82},
+    {&kEsp2, {646, 186}, 0.82},
+    {&kEsp1, {420, 380}, 0.82},
+    {&kEsp5, {200, 578}, 0.82},
+    {&kEsp4, {646, 578}, 0.82}};
 constexpr Figura kFigurasElip[] = {
     {&kElip, {420, 420}, 1.55}};
 

@@ -5,7 +5,7 @@
 #include "batch/puntos_lote.h"
 #include "dialogs/dialogo.h"
 #include "dxf/escritor.h"
-#include "shell/corrida.h"
+#include "shell/visor.h"
 #include "state/caracteres.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"

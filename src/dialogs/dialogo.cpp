@@ -53,7 +53,7 @@ std::optional<int> Dialogo::LeeCampos(Valores& v) const {
 }
 
 Respuesta Dialogo::CmdAceptar() {
-  if (!def_->clave.empty()) estado.sTipoPieza = def_->clave;
+  estado.sTipoPieza = def_->clave;
 
   const auto vacio = std::find_if(campos_.begin(), campos_.end(), [](const Campo& campo) {
     return campo.texto.find_first_not_of(' ') == std::string::npos;
@@ -84,11 +84,18 @@ Respuesta Dialogo::CmdAceptar() {
   return malo ? Respuesta::datoErroneo : Respuesta::aceptado;
 }
 
-const DefDialogo* DialogoDe(std::string_view clave) {
-  static constexpr std::array kDialogos{&kFrTransfCR};
-  const auto* dialogo =
-      std::find_if(kDialogos.begin(), kDialogos.end(), [&](const DefDialogo* d) { return d->clave == clave; });
+namespace {
+
+constexpr std::array kDialogos{&kFrTransfCR};
+
+const DefDialogo* Busca(std::string_view DefDialogo::*campo, std::string_view valor) {
+  const auto* dialogo = std::ranges::find_if(kDialogos, [&](const DefDialogo* d) { return d->*campo == valor; });
   return dialogo == kDialogos.end() ? nullptr : *dialogo;
 }
+
+}  // namespace
+
+const DefDialogo* DialogoDe(std::string_view clave) { return Busca(&DefDialogo::clave, clave); }
+const DefDialogo* VentanaDe(std::string_view nombre) { return Busca(&DefDialogo::nombre, nombre); }
 
 }  // namespace duktores

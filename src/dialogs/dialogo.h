@@ -86,7 +86,8 @@ class Dialogo {
   std::string lblerror_;
 };
 
-/// The dialog of a piece type key; null if there is none.
+/// The dialog of a piece type key, or of a window's name; null if there is none.
 const DefDialogo* DialogoDe(std::string_view clave);
+const DefDialogo* VentanaDe(std::string_view nombre);
 
 }  // namespace duktores

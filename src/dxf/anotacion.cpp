@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "dxf/dibujo.h"
+#include "dxf/escritor.h"
 #include "dxf/finitos.h"
 #include "geometry/redondeo.h"
 #include "state/caracteres.h"
@@ -34,8 +35,9 @@ void PonCanales(EWdraw& axew, std::int32_t id, std::int16_t color, const std::ar
 
 /// A number with a mark of either kind and perhaps an exponent, and nothing else.
 bool EsNumero(std::string_view texto) {
-  std::string numero(texto);
-  std::ranges::replace(numero, ',', '.');
+  std::string numero(Recorta(texto));
+  if (numero.starts_with('+')) numero.erase(0, 1);
+  SustituyeCaracter(numero, ',', '.');
   const char* const fin = numero.data() + numero.size();
   double v = 0;
   const auto leido = std::from_chars(numero.data(), fin, v);
@@ -142,7 +144,7 @@ void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices) {
 void DibujaMarcoDatos(EWdraw& axew, std::int16_t inumDoblado, Punto3 dblPoint3) {
   constexpr std::int16_t kColor = 7;
   const int columnas = (2 * inumDoblado + 2 + 29) / 30;  // of 30 rows each
-  const double ancho = 2 * inumDoblado <= 88 ? 670.0 : 670.0 + 200.0 * (columnas - 3);
+  const double ancho = 670.0 + 200.0 * std::max(columnas - 3, 0);
   const double x = dblPoint3.x, y = dblPoint3.y;
   ExigeFinitos({x, y});
   const Punto2 a{x, y}, b{x + ancho, y};

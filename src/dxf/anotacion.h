@@ -2,7 +2,7 @@
 // The procedures with which every engine draws a flat pattern. Each draws twice: on the control `axew` for the screen
 // and into `estado.oDrawing` for the file. Coordinates are in the plane of the pattern, in the configured unit, z is 0;
 // angles are degrees; `color` is the DXF colour index. A coordinate that is no finite number ends the run with
-// ErrorCorrida before anything of that shape is drawn.
+// ErrorCorrida before that line, arc, text or outline is drawn.
 
 #include <cstdint>
 #include <string>

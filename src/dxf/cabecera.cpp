@@ -276,7 +276,7 @@ constexpr std::string_view kComienzoTiposLinea[] = {
     "  2", "ByBlock", "  70", "    0", "  3", "", "  72", "    65", "  73", "    0", "  40", " 0.0"};
 
 constexpr std::string_view kTipoLineaContinua[] = {
-    "0", "LTYPE", "5", "16", "330", "5", "100", "AcDbSymbolTableRecord", "100", "AcDbLinetypeTableRecord",
+    "  0", "LTYPE", "5", "16", "330", "5", "100", "AcDbSymbolTableRecord", "100", "AcDbLinetypeTableRecord",
     "  2", "Continuous", "  70", "     0", "  3", "", "  72", "     65", "  73", "     0", "  40", "0.0"};
 
 constexpr std::string_view kFuentes[] = {

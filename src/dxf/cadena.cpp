@@ -32,6 +32,10 @@ bool cAddString::Add2Strings(std::string_view sString1, std::string_view sString
   return AddString(sString1) && AddString(sString2);
 }
 
-std::string cAddString::EndAdd() { return std::exchange(texto_, {}); }
+std::string cAddString::EndAdd() {
+  std::string texto = texto_;
+  BeginAdd();
+  return texto;
+}
 
 }  // namespace duktores

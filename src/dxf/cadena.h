@@ -16,7 +16,7 @@ class cAddString {
 
   bool BeginAdd();              ///< empties the buffer and keeps its capacity; true
   std::int32_t Length() const;  ///< characters held, in UTF-16 units
-  bool AddString(std::string_view sString);
+  bool AddString(std::string_view sString);  ///< sString must not lie in the buffer itself
   bool Add2Strings(std::string_view sString1, std::string_view sString2);
   const std::string& CurString() const { return texto_; }
   std::string EndAdd();  ///< the text; the buffer is then empty

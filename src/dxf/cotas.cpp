@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "dxf/anotacion.h"
+#include "dxf/escritor.h"
 #include "dxf/finitos.h"
 #include "geometry/planas.h"
 #include "geometry/redondeo.h"
@@ -27,7 +28,7 @@ std::string TextoMedida(double v) {
   const auto fin =
       std::to_chars(letras.data(), letras.data() + letras.size(), redondeado, std::chars_format::fixed, decimales);
   std::string texto(letras.data(), fin.ptr);
-  if (milimetros && estado.bComaDecimal) std::ranges::replace(texto, '.', ',');
+  if (milimetros && estado.bComaDecimal) SustituyeCaracter(texto, '.', ',');
   return texto;
 }
 
@@ -72,8 +73,9 @@ void CotaEntrePuntos(EWdraw& axew, Punto2 M1, Punto2 M2, Punto2 P, double altura
   const double pendiente = Pendiente(M1, M2);
   std::string texto = TextoMedida(Distancia(E1, E2));
 
-  DibujaLinea(axew, M1, E1, color);
-  DibujaLinea(axew, M2, E2, color);
+  // With P on the measured line there is nothing to extend.
+  if (M1 != E1) DibujaLinea(axew, M1, E1, color);
+  if (M2 != E2) DibujaLinea(axew, M2, E2, color);
   DibujaLinea(axew, E1, E2, color);
   DibujaFlecha(axew, E1, pendiente, color);
   DibujaFlecha(axew, E2, pendiente + 180, color);
@@ -91,7 +93,7 @@ void CotaEnPunto(EWdraw& axew, Punto2 p1, Punto2 p2, Punto2 enPunto, double altu
 
 void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double xp, double yp, double altura,
                 std::int16_t color, std::string_view tipo) {
-  ExigeFinitos({x1, y1, x2, y2, xp, yp, altura});
+  ExigeFinitos({x1, y1, x2, y2, altura});
   const Punto2 p1{x1, y1}, p2{x2, y2};
   if (tipo == "M") CotaEntrePuntos(axew, p1, p2, {xp, yp}, altura, color);
   if (tipo == "S") CotaEnPunto(axew, p1, p2, p1, altura, color);

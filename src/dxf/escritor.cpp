@@ -61,6 +61,7 @@ struct Regla {
   std::vector<Sustitucion> sustituciones;
 };
 
+/// The rules for the extent that `estado` holds.
 std::vector<Regla> Reglas() {
   const VistaDxf vista = VistaDeExtension();
   return {{"$EXTMIN", {{1, estado.ExtMinX}, {1, estado.ExtMinY}}},
@@ -90,8 +91,8 @@ void AnadeCp1252(std::string& destino, std::string_view utf8) {
 }
 
 /// The whole file; false if the template is cut short within a rule or before its entities.
-bool Compone(std::string_view plantilla, std::string_view entidades, std::string& fichero) {
-  const std::vector<Regla> reglas = Reglas();
+bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::string_view entidades,
+             std::string& fichero) {
   fichero.reserve(2 * plantilla.size() + entidades.size());
   Copiadora copiadora(plantilla, fichero);
   std::string_view linea;
@@ -136,7 +137,7 @@ bool cDXF::Save(const std::string& sDXFFile) {
     EstadoPrograma& e = estado;
     Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
     std::string fichero;
-    return Compone(LeePlantilla(), Entities_->GetEntities(), fichero) && EscribeFichero(sDXFFile, fichero) &&
+    return Compone(LeePlantilla(), Reglas(), Entities_->GetEntities(), fichero) && EscribeFichero(sDXFFile, fichero) &&
            ExisteFichero(sDXFFile);
   } catch (const std::exception&) {
     return false;
@@ -175,7 +176,7 @@ std::string RutaPlantilla() { return estado.sRutaPrograma + "Template/Template.d
 
 bool HayPlantilla() {
   std::string fichero;
-  return Compone(LeePlantilla(), {}, fichero);
+  return Compone(LeePlantilla(), {}, {}, fichero);
 }
 
 bool ExisteFichero(const std::string& ruta) {

@@ -5,7 +5,7 @@
 namespace duktores {
 
 Punto3 Rota(Punto3 p, Punto3 enEje, Punto3 direccion, double grados) {
-  const double largo = Distancia(Punto3{}, direccion);
+  const double largo = std::hypot(direccion.x, direccion.y, direccion.z);
   if (largo == 0) return p;
   const Punto3 e = (1 / largo) * direccion;
   const Punto3 r = p - enEje;

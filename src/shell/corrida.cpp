@@ -17,8 +17,6 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kPrimerHandle = 500;
-
 void DibujaCR(EWdraw& axew) {
   clTransCR motor;
   motor.GeneraDibujo(estado.dL1Base, estado.dL2Base, estado.dRadioAlto, estado.iDivisiones, -estado.dAx, -estado.dAy,
@@ -70,19 +68,6 @@ FinCorrida Despliega(EWdraw& axew) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
   return FinCorrida::error;
-}
-
-FinCorrida Desplegado(EWdraw& axew) {
-  CursorEspera(true);
-  axew.EwClear();
-  axew.EwBeginPolyline();
-  axew.EwViewMode(1);
-  axew.EwViewDirection(0, 0, 1);
-  axew.EwRegen();
-  estado.iHandleDxf = kPrimerHandle;
-  const FinCorrida fin = Despliega(axew);
-  CursorEspera(false);
-  return fin;
 }
 
 }  // namespace duktores

@@ -16,7 +16,4 @@ enum class FinCorrida { completo, eleccionRechazada, error };
 /// quietly, an error of the run is told to the user.
 FinCorrida Despliega(EWdraw& axew);
 
-/// What the unfold command does around it: empties the control, looks at it from above, starts the handles at 500.
-FinCorrida Desplegado(EWdraw& axew);
-
 }  // namespace duktores

@@ -1,7 +1,6 @@
 #pragma once
 // What the viewer's buttons do, without the window: views, unfolding, saving.
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>

@@ -2,31 +2,42 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace duktores {
 
+namespace fs = std::filesystem;
+
 std::optional<std::string> LeeFichero(const std::string& ruta) {
-  std::error_code error;
   std::ifstream fichero(ruta, std::ios::binary);
-  if (!fichero || std::filesystem::is_directory(ruta, error)) return std::nullopt;
-  std::string contenido{std::istreambuf_iterator<char>(fichero), {}};
+  if (!fichero) return std::nullopt;
+  std::string contenido;
+  std::array<char, 1 << 16> trozo;
+  do {
+    fichero.read(trozo.data(), trozo.size());
+    contenido.append(trozo.data(), static_cast<std::size_t>(fichero.gcount()));
+  } while (fichero);
   return fichero.bad() ? std::nullopt : std::optional(std::move(contenido));
 }
 
 bool EscribeFichero(const std::string& ruta, std::string_view contenido) {
-  // The thread's own name: two savers of one file don't meet in it.
-  const std::string temporal = ruta + "." + std::to_string(gettid()) + ".tmp";
+  std::error_code error;
+  // A link stays one, and a file that its owner has locked is not replaced.
+  fs::path destino = ruta;
+  if (fs::is_symlink(destino, error)) destino = fs::canonical(destino, error);
+  if (destino.empty() || (fs::exists(destino, error) && access(destino.c_str(), W_OK) != 0)) return false;
+  error.clear();
+  // The thread's own name: two savers in one folder don't meet in it.
+  const fs::path temporal = destino.parent_path() / (".duktores-" + std::to_string(gettid()) + ".tmp");
   std::ofstream fichero(temporal, std::ios::binary);
   fichero.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
   fichero.close();
-  std::error_code error;
-  if (fichero) std::filesystem::rename(temporal, ruta, error);
+  if (fichero) fs::rename(temporal, destino, error);
   const bool hecho = fichero && !error;
-  if (!hecho) std::filesystem::remove(temporal, error);
+  if (!hecho) fs::remove(temporal, error);
   return hecho;
 }
 

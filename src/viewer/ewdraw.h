@@ -30,7 +30,7 @@ struct Entidad {
   std::string texto, fuente;   ///< texts: UTF-8, font name
 };
 
-/// A box around entities; empty() until something is in it.
+/// A box around entities; Vacia() until something is in it.
 struct Caja {
   Punto3 minimo{1, 1, 1}, maximo{-1, -1, -1};
   bool Vacia() const { return minimo.x > maximo.x; }

@@ -15,7 +15,7 @@ namespace duktores {
 namespace {
 
 // From the first to the last number of each stretch.
-constexpr int kEnTodas[][2] = {{1, 3}, {11, 15}, {17, 35}, {40, 47}, {49, 50}, {57, 58}, {61, 61}, {63, 66}, {80, 83}};
+constexpr int kEnTodas[][2] = {{1, 3}, {11, 15}, {17, 35}, {40, 47}, {49, 50}, {57, 58}, {61, 61}, {63, 66}, {80, 102}};
 constexpr int kCortos[][2] = {{51, 56}, {59, 60}};
 constexpr int kChinos[][2] = {{67, 68}};
 

@@ -1,0 +1,92 @@
+#include "shell/visor.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "dxf/escritor.h"
+#include "state/error_corrida.h"
+#include "state/estado.h"
+#include "state/fichero.h"
+#include "state/textos.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr std::int32_t kPrimerHandle = 500;
+
+// clang-format off
+constexpr std::array kVistas{
+    //        button         key   text  from
+    VistaFija{"cmdTop",      "F1",  84, { 0,  0,  1}},
+    VistaFija{"cmdBottom",   "F2",  85, { 0,  0, -1}},
+    VistaFija{"CmdLeft",     "F3",  86, {-1,  0,  0}},
+    VistaFija{"CmdRight",    "F4",  87, { 1,  0,  0}},
+    VistaFija{"cmdfront",    "F5",  88, { 0, -1,  0}},
+    VistaFija{"cmdRear",     "F6",  89, { 0,  1,  0}},
+    VistaFija{"CmdIsofront", "F7",  90, { 0, -1,  1}},
+    VistaFija{"cmdisoright", "F8",  91, { 1,  0,  1}},
+    VistaFija{"CmdIsoclear", "F9",  92, { 0,  1,  1}},
+    VistaFija{"cmdisoleft",  "F10", 93, {-1,  0,  1}},
+};
+// clang-format on
+
+void Mira(EWdraw& axew, Punto3 desde) {
+  axew.EwViewMode(1);
+  axew.EwViewDirection(desde.x, desde.y, desde.z);
+  axew.EwRegen();
+}
+
+std::string ConExtension(std::string ruta) {
+  const std::size_t nombre = ruta.rfind('/') + 1;
+  const std::size_t punto = ruta.rfind('.');
+  const bool conExtension = punto != std::string::npos && punto > nombre;
+  return conExtension ? ruta : ruta + ".dxf";
+}
+
+bool Falla(int texto, const std::string& ruta) {
+  MuestraMensaje(Texto(texto) + " " + ruta, EstiloMensaje::exclamacion, "");
+  CursorEspera(false);
+  return false;
+}
+
+}  // namespace
+
+std::span<const VistaFija> VistasFijas() { return kVistas; }
+
+void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen) {
+  const auto* vista = std::ranges::find(kVistas, clave, &VistaFija::clave);
+  if (vista != kVistas.end()) {
+    Mira(axew, vista->direccion);
+  } else if (clave == "Z" && soloRegen) {
+    axew.EwRegen();
+  }
+}
+
+FinCorrida Desplegado(EWdraw& axew) {
+  CursorEspera(true);
+  axew.EwClear();
+  axew.EwBeginPolyline();
+  ComandoVista(axew, "F1", false);
+  estado.iHandleDxf = kPrimerHandle;
+  const FinCorrida fin = Despliega(axew);
+  CursorEspera(false);
+  return fin;
+}
+
+bool GuardaDibujo(std::string elegido) {
+  if (elegido.empty()) return false;
+  elegido = ConExtension(std::move(elegido));
+  const std::string auxiliar = estado.sRutaPrograma + "AuxDxf.dxf";
+  if (!estado.oDXF || !estado.oDXF->InsertEntities(estado.oDrawing)) return false;
+  if (!HayPlantilla()) return Falla(kTextoPlantilla, RutaPlantilla());
+  if (!estado.oDXF->Save(auxiliar)) return Falla(kTextoNoGuardado, auxiliar);
+  const auto contenido = LeeFichero(auxiliar);
+  if (!contenido || !EscribeFichero(elegido, *contenido)) return Falla(kTextoNoGuardado, elegido);
+  MuestraMensaje("OK", EstiloMensaje::informacion, "");
+  CursorEspera(false);
+  return true;
+}
+
+}  // namespace duktores

@@ -1,0 +1,109 @@
+#include "windows/campo_texto.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QTimer>
+
+namespace duktores {
+
+TextoFiltrado::TextoFiltrado(Filtro filtro, QWidget* padre) : QLineEdit(padre), filtro_(filtro) {
+  setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+}
+
+Campo TextoFiltrado::ComoCampo() const {
+  const QString seleccion = selectedText();
+  return {text().toStdString(), static_cast<std::size_t>(seleccion.isEmpty() ? cursorPosition() : selectionStart()),
+          static_cast<std::size_t>(seleccion.size())};
+}
+
+void TextoFiltrado::Inserta(const QString& texto) {
+  for (const char32_t tecla : texto.toStdU32String()) {
+    const char32_t filtrada = tecla < U' ' ? 0 : FiltraTecla(tecla, ComoCampo(), filtro_);
+    if (filtrada != 0) insert(QChar(static_cast<char16_t>(filtrada)));
+  }
+}
+
+void TextoFiltrado::Pega() { Inserta(QApplication::clipboard()->text()); }
+
+void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
+  if (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter) {
+    focusNextPrevChild(true);
+  } else if (suceso->matches(QKeySequence::Paste)) {
+    Pega();
+  } else if (const QString texto = suceso->text(); !texto.isEmpty() && texto[0].isPrint()) {
+    Inserta(texto);
+  } else {
+    QLineEdit::keyPressEvent(suceso);
+  }
+}
+
+// A click marks all, so that the next key replaces the text.
+void TextoFiltrado::mousePressEvent(QMouseEvent* suceso) {
+  QLineEdit::mousePressEvent(suceso);
+  if (suceso->button() == Qt::LeftButton) selectAll();
+}
+
+void TextoFiltrado::mouseReleaseEvent(QMouseEvent* suceso) {
+  // The line edit itself would paste the marked text of the X server here, past the filter.
+  if (suceso->button() == Qt::MiddleButton) {
+    Inserta(QApplication::clipboard()->text(QClipboard::Selection));
+  } else {
+    QLineEdit::mouseReleaseEvent(suceso);
+  }
+}
+
+void TextoFiltrado::focusInEvent(QFocusEvent* suceso) {
+  QLineEdit::focusInEvent(suceso);
+  selectAll();
+}
+
+// A minus sign in the wrong place keeps the focus. Only a move within the window asks: the user may look at another
+// one.
+void TextoFiltrado::focusOutEvent(QFocusEvent* suceso) {
+  QLineEdit::focusOutEvent(suceso);
+  const bool dentro = suceso->reason() == Qt::TabFocusReason || suceso->reason() == Qt::BacktabFocusReason ||
+                      suceso->reason() == Qt::MouseFocusReason || suceso->reason() == Qt::OtherFocusReason;
+  if (dentro && filtro_ == FiltraNumeroSigno && !SignoEnSuSitio(ComoCampo())) {
+    QTimer::singleShot(0, this, [this] {
+      if (isVisible()) setFocus(Qt::OtherFocusReason);
+    });
+  }
+}
+
+void TextoFiltrado::inputMethodEvent(QInputMethodEvent* suceso) {
+  Inserta(suceso->commitString());
+  suceso->accept();
+}
+
+void TextoFiltrado::contextMenuEvent(QContextMenuEvent* suceso) {
+  QMenu* menu = createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  if (QAction* pegar = menu->findChild<QAction*>("edit-paste")) {
+    pegar->disconnect(this);
+    connect(pegar, &QAction::triggered, this, &TextoFiltrado::Pega);
+  }
+  menu->popup(suceso->globalPos());
+}
+
+void TextoFiltrado::dropEvent(QDropEvent* suceso) {
+  setCursorPosition(cursorPositionAt(suceso->position().toPoint()));
+  Inserta(suceso->mimeData()->text());
+  suceso->setDropAction(Qt::CopyAction);
+  suceso->accept();
+}
+
+void ListaFija::keyPressEvent(QKeyEvent* suceso) {
+  const bool flechas = suceso->key() == Qt::Key_Down || suceso->key() == Qt::Key_Up;
+  if (suceso->key() == Qt::Key_F4 || (flechas && (suceso->modifiers() & Qt::AltModifier))) showPopup();
+  // Escape still leaves the dialog.
+  suceso->setAccepted(suceso->key() != Qt::Key_Escape);
+}
+
+void ListaFija::wheelEvent(QWheelEvent* suceso) { suceso->ignore(); }
+
+}  // namespace duktores

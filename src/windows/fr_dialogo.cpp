@@ -1,0 +1,135 @@
+#include "windows/fr_dialogo.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "state/estado.h"
+#include "state/textos.h"
+#include "windows/campo_texto.h"
+#include "windows/frm_view_unfold.h"
+#include "windows/iconos.h"
+#include "windows/imagen.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr int kMargen = 12, kAltoFila = 31, kAltoControl = 26;
+constexpr int kAnchoRotulo = 186, kAnchoControl = 96, kAnchoColumna = kAnchoRotulo + kAnchoControl + 24;
+constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46;
+constexpr int kFilasPorColumna = 11;
+
+int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
+
+QSize Diseno(const DefDialogo& def) {
+  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna, kMargen + kAltoImagen + kMargen + kAltoPie};
+}
+
+QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
+
+}  // namespace
+
+FrDialogo::FrDialogo(const DefDialogo& def, std::string_view imagen, QWidget* padre)
+    : QDialog(padre), dialogo_(def), columnas_(Columnas(def)), proporcion_(*this, Diseno(def)) {
+  setObjectName(Q(def.nombre));
+  setWindowTitle(dialogo_.Titulo() ? Q(*dialogo_.Titulo()) : Q("duktores"));
+  auto* image1 = new Imagen(this);
+  image1->setObjectName("Image1");
+  image1->Carga(imagen);
+  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
+  Campos();
+  Pie(Diseno(def).height() - kAltoPie);
+}
+
+void FrDialogo::Campos() {
+  const int cuenta = static_cast<int>(dialogo_.Definicion().campos.size());
+  const int filas = (cuenta + columnas_ - 1) / columnas_;
+  for (int i = 0; i < cuenta; ++i) {
+    const int x = 2 * kMargen + kAnchoImagen + i / filas * kAnchoColumna, y = kMargen + i % filas * kAltoFila;
+    auto* rotulo = new QLabel(Q(dialogo_.TextoRotulo(i)), this);
+    proporcion_.Coloca(*rotulo, {x, y, kAnchoRotulo, kAltoControl});
+    controles_.push_back(ControlDe(i));
+    proporcion_.Coloca(*controles_.back(), {x + kAnchoRotulo, y, kAnchoControl, kAltoControl});
+    rotulo->setBuddy(controles_.back());
+  }
+  if (!dialogo_.Definicion().opcionPiezas) return;
+  const int x = 2 * kMargen + kAnchoImagen, y = kMargen + filas * kAltoFila;
+  auto* una = new QRadioButton(Q(Texto(13)), this);
+  auto* dos = new QRadioButton(Q(Texto(14)), this);
+  una->setObjectName("OpUnapieza");
+  dos->setObjectName("OpDosPiezas");
+  dos->setChecked(dialogo_.dosPiezas);
+  connect(dos, &QRadioButton::toggled, this, [this](bool elegido) { dialogo_.dosPiezas = elegido; });
+  proporcion_.Coloca(*una, {x, y, kAnchoColumna / 2, kAltoControl});
+  proporcion_.Coloca(*dos, {x + kAnchoColumna / 2, y, kAnchoColumna / 2 - kMargen, kAltoControl});
+}
+
+// The widget holds the text, the dialog object a copy of it.
+QWidget* FrDialogo::ControlDe(int campo) {
+  const DefCampo& def = dialogo_.Definicion().campos[static_cast<std::size_t>(campo)];
+  if (def.filtro) {
+    auto* texto = new TextoFiltrado(def.filtro, this);
+    texto->setObjectName(Q(def.nombre));
+    connect(texto, &QLineEdit::textChanged, this,
+            [this, campo](const QString& nuevo) { dialogo_.CampoDe(campo).texto = nuevo.toStdString(); });
+    return texto;
+  }
+  auto* lista = new ListaFija(this);
+  lista->setObjectName(Q(def.nombre));
+  for (const std::string_view valor : def.valores) lista->addItem(Q(valor));
+  lista->setCurrentIndex(-1);
+  connect(lista, &QComboBox::currentTextChanged, this,
+          [this, campo](const QString& nuevo) { dialogo_.Elige(campo, nuevo.toStdString()); });
+  return lista;
+}
+
+void FrDialogo::Pie(int y) {
+  constexpr int kAnchoBoton = 130, kAltoBoton = 34;
+  lblerror_ = new QLabel(this);
+  lblerror_->setObjectName("lblerror");
+  lblerror_->setAutoFillBackground(true);
+  lblerror_->setAlignment(Qt::AlignCenter);
+  lblerror_->setStyleSheet("QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; }");
+  lblerror_->hide();
+  proporcion_.Coloca(*lblerror_, {kMargen, y, kAnchoImagen, kAltoBoton});
+
+  const bool chino = estado.dIdioma == kChino;
+  auto* aceptar = new QPushButton(Q(Texto(17)), this);
+  auto* cancelar = new QPushButton(Q(Texto(18)), this);
+  PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
+  PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
+  aceptar->setDefault(true);
+  const int derecha = Diseno(dialogo_.Definicion()).width() - kMargen;
+  proporcion_.Coloca(*aceptar, {derecha - 2 * kAnchoBoton - kMargen, y, kAnchoBoton, kAltoBoton});
+  proporcion_.Coloca(*cancelar, {derecha - kAnchoBoton, y, kAnchoBoton, kAltoBoton});
+  connect(aceptar, &QPushButton::clicked, this, &FrDialogo::CmdAceptar);
+  connect(cancelar, &QPushButton::clicked, this, &FrDialogo::reject);
+}
+
+void FrDialogo::Activa() {
+  dialogo_.Activa();
+  controles_.front()->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void FrDialogo::showEvent(QShowEvent* suceso) {
+  QDialog::showEvent(suceso);
+  Activa();
+}
+
+void FrDialogo::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
+
+void FrDialogo::CmdAceptar() {
+  const Respuesta respuesta = dialogo_.CmdAceptar();
+  lblerror_->setText(Q(dialogo_.lblerror()));
+  lblerror_->setVisible(!dialogo_.lblerror().empty());
+  if (respuesta != Respuesta::aceptado) {
+    controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+  FrmViewUnfold visor(this);
+  visor.exec();
+  Activa();
+}
+
+}  // namespace duktores

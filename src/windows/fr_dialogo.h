@@ -1,0 +1,39 @@
+#pragma once
+// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the error label and two
+// buttons. What the fields are and take is the dialog object's.
+
+#include <QDialog>
+#include <QLabel>
+#include <vector>
+
+#include "dialogs/dialogo.h"
+#include "windows/proporcion.h"
+
+namespace duktores {
+
+class Imagen;
+
+class FrDialogo : public QDialog {
+  Q_OBJECT
+ public:
+  FrDialogo(const DefDialogo& def, std::string_view imagen, QWidget* padre);
+
+ protected:
+  void showEvent(QShowEvent* suceso) override;
+  void resizeEvent(QResizeEvent* suceso) override;
+
+ private:
+  void Campos();
+  QWidget* ControlDe(int campo);
+  void Pie(int alto);
+  void Activa();
+  void CmdAceptar();
+
+  Dialogo dialogo_;
+  int columnas_;
+  Proporcion proporcion_;
+  std::vector<QWidget*> controles_;  // of the fields, in their order
+  QLabel* lblerror_ = nullptr;
+};
+
+}  // namespace duktores

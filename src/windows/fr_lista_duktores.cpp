@@ -1,0 +1,112 @@
+#include "windows/fr_lista_duktores.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include "dialogs/dialogo.h"
+#include "state/estado.h"
+#include "state/textos.h"
+#include "windows/fr_dialogo.h"
+#include "windows/iconos.h"
+#include "windows/ventanas.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr QSize kDiseno{790, 476};
+
+}  // namespace
+
+FrListaDuktores::FrListaDuktores()
+    : proporcion_(*this, kDiseno),
+      LstDuktores_(new QListWidget(this)),
+      LblGeneral_(new QLabel(this)),
+      PicDuktores_(new Imagen(this)) {
+  setObjectName("FrListaDuktores");
+  LstDuktores_->setObjectName("LstDuktores");
+  LblGeneral_->setObjectName("LblGeneral");
+  PicDuktores_->setObjectName("PicDuktores");
+  auto* continuar = new QPushButton(QString::fromStdString(Texto(1)), this);
+  auto* salir = new QPushButton(QString::fromStdString(Texto(2)), this);
+  const bool chino = estado.dIdioma == kChino;
+  PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
+  PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
+  setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(3)));
+
+  QFont negrita = font();
+  negrita.setBold(true);
+  negrita.setPointSize(13);
+  LblGeneral_->setFont(negrita);
+  LblGeneral_->setAlignment(Qt::AlignCenter);
+  proporcion_.Coloca(*LstDuktores_, {12, 12, 334, 408});
+  proporcion_.Coloca(*LblGeneral_, {358, 12, 420, 40});
+  proporcion_.Coloca(*PicDuktores_, {358, 66, 420, 340});
+  proporcion_.Coloca(*continuar, {508, 430, 130, 34});
+  proporcion_.Coloca(*salir, {648, 430, 130, 34});
+
+  AnadeLista();
+  LstDuktores_->installEventFilter(this);
+  connect(LstDuktores_, &QListWidget::currentRowChanged, this, &FrListaDuktores::EligeFila);
+  connect(LstDuktores_, &QListWidget::itemDoubleClicked, this, &FrListaDuktores::CmdContinuar);
+  connect(continuar, &QPushButton::clicked, this, &FrListaDuktores::CmdContinuar);
+  connect(salir, &QPushButton::clicked, this, &FrListaDuktores::close);
+}
+
+void FrListaDuktores::AnadeLista() {
+  QFont letra = LstDuktores_->font();
+  letra.setPointSize(10);
+  LstDuktores_->setFont(letra);
+  for (const FilaCatalogo& fila : FilasCatalogo()) {
+    auto* renglon = new QListWidgetItem(QString::fromStdString(TextoFila(fila)), LstDuktores_);
+    QFont propia = letra;
+    propia.setBold(fila.clase == ClaseFila::categoria);
+    renglon->setFont(propia);
+  }
+  LstDuktores_->setCurrentRow(0);
+}
+
+void FrListaDuktores::EligeFila() {
+  const FilaCatalogo& fila = Fila();
+  PicDuktores_->Carga(fila.imagen);
+  LblGeneral_->setText(QString::fromStdString(RotuloFila(fila)));
+  LblGeneral_->setVisible(!RotuloFila(fila).empty());
+}
+
+void FrListaDuktores::Activa() {
+  LstDuktores_->setFocus();
+  EligeFila();
+}
+
+void FrListaDuktores::CmdContinuar() {
+  estado.sTipoPieza = TextoFila(Fila());
+  const DefDialogo* def = VentanaDe(Fila().dialogo);
+  if (!def) return;
+  FrDialogo(*def, Fila().imagen, this).exec();
+  if (!isVisible()) return;  // the program is ending
+  TraeAlFrente(*this);
+  Activa();
+}
+
+void FrListaDuktores::showEvent(QShowEvent* suceso) {
+  QWidget::showEvent(suceso);
+  Activa();
+}
+
+void FrListaDuktores::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
+
+void FrListaDuktores::closeEvent(QCloseEvent*) { Termina(); }
+
+bool FrListaDuktores::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (objeto == LstDuktores_ && suceso->type() == QEvent::KeyPress) {
+    const int tecla = static_cast<QKeyEvent*>(suceso)->key();
+    if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {
+      CmdContinuar();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(objeto, suceso);
+}
+
+}  // namespace duktores

@@ -1,0 +1,172 @@
+#include "windows/frm_view_unfold.h"
+
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QShortcut>
+#include <array>
+
+#include "dxf/dibujo.h"
+#include "shell/corrida.h"
+#include "shell/visor.h"
+#include "state/estado.h"
+#include "state/textos.h"
+#include "windows/iconos.h"
+#include "windows/ventanas.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr QSize kDiseno{1000, 720};
+constexpr int kMargen = 12, kBoton = 38, kPaso = kBoton + 2, kAltoGrupo = kBoton + 12;
+
+struct BotonZoom {
+  const char* nombre;
+  int texto;
+  MandoVista mando;
+  void (EWdraw::*orden)();
+};
+constexpr std::array kZoom{
+    BotonZoom{"cmdmove", 94, MandoVista::pan, &EWdraw::EwPan},
+    BotonZoom{"cmdorbit", 95, MandoVista::orbit, &EWdraw::EwOrbit},
+    BotonZoom{"CmdZoom", 96, MandoVista::zoom, &EWdraw::EwZoom},
+    BotonZoom{"CmdZoomAll", 97, MandoVista::zoomAll, &EWdraw::EwZoomAll},
+    BotonZoom{"CmdZoomwindow", 98, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
+};
+constexpr int kTextoElige = 102;
+
+QString Q(const std::string& texto) { return QString::fromStdString(texto); }
+
+}  // namespace
+
+FrmViewUnfold::FrmViewUnfold(QWidget* padre)
+    : QDialog(padre),
+      proporcion_(*this, kDiseno),
+      lienzo_(new Lienzo(EWdraw_, this)),
+      FrmView_(new QGroupBox(this)),
+      FrmZoom_(new QGroupBox(this)),
+      LblEstado_(new QLabel(this)) {
+  setObjectName("FrmViewUnfold");
+  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  setWindowTitle(padre ? padre->windowTitle() : QString("duktores"));
+  FrmView_->setObjectName("FrmView");
+  FrmZoom_->setObjectName("FrmZoom");
+  LblEstado_->setObjectName("LblEstado");
+  Botones();
+  proporcion_.Coloca(*lienzo_, {kMargen, 70, kDiseno.width() - 2 * kMargen, 612});
+  proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
+  connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
+  connect(lienzo_, &Lienzo::apunta, this, [this](QPointF p) {
+    LblEstado_->setText(Q(Texto(kTextoElige)) + QString("    X %1   Y %2").arg(p.x(), 0, 'f', 2).arg(p.y(), 0, 'f', 2));
+  });
+
+  EWdraw_.EwInicia(true);
+  Dibuja3D(EWdraw_);
+  CmdSave_->setEnabled(false);
+  ComandoVista(EWdraw_, "F5", false);
+}
+
+QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar) {
+  auto* boton = new QPushButton(padre);
+  PonBoton(*boton, nombre, Q(Texto(texto)));
+  boton->setAutoDefault(false);
+  proporcion_.Coloca(*boton, lugar);
+  return boton;
+}
+
+void FrmViewUnfold::Botones() {
+  int x = 6;
+  for (const VistaFija& vista : VistasFijas()) {
+    const auto mira = [this, &vista] { ComandoVista(EWdraw_, vista.clave, false); };
+    QPushButton* boton = Boton(FrmView_, vista.boton, vista.texto, {x, 6, kBoton, kBoton});
+    const QString clave = QString::fromUtf8(vista.clave.data(), static_cast<qsizetype>(vista.clave.size()));
+    boton->setToolTip(boton->toolTip() + " (" + clave + ")");
+    connect(boton, &QPushButton::clicked, this, mira);
+    auto* tecla = new QShortcut(QKeySequence(clave), this);
+    connect(tecla, &QShortcut::activated, this, [this, mira] {
+      if (FrmView_->isEnabled()) mira();
+    });
+    x += kPaso;
+  }
+  proporcion_.Coloca(*FrmView_, {kMargen, 10, x + 4, kAltoGrupo});
+
+  const int inicioZoom = FrmView_->geometry().right() + kMargen;
+  x = 6;
+  for (const BotonZoom& zoom : kZoom) {
+    QPushButton* boton = Boton(FrmZoom_, zoom.nombre, zoom.texto, {x, 6, kBoton, kBoton});
+    boton->setCheckable(zoom.mando != MandoVista::zoomAll);
+    connect(boton, &QPushButton::clicked, this, [this, &zoom] { (EWdraw_.*zoom.orden)(); });
+    connect(lienzo_, &Lienzo::mandoCambiado, boton,
+            [boton, &zoom](std::optional<MandoVista> mando) { boton->setChecked(mando == zoom.mando); });
+    x += kPaso;
+  }
+  proporcion_.Coloca(*FrmZoom_, {inicioZoom, 10, x + 4, kAltoGrupo});
+
+  x = kDiseno.width() - kMargen - 4 * (kPaso + 8);
+  const auto suelto = [&](std::string_view nombre, int texto) {
+    QPushButton* boton = Boton(this, nombre, texto, {x, 14, kBoton + 6, kBoton + 4});
+    x += kPaso + 8;
+    return boton;
+  };
+  CmdDesplegado_ = suelto("CmdDesplegado", 99);
+  CmdSave_ = suelto("CmdSave", 100);
+  connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
+  connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
+  connect(suelto("CmdCancelar", 101), &QPushButton::clicked, this, &FrmViewUnfold::reject);
+  connect(suelto("CmdExit", 2), &QPushButton::clicked, this, [] { Termina(); });
+}
+
+// The window may be closed, or the program end, while the unfolding waits for a pick.
+void FrmViewUnfold::CmdDesplegado() {
+  if (lienzo_->Eligiendo()) return;
+  const QPointer<FrmViewUnfold> vivo(this);
+  CmdSave_->setEnabled(false);
+  CmdDesplegado_->setEnabled(false);
+  FrmView_->setEnabled(false);
+  lienzo_->PermiteOrbitar(false);
+  Desplegado(EWdraw_);
+  if (!vivo) return;
+  CmdDesplegado_->setEnabled(true);
+  CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
+}
+
+void FrmViewUnfold::CmdSave() {
+  QFileDialog dialogo(this, CmdSave_->toolTip(), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setDefaultSuffix("dxf");
+  if (dialogo.exec() == QDialog::Accepted) GuardaDibujo(dialogo.selectedFiles().value(0).toStdString());
+}
+
+void FrmViewUnfold::MuestraEleccion(bool empieza) {
+  LblEstado_->setText(empieza ? Q(Texto(kTextoElige)) : QString());
+  if (empieza) {
+    CursorEspera(false);
+    lienzo_->setFocus();
+  } else {
+    CursorEspera(true);
+  }
+}
+
+void FrmViewUnfold::done(int resultado) {
+  lienzo_->CancelaEleccion();
+  QDialog::done(resultado);
+}
+
+void FrmViewUnfold::showEvent(QShowEvent* suceso) {
+  QDialog::showEvent(suceso);
+  TraeAlFrente(*this);
+}
+
+void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
+
+// Escape ends what is going on, the innermost first: a pick, a command of the mouse, the window.
+void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {
+  if (suceso->key() == Qt::Key_Escape && lienzo_->Eligiendo()) {
+    lienzo_->CancelaEleccion();
+  } else if (suceso->key() != Qt::Key_Escape || !lienzo_->TerminaMando()) {
+    QDialog::keyPressEvent(suceso);
+  }
+}
+
+}  // namespace duktores

@@ -1,0 +1,44 @@
+#pragma once
+// The viewer: first the solid of the accepted piece, on command its flat pattern, and from there the DXF file.
+
+#include <QDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "viewer/ewdraw.h"
+#include "windows/lienzo.h"
+#include "windows/proporcion.h"
+
+namespace duktores {
+
+class FrmViewUnfold : public QDialog {
+  Q_OBJECT
+ public:
+  /// Draws the solid of the piece in `estado`.
+  explicit FrmViewUnfold(QWidget* padre);
+
+  /// All ways to close the window come through here; a waiting pick ends first.
+  void done(int resultado) override;
+
+ protected:
+  void showEvent(QShowEvent* suceso) override;
+  void resizeEvent(QResizeEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
+
+ private:
+  void Botones();
+  QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
+  void CmdDesplegado();
+  void CmdSave();
+  void MuestraEleccion(bool empieza);
+
+  Proporcion proporcion_;
+  EWdraw EWdraw_;
+  Lienzo* lienzo_;
+  QGroupBox *FrmView_, *FrmZoom_;
+  QPushButton *CmdDesplegado_, *CmdSave_;
+  QLabel* LblEstado_;
+};
+
+}  // namespace duktores

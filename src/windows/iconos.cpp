@@ -1,0 +1,90 @@
+#include "windows/iconos.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSvgRenderer>
+#include <algorithm>
+#include <array>
+
+namespace duktores {
+
+namespace {
+
+// Lines and filled areas as SVG paths on a grid of 24.
+struct Dibujo {
+  std::string_view nombre, lineas, relleno;
+};
+
+constexpr std::string_view kCubo = "M3 9H15V21H3ZM3 9L9 3H21L15 9M21 3V15L15 21";
+constexpr std::string_view kPlanta = "M7 7H17V17H7ZM7 7L17 17M17 7L7 17";
+constexpr std::string_view kLupa = "M10 4A6 6 0 1 0 10 16A6 6 0 1 0 10 4M14.5 14.5L21 21";
+constexpr std::string_view kVuelve = "M20 19V13A4 4 0 0 0 16 9H5M10 4L5 9L10 14";
+constexpr std::string_view kPuerta = "M13 4H5V20H13M10 12H21M17 8L21 12L17 16";
+
+// clang-format off
+constexpr std::array kDibujos{
+    //      button          lines                                                filled
+    Dibujo{"cmdTop",        kCubo,                                               "M3 9L9 3H21L15 9Z"},
+    Dibujo{"cmdBottom",     kCubo,                                               "M3 21L9 15H21L15 21Z"},
+    Dibujo{"CmdLeft",       kCubo,                                               "M3 9L9 3V15L3 21Z"},
+    Dibujo{"CmdRight",      kCubo,                                               "M15 9L21 3V15L15 21Z"},
+    Dibujo{"cmdfront",      kCubo,                                               "M3 9H15V21H3Z"},
+    Dibujo{"cmdRear",       kCubo,                                               "M9 3H21V15H9Z"},
+    Dibujo{"CmdIsofront",   kPlanta,                                             "M12 18L16 23H8Z"},
+    Dibujo{"cmdisoright",   kPlanta,                                             "M18 12L23 8V16Z"},
+    Dibujo{"CmdIsoclear",   kPlanta,                                             "M12 6L8 1H16Z"},
+    Dibujo{"cmdisoleft",    kPlanta,                                             "M6 12L1 16V8Z"},
+    Dibujo{"cmdmove",       "M12 3V21M3 12H21M9 6L12 3L15 6M9 18L12 21L15 18M6 9L3 12L6 15M18 9L21 12L18 15", ""},
+    Dibujo{"cmdorbit",      "M4 12A8 3.5 0 1 0 12 8.5H8M11 5.5L8 8.5L11 11.5M12 2V22", ""},
+    Dibujo{"CmdZoom",       "M10 4A6 6 0 1 0 10 16A6 6 0 1 0 10 4M14.5 14.5L21 21M10 7.5V12.5M7.5 10H12.5", ""},
+    Dibujo{"CmdZoomAll",    "M3 8V3H8M16 3H21V8M21 16V21H16M8 21H3V16M8 8H16V16H8Z", ""},
+    Dibujo{"CmdZoomwindow", kLupa,                                               "M7 8H13V12H7Z"},
+    Dibujo{"CmdDesplegado", "M2 12L8 5L9.5 7.5Q12 10 14.5 7.5L16 5L22 12L17 19H7ZM9.5 7.5L7 19M14.5 7.5L17 19", ""},
+    Dibujo{"CmdSave",       "M4 4H17L20 7V20H4ZM8 4V9H15V4M7 20V13H17V20",       ""},
+    Dibujo{"CmdCancelar",   kVuelve,                                             ""},
+    Dibujo{"CmdExit",       kPuerta,                                             ""},
+    Dibujo{"CmdSalir",      kPuerta,                                             ""},
+    Dibujo{"CmdAceptar",    "M4 13L9 18L20 6",                                   ""},
+    Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
+};
+// clang-format on
+
+QByteArray Svg(const Dibujo& dibujo, const QColor& color) {
+  const auto texto = [](std::string_view t) { return QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size())); };
+  return QString(
+             "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'><path d='%1' fill='%3' fill-opacity='0.6'/>"
+             "<path d='%2' fill='none' stroke='%3' stroke-width='1.6' stroke-linejoin='round' "
+             "stroke-linecap='round'/></svg>")
+      .arg(texto(dibujo.relleno), texto(dibujo.lineas), color.name())
+      .toUtf8();
+}
+
+QIcon Icono(const Dibujo& dibujo, const QColor& color) {
+  QSvgRenderer trazos(Svg(dibujo, color));
+  QIcon icono;
+  for (const int lado : {24, 36, 48, 72}) {
+    QPixmap mapa(lado, lado);
+    mapa.fill(Qt::transparent);
+    QPainter pintor(&mapa);
+    trazos.render(&pintor);
+    icono.addPixmap(mapa);
+  }
+  return icono;
+}
+
+}  // namespace
+
+void PonBoton(QPushButton& boton, std::string_view nombre, const QString& ayuda) {
+  boton.setObjectName(QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size())));
+  boton.setToolTip(ayuda);
+  boton.setAccessibleName(ayuda);
+  const auto* dibujo = std::ranges::find(kDibujos, nombre, &Dibujo::nombre);
+  if (dibujo == kDibujos.end()) return;
+  boton.setIcon(Icono(*dibujo, boton.palette().color(QPalette::ButtonText)));
+  boton.setIconSize({24, 24});
+}
+
+}  // namespace duktores

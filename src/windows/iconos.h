@@ -1,0 +1,14 @@
+#pragma once
+// The icons of the buttons, drawn in the text colour of the palette and crisp at any scale.
+
+#include <QString>
+#include <string_view>
+
+class QPushButton;
+
+namespace duktores {
+
+/// Gives a button its name, its icon by that name, and its tooltip, which stays unset if empty.
+void PonBoton(QPushButton& boton, std::string_view nombre, const QString& ayuda);
+
+}  // namespace duktores

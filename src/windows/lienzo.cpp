@@ -1,0 +1,240 @@
+#include "windows/lienzo.h"
+
+#include <QEventLoop>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <cmath>
+
+namespace duktores {
+
+struct Lienzo::Eleccion {
+  QPointer<QEventLoop> bucle;
+  std::optional<QPointF> punto;
+};
+
+namespace {
+
+constexpr double kMargen = 1.08;       // of the model within the view
+constexpr double kPasoRueda = 1.0015;  // zoom of an eighth of a degree of the wheel
+constexpr double kGradosPorPunto = 0.4;
+
+QRectF Contorno(const std::vector<Punto2>& fantasma) {
+  QPolygonF poligono;
+  for (const Punto2 p : fantasma) poligono << QPointF(p.x, p.y);
+  return poligono.boundingRect();
+}
+
+// A turn of the view keeps this point where it is seen.
+Punto3 Centro(const EWdraw& axew) {
+  Caja caja;
+  for (const Entidad& entidad : axew.Entidades()) {
+    const Caja propia = CajaDe(entidad);
+    if (propia.Vacia()) continue;
+    caja.Incluye(propia.minimo);
+    caja.Incluye(propia.maximo);
+  }
+  return caja.Vacia() ? Punto3{} : 0.5 * (caja.minimo + caja.maximo);
+}
+
+}  // namespace
+
+Lienzo::Lienzo(EWdraw& axew, QWidget* padre) : QWidget(padre), axew_(axew) {
+  setObjectName("EWdraw");
+  setMouseTracking(true);
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  axew_.PonVista(this);
+}
+
+Lienzo::~Lienzo() {
+  CancelaEleccion();
+  axew_.PonVista(nullptr);
+}
+
+// The loop and the answer don't live in the widget: the widget may be gone when the loop ends. No exception passes the
+// event loop; the refused pick is thrown by the control, on the frames of the run.
+std::optional<Punto3> Lienzo::EligePunto(EWdraw&) {
+  if (eleccion_ || !isVisible()) return std::nullopt;
+  const auto eleccion = std::make_shared<Eleccion>();
+  eleccion_ = eleccion;
+  const QPointer<Lienzo> vivo(this);
+  QEventLoop bucle;
+  eleccion->bucle = &bucle;
+  TerminaMando();
+  raton_ = mapFromGlobal(QCursor::pos());
+  EncuadraEleccion();
+  PonPuntero();
+  emit eligiendo(true);
+  bucle.exec();
+  if (vivo) {
+    eleccion_.reset();
+    PonPuntero();
+    emit eligiendo(false);
+    update();
+  }
+  if (!eleccion->punto) return std::nullopt;
+  return Punto3{eleccion->punto->x(), eleccion->punto->y(), 0};
+}
+
+void Lienzo::CancelaEleccion() {
+  if (const auto eleccion = eleccion_; eleccion && eleccion->bucle) eleccion->bucle->quit();
+}
+
+void Lienzo::Regenera(EWdraw&) {
+  encuadre_ = Ajusta(axew_, size());
+  update();
+}
+
+void Lienzo::Manda(EWdraw& axew, MandoVista mando) {
+  if (mando == MandoVista::zoomAll) return Regenera(axew);
+  PonMando(mando_ == mando ? std::nullopt : std::optional(mando));
+}
+
+void Lienzo::PonMando(std::optional<MandoVista> mando) {
+  if (mando == MandoVista::orbit && !orbita_) mando.reset();
+  mando_ = mando;
+  PonPuntero();
+  emit mandoCambiado(mando);
+}
+
+bool Lienzo::TerminaMando() {
+  if (!mando_) return false;
+  PonMando(std::nullopt);
+  return true;
+}
+
+void Lienzo::PermiteOrbitar(bool permite) {
+  orbita_ = permite;
+  if (!permite && mando_ == MandoVista::orbit) TerminaMando();
+}
+
+void Lienzo::PonPuntero() {
+  if (eleccion_ || mando_ == MandoVista::zoomWindow) {
+    setCursor(Qt::CrossCursor);
+  } else if (mando_ == MandoVista::pan) {
+    setCursor(Qt::OpenHandCursor);
+  } else if (mando_) {
+    setCursor(Qt::SizeAllCursor);
+  } else {
+    unsetCursor();
+  }
+}
+
+void Lienzo::Encuadra(QRectF plano) {
+  const double ancho = plano.width() * kMargen, alto = plano.height() * kMargen;
+  if (!(ancho > 0) || !(alto > 0)) return;
+  encuadre_ = {plano.center(), std::min(width() / ancho, height() / alto)};
+}
+
+// The view during a pick: what is drawn, and beside it room for the shape. An empty drawing shows the shape's
+// surroundings, so that the first click makes sense.
+void Lienzo::EncuadraEleccion() {
+  const QRectF forma = Contorno(axew_.Fantasma());
+  if (forma.isEmpty()) return update();
+  const QRectF dibujado = ExtensionPintada(axew_);
+  const double hueco = 0.2 * std::max(forma.width(), forma.height());
+  if (dibujado.isNull()) {
+    Encuadra(forma.adjusted(-3 * hueco, -3 * hueco, 3 * hueco, 3 * hueco));
+  } else {
+    const QRectF sitio(dibujado.right() + hueco, dibujado.top(), forma.width() + hueco, forma.height());
+    Encuadra(dibujado.united(sitio));
+  }
+  update();
+}
+
+void Lienzo::Desplaza(QPointF paso) {
+  encuadre_.centro += QPointF(-paso.x(), paso.y()) / encuadre_.escala;
+  update();
+}
+
+void Lienzo::Amplia(double factor, QPointF sobre) {
+  constexpr double kMinima = 1e-6, kMaxima = 1e6;
+  const QPointF fijo = Modelo(sobre);
+  encuadre_.escala = std::clamp(encuadre_.escala * factor, kMinima, kMaxima);
+  encuadre_.centro += fijo - Modelo(sobre);
+  update();
+}
+
+void Lienzo::Orbita(QPointF paso) {
+  constexpr double kTope = 89.9;  // short of the poles, where up has no direction
+  const Punto3 centro = Centro(axew_), d = axew_.DireccionVista();
+  const double plano = std::hypot(d.x, d.y);
+  double giro = plano > 0 ? Grados(std::atan2(d.y, d.x)) : (d.z > 0 ? -90 : 90);
+  double altura = Grados(std::atan2(d.z, plano));
+  giro -= kGradosPorPunto * paso.x();
+  altura = std::clamp(altura + kGradosPorPunto * paso.y(), -kTope, kTope);
+  const double g = Radianes(giro), a = Radianes(altura);
+  const QPointF antes = AlPlano(BaseVista(d), centro);
+  axew_.EwViewDirection(std::cos(a) * std::cos(g), std::cos(a) * std::sin(g), std::sin(a));
+  encuadre_.centro += AlPlano(BaseVista(axew_.DireccionVista()), centro) - antes;
+  update();
+}
+
+void Lienzo::paintEvent(QPaintEvent*) {
+  QPainter pintor(this);
+  pintor.setRenderHint(QPainter::Antialiasing);
+  Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
+  if (eleccion_) PintaFantasma(pintor);
+  if (arrastre_ == MandoVista::zoomWindow) {
+    pintor.setPen(QPen(Qt::white, 0, Qt::DashLine));
+    pintor.drawRect(QRectF(inicio_, raton_).normalized());
+  }
+}
+
+void Lienzo::PintaFantasma(QPainter& pintor) const {
+  QPolygonF contorno;
+  const QPointF base = Modelo(raton_);
+  for (const Punto2 p : axew_.Fantasma()) contorno << encuadre_.AlDispositivo(base + QPointF(p.x, p.y), size());
+  pintor.setPen(QPen(QColor(255, 200, 60), 1, Qt::DashLine));
+  pintor.setBrush(QColor(255, 200, 60, 40));
+  pintor.drawPolygon(contorno);
+  pintor.drawLine(raton_ - QPointF(9, 0), raton_ + QPointF(9, 0));
+  pintor.drawLine(raton_ - QPointF(0, 9), raton_ + QPointF(0, 9));
+}
+
+void Lienzo::resizeEvent(QResizeEvent*) { Regenera(axew_); }
+
+void Lienzo::wheelEvent(QWheelEvent* suceso) {
+  Amplia(std::pow(kPasoRueda, suceso->angleDelta().y()), suceso->position());
+}
+
+void Lienzo::mousePressEvent(QMouseEvent* suceso) {
+  inicio_ = raton_ = suceso->position();
+  if (suceso->button() == Qt::LeftButton && eleccion_) {
+    eleccion_->punto = Modelo(raton_);
+    CancelaEleccion();
+    return;
+  }
+  if (suceso->button() == Qt::LeftButton) arrastre_ = mando_;
+  if (suceso->button() == Qt::MiddleButton) arrastre_ = MandoVista::pan;
+  if (suceso->button() == Qt::RightButton && orbita_) arrastre_ = MandoVista::orbit;
+  if (arrastre_ == MandoVista::pan) setCursor(Qt::ClosedHandCursor);
+}
+
+void Lienzo::mouseMoveEvent(QMouseEvent* suceso) {
+  const QPointF paso = suceso->position() - raton_;
+  raton_ = suceso->position();
+  if (eleccion_) {
+    emit apunta(Modelo(raton_));
+    update();
+  }
+  if (!arrastre_) return;
+  if (arrastre_ == MandoVista::pan) Desplaza(paso);
+  if (arrastre_ == MandoVista::zoom) Amplia(std::exp(-paso.y() / 120), inicio_);
+  if (arrastre_ == MandoVista::orbit) Orbita(paso);
+  update();
+}
+
+void Lienzo::mouseReleaseEvent(QMouseEvent* suceso) {
+  constexpr double kMinimo = 4;
+  const QRectF ventana = QRectF(inicio_, suceso->position()).normalized();
+  if (arrastre_ == MandoVista::zoomWindow && ventana.width() > kMinimo && ventana.height() > kMinimo) {
+    Encuadra(QRectF(Modelo(ventana.topLeft()), Modelo(ventana.bottomRight())).normalized());
+  }
+  arrastre_.reset();
+  PonPuntero();
+  update();
+}
+
+}  // namespace duktores

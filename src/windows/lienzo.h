@@ -1,0 +1,73 @@
+#pragma once
+// The drawing widget: shows a control's model and answers its picks. At any time the wheel zooms about the pointer, the
+// middle button pans and, where the model may be turned, the right button orbits; the left button does what the current
+// command says. A pick gives the left button to the placing of a shape, which hangs on the pointer meanwhile.
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "paint/pintura.h"
+#include "viewer/ewdraw.h"
+
+namespace duktores {
+
+class Lienzo : public QWidget, public VistaEWdraw {
+  Q_OBJECT
+ public:
+  /// `axew` must outlive the widget; its view is this one until the widget dies.
+  Lienzo(EWdraw& axew, QWidget* padre);
+  ~Lienzo() override;
+
+  std::optional<Punto3> EligePunto(EWdraw& axew) override;
+  void Regenera(EWdraw& axew) override;
+  void Manda(EWdraw& axew, MandoVista mando) override;
+
+  bool Eligiendo() const { return eleccion_ != nullptr; }
+  /// Ends a waiting pick without a point.
+  void CancelaEleccion();
+  /// Ends the command of the left button; false if there was none.
+  bool TerminaMando();
+  /// A flat pattern keeps its view from above.
+  void PermiteOrbitar(bool permite);
+
+ signals:
+  /// Coordinates of the pointer during a pick, in model units.
+  void apunta(QPointF punto);
+  /// A pick begins or ends.
+  void eligiendo(bool empieza);
+  /// The command of the left button, null for none.
+  void mandoCambiado(std::optional<duktores::MandoVista> mando);
+
+ protected:
+  void paintEvent(QPaintEvent* suceso) override;
+  void resizeEvent(QResizeEvent* suceso) override;
+  void wheelEvent(QWheelEvent* suceso) override;
+  void mousePressEvent(QMouseEvent* suceso) override;
+  void mouseMoveEvent(QMouseEvent* suceso) override;
+  void mouseReleaseEvent(QMouseEvent* suceso) override;
+
+ private:
+  struct Eleccion;  // a waiting pick; outlives the widget if need be
+
+  QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
+  void Encuadra(QRectF plano);
+  void EncuadraEleccion();
+  void Desplaza(QPointF paso);
+  void Amplia(double factor, QPointF sobre);
+  void Orbita(QPointF paso);
+  void PonMando(std::optional<MandoVista> mando);
+  void PonPuntero();
+  void PintaFantasma(QPainter& pintor) const;
+
+  EWdraw& axew_;
+  Encuadre encuadre_;
+  std::optional<MandoVista> mando_;     // of the left button
+  std::optional<MandoVista> arrastre_;  // what the pressed button does
+  QPointF inicio_, raton_;
+  bool orbita_ = true;
+  std::shared_ptr<Eleccion> eleccion_;
+};
+
+}  // namespace duktores

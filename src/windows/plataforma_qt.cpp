@@ -1,0 +1,108 @@
+#include "windows/plataforma_qt.h"
+
+#include <xcb/xcb.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include "state/estado.h"
+#include "state/textos.h"
+#include "windows/ventanas.h"
+
+namespace duktores {
+
+namespace {
+
+QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
+
+QWidget* Padre() {
+  return QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
+}
+
+xcb_connection_t* ConexionX() {
+  auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 ? x11->connection() : nullptr;
+}
+
+struct Libera {
+  void operator()(void* p) const { std::free(p); }
+};
+
+/// A property that is one number of 32 bits; 0 if it isn't there.
+std::uint32_t Propiedad(xcb_connection_t* x, xcb_window_t ventana, const char* nombre) {
+  const auto peticion = xcb_intern_atom(x, 1, static_cast<std::uint16_t>(std::strlen(nombre)), nombre);
+  const std::unique_ptr<xcb_intern_atom_reply_t, Libera> atomo(xcb_intern_atom_reply(x, peticion, nullptr));
+  if (!atomo || atomo->atom == XCB_ATOM_NONE) return 0;
+  const auto lectura = xcb_get_property(x, 0, ventana, atomo->atom, XCB_ATOM_ANY, 0, 1);
+  const std::unique_ptr<xcb_get_property_reply_t, Libera> valor(xcb_get_property_reply(x, lectura, nullptr));
+  if (!valor || valor->format != 32 || xcb_get_property_value_length(valor.get()) < 4) return 0;
+  std::uint32_t numero = 0;
+  std::memcpy(&numero, xcb_get_property_value(valor.get()), sizeof numero);
+  return numero;
+}
+
+}  // namespace
+
+void PlataformaQt::CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
+  const auto icono = estilo == EstiloMensaje::exclamacion ? QMessageBox::Warning : QMessageBox::Information;
+  QMessageBox(icono, Q(titulo), Q(texto), QMessageBox::Ok, Padre()).exec();
+}
+
+void PlataformaQt::VentanaMensaje(std::string_view texto) {
+  QDialog ventana(Padre());
+  ventana.setObjectName("FrMsgbox");
+  auto* lblmsgbox = new QLabel(Q(texto));
+  lblmsgbox->setObjectName("lblmsgbox");
+  auto* aceptar = new QPushButton(Q(Texto(17)));
+  aceptar->setObjectName("CmdAceptar");
+  auto* columna = new QVBoxLayout(&ventana);
+  columna->addWidget(lblmsgbox);
+  columna->addWidget(aceptar, 0, Qt::AlignHCenter);
+  columna->setSizeConstraint(QLayout::SetFixedSize);
+  QObject::connect(aceptar, &QPushButton::clicked, &ventana, &QDialog::accept);
+  ventana.exec();
+}
+
+void PlataformaQt::PonCursorEspera(bool espera) {
+  if (espera == espera_) return;
+  espera_ = espera;
+  espera ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+}
+
+Ventana PlataformaQt::VentanaActiva() {
+  xcb_connection_t* x = ConexionX();
+  if (!x) return 0;
+  const xcb_window_t raiz = xcb_setup_roots_iterator(xcb_get_setup(x)).data->root;
+  const xcb_window_t activa = Propiedad(x, raiz, "_NET_ACTIVE_WINDOW");
+  if (activa == 0 || Propiedad(x, activa, "_NET_WM_PID") == QApplication::applicationPid()) return 0;
+  return activa;
+}
+
+void PlataformaQt::HabilitaVentana(Ventana ventana, bool habilitada) {
+  if (ventana == 0 || !principal_ || !ConexionX()) return;
+  principal_->setWindowModality(habilitada ? Qt::NonModal : Qt::ApplicationModal);
+  principal_->winId();  // makes the native window
+  QWindow* anterior = principal_->windowHandle()->transientParent();
+  principal_->windowHandle()->setTransientParent(habilitada ? nullptr : QWindow::fromWinId(ventana));
+  delete anterior;
+}
+
+void TraeAlFrente(QWidget& ventana) {
+  ventana.raise();
+  ventana.activateWindow();
+}
+
+void Termina() {
+  if (estado.plataforma) estado.plataforma->HabilitaVentana(estado.hVentanaHost, true);
+  QApplication::quit();
+}
+
+}  // namespace duktores
