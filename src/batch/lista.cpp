@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -60,33 +61,33 @@ std::optional<std::vector<Punto2>> LeePuntos(const json& valor) {
 void LeeClave(Trabajo& trabajo, const std::string& clave, const json& valor) {
   if (clave == "picks") {
     trabajo.puntos = LeePuntos(valor);
-    if (!trabajo.puntos) trabajo.rechazo = {clave, "must be an array of points [x, y]."};
+    if (!trabajo.puntos) trabajo.rechazo = {clave, "picks must be an array of points [x, y]."};
   } else if (clave == "name" || clave == "piece") {
     if (!valor.is_string()) {
-      trabajo.rechazo = {clave, "must be a text."};
+      trabajo.rechazo = {clave, clave + " must be a text."};
     } else {
       (clave == "name" ? trabajo.nombre : trabajo.pieza) = valor.get<std::string>();
     }
   } else if (valor.is_number() || valor.is_string()) {
     trabajo.valores.emplace_back(clave, TextoDe(valor));
   } else {
-    trabajo.rechazo = {clave, "must be a number or a text."};
+    trabajo.rechazo = {clave, "\"" + clave + "\" must be a number or a text."};
   }
 }
 
 Trabajo LeeTrabajo(const json& objeto) {
   Trabajo trabajo;
   if (!objeto.is_object()) {
-    trabajo.rechazo = {"job", "must be an object."};
+    trabajo.rechazo = {"job", "a job must be an object."};
     return trabajo;
   }
   for (const auto& [clave, valor] : objeto.items()) {
     LeeClave(trabajo, clave, valor);
   }
-  if (!trabajo.rechazo && !objeto.contains("name")) trabajo.rechazo = {"name", "is missing."};
-  if (!trabajo.rechazo && !objeto.contains("piece")) trabajo.rechazo = {"piece", "is missing."};
+  if (!trabajo.rechazo && !objeto.contains("name")) trabajo.rechazo = {"name", "name is missing."};
+  if (!trabajo.rechazo && !objeto.contains("piece")) trabajo.rechazo = {"piece", "piece is missing."};
   if (!trabajo.rechazo && !EsNombre(trabajo.nombre)) {
-    trabajo.rechazo = {"name", "must be a file name: not empty, no folder separators, no control characters."};
+    trabajo.rechazo = {"name", "name must be a file name: not empty, no folder separators, no control characters."};
   }
   return trabajo;
 }
@@ -99,21 +100,29 @@ std::vector<Trabajo> LeeLista(const std::string& texto) {
   try {
     lista = json::parse(texto, std::ref(repetidas));
   } catch (const json::exception& error) {
-    throw ErrorLista(error.what());
+    // The library's texts begin with its own name in brackets.
+    const std::string motivo = error.what();
+    throw ErrorLista(motivo.substr(motivo.find(']') + 2));
   }
   if (!lista.is_array()) throw ErrorLista("it must be one array of objects, one object a piece.");
 
   std::vector<Trabajo> trabajos;
-  std::set<std::string> nombres;
+  std::map<std::string, int> veces;
   for (std::size_t i = 0; i < lista.size(); ++i) {
     Trabajo trabajo = LeeTrabajo(lista[i]);
-    if (repetidas.repetidas[i]) trabajo.rechazo = {*repetidas.repetidas[i], "stands twice in the job."};
-    if (!EsNombre(trabajo.nombre)) {
+    if (const auto& clave = repetidas.repetidas[i]) {
+      trabajo.rechazo = {*clave, "\"" + *clave + "\" stands twice in the job."};
+    }
+    if (EsNombre(trabajo.nombre)) {
+      ++veces[trabajo.nombre];
+    } else {
       trabajo.nombre = "job " + std::to_string(i + 1);
-    } else if (!nombres.insert(trabajo.nombre).second && !trabajo.rechazo) {
-      trabajo.rechazo = {"name", "stands on another job too."};
     }
     trabajos.push_back(std::move(trabajo));
+  }
+  // Nobody can tell which of two pieces the drawing of that name should be.
+  for (Trabajo& trabajo : trabajos) {
+    if (veces[trabajo.nombre] > 1) trabajo.rechazo = {"name", "the name stands on another job too."};
   }
   return trabajos;
 }

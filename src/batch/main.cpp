@@ -57,6 +57,7 @@ int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
   std::mutex cerrojo;
   std::condition_variable hecho;
 
+  std::size_t hechos = 0;
   const auto obrero = [&] {
     for (std::size_t i = siguiente++; i < trabajos.size(); i = siguiente++) {
       estado = configurado;
@@ -68,24 +69,28 @@ int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
       }
       const std::lock_guard guarda(cerrojo);
       resultados[i] = std::move(resultado);
+      ++hechos;
       hecho.notify_one();
     }
   };
   std::vector<std::jthread> hilos;
-  const std::size_t cuantos = std::min<std::size_t>(ordenes.hilos, trabajos.size());
+  constexpr std::size_t kMaximoHilos = 256;
+  const std::size_t cuantos = std::min({std::size_t{ordenes.hilos}, trabajos.size(), kMaximoHilos});
   for (std::size_t i = 0; i < cuantos; ++i) hilos.emplace_back(obrero);
 
   const bool terminal = isatty(STDERR_FILENO) != 0;
   bool rechazado = false;
+  std::unique_lock guarda(cerrojo);
   for (std::size_t i = 0; i < trabajos.size(); ++i) {
-    std::unique_lock guarda(cerrojo);
-    hecho.wait(guarda, [&] { return resultados[i].has_value(); });
-    guarda.unlock();
+    while (!resultados[i]) {
+      if (terminal) std::cerr << "\r\033[K" << hechos << " of " << trabajos.size() << std::flush;
+      hecho.wait(guarda);
+    }
     if (terminal) std::cerr << "\r\033[K" << std::flush;
     std::cout << Linea(trabajos[i], *resultados[i]) << '\n' << std::flush;
-    if (terminal && i + 1 < trabajos.size()) std::cerr << i + 1 << " of " << trabajos.size() << std::flush;
     rechazado = rechazado || resultados[i]->rechazo.has_value();
   }
+  guarda.unlock();
   if (!std::cout) {
     std::cerr << "duktores-batch: the answers can't be written\n";
     return kAlgoRechazado;
@@ -104,6 +109,10 @@ int Ejecuta(const Ordenes& ordenes) {
   const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
   if (!ordenes.configuracion.empty() && !(regular && LeeFichero(estado.sRutaIni))) {
     return Falla("can't read the configuration file " + ordenes.configuracion);
+  }
+  // Without one of the three the dialogs store no dimension at all.
+  if (estado.iFibra < 1 || estado.iFibra > 3) {
+    return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
   }
   const auto texto = TextoLista(ordenes);
   if (!texto) return Falla("can't read the job list " + ordenes.lista);
@@ -142,7 +151,7 @@ int main(int argc, char** argv) {
   app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
   app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
       ->type_name("N")
-      ->check(CLI::Range(1, 1024));
+      ->check(CLI::PositiveNumber);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,6 +1,7 @@
 #include "batch/trabajo.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include "batch/puntos_lote.h"
 #include "dialogs/dialogo.h"
@@ -38,12 +39,12 @@ std::optional<std::string> EscribeCampo(Dialogo& dialogo, int campo, const std::
   const DefCampo& def = dialogo.Definicion().campos[static_cast<std::size_t>(campo)];
   if (!def.filtro) {
     if (dialogo.Elige(campo, texto)) return std::nullopt;
-    return "\"" + texto + "\" is none of " + Lista(def.valores) + ".";
+    return std::string(def.palabra) + " must be one of " + Lista(def.valores) + ", not \"" + texto + "\".";
   }
   SeleccionaTodo(dialogo.CampoDe(campo));
   for (const char16_t tecla : Utf16(texto)) {
     if (!Teclea(tecla, dialogo.CampoDe(campo), def.filtro)) {
-      return "\"" + texto + "\" can't be typed into this field.";
+      return "\"" + texto + "\" can't be typed into the field " + std::string(def.palabra) + ".";
     }
   }
   return std::nullopt;
@@ -52,12 +53,13 @@ std::optional<std::string> EscribeCampo(Dialogo& dialogo, int campo, const std::
 std::optional<std::string> EscribeValor(Dialogo& dialogo, const std::string& clave, const std::string& texto) {
   const auto campos = dialogo.Definicion().campos;
   if (clave == "Pieces" && dialogo.Definicion().opcionPiezas) {
-    if (texto != "1" && texto != "2") return "\"" + texto + "\" is none of 1, 2.";
+    if (texto != "1" && texto != "2") return "Pieces must be one of 1, 2, not \"" + texto + "\".";
     dialogo.dosPiezas = texto == "2";
     return std::nullopt;
   }
   const auto campo = std::find_if(campos.begin(), campos.end(), [&](const DefCampo& c) { return c.palabra == clave; });
-  if (campo == campos.end()) return "is no key of this piece.";
+  if (campo == campos.end())
+    return "\"" + clave + "\" is no key of the piece " + std::string(dialogo.Definicion().clave) + ".";
   return EscribeCampo(dialogo, static_cast<int>(campo - campos.begin()), texto);
 }
 
@@ -86,7 +88,7 @@ std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, Platafor
     case FinCorrida::completo:
       return std::nullopt;
     case FinCorrida::eleccionRechazada:
-      return Rechazo{"picks", "pick " + std::to_string(trabajo.puntos->size() + 1) + " is missing."};
+      return Rechazo{"picks", "pick " + std::to_string(trabajo.puntos->size() + 1) + " is missing in picks."};
     case FinCorrida::error:
       break;
   }
@@ -130,7 +132,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   Resultado resultado;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && !opciones.soloComprueba) {
-    const std::string base = opciones.carpeta + "/" + trabajo.nombre;
+    const std::string base = std::filesystem::path(opciones.carpeta) / trabajo.nombre;
     resultado.rechazo = Desarrolla(axew, trabajo, plataforma);
     if (!resultado.rechazo) resultado.rechazo = Guarda(axew, base, opciones);
     if (!resultado.rechazo) resultado.fichero = base + ".dxf";

@@ -14,7 +14,7 @@ struct Campo {
   bool TodoSeleccionado() const { return largoSeleccion == texto.size(); }
 };
 
-inline constexpr char32_t kRetroceso = 8, kSaltoLinea = 10, kIntro = 13;
+inline constexpr char32_t kRetroceso = 8, kSaltoLinea = 10;
 
 // A filter gives the key back, or 0 to drop it.
 using Filtro = char32_t (*)(char32_t tecla, const Campo& campo);

@@ -26,6 +26,7 @@ std::vector<Punto2> Contorno(const Transicion& t, int desde, int hasta, std::ini
 
 // The outline hangs on the pointer until the pick has placed it.
 void ColocaPieza(EWdraw& axew, int texto, std::vector<Punto2> contorno) {
+  estado.PoliContorno.clear();
   MuestraMensaje(Texto(texto), EstiloMensaje::informacion, "");
   axew.EwGhost(contorno);
   Punto3 base;
@@ -55,7 +56,6 @@ void DesarrollaDosPiezas(Transicion& t, EWdraw& axew, int N) {
 }  // namespace
 
 void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos) {
-  estado.PoliContorno.clear();
   if (estado.bDosPiezas) {
     DesarrollaDosPiezas(t, axew, inumPuntos);
   } else {

@@ -37,9 +37,9 @@ Punto2 Cierre(const ParPuntos& AB, const Transicion& t, int m, int) {
   return t.dVerticesPlano(m).y > t.dPuntosPlano(1).y ? AB.A : MasDerecha(AB);
 }
 
-constexpr ReglasPlano kReglas{CirculoDerecha, EsquinaDerecha, CirculoIzquierda, EsquinaIzquierda, Cierre};
-
 }  // namespace
+
+constexpr ReglasPlano kReglasCR{CirculoDerecha, EsquinaDerecha, CirculoIzquierda, EsquinaIzquierda, Cierre};
 
 void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
                              double Ay, double Altura, double Inclinacion, EWdraw& axew) {
@@ -62,13 +62,14 @@ void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
                              double Ax, double Ay, double Altura, double Inclinacion, std::int16_t iInicio) {
   const int N = inumDoblado, h = N / 2;
   const PosicionInicio& inicio = Inicio(iInicio);
+  const double paso = 2 * dPi / N;
   const Punto3 centro{L1Base / 2 + Ax, L2Base / 2 + Ay, Altura};
   Transicion& t = modelo_ = {};
 
   t.dPuntos3D = Puntos3(N + 2);
   for (int c = 1; c <= N + 2; ++c) {
     const double pasos = c <= h + 1 ? 1 - c : c - h - 2;
-    const double a = inicio.a0 + pasos * 2 * dPi / N;
+    const double a = inicio.a0 + pasos * paso;
     const Punto3 enPlano{centro.x + RadioTop * std::cos(a), centro.y + RadioTop * std::sin(a), Altura};
     t.dPuntos3D(c) = Rota(enPlano, centro, kEjeY, Grados(Inclinacion));
   }
@@ -87,7 +88,7 @@ void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
   t.dVerticesPlano = Puntos2(6);
   t.dPuntosPlano(h + 1) = {0, Distancia(t.dPtoInicio, t.dPuntos3D(1))};
   t.dVerticesPlano(4) = {inicio.ladoY ? L2Base / 2 + inicio.signo * Ay : L1Base / 2 + inicio.signo * Ax, 0};
-  ColocaPlano(t, inicio.ladoY ? L1Base : L2Base, inicio.ladoY ? L2Base : L1Base, kReglas);
+  ColocaPlano(t, inicio.ladoY ? L1Base : L2Base, inicio.ladoY ? L2Base : L1Base, kReglasCR);
 }
 
 void clTransCR::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {

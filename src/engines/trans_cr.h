@@ -13,6 +13,9 @@
 
 namespace duktores {
 
+/// How this engine chooses between the two intersections of its circles.
+extern const ReglasPlano kReglasCR;
+
 class clTransCR {
  public:
   /// Draws the solid on the control. `Inclinacion` in degrees.

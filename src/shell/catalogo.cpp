@@ -46,7 +46,6 @@ std::string TextoFila(const FilaCatalogo& fila) {
 std::string RotuloFila(const FilaCatalogo& fila) {
   const auto [primero, segundo] = fila.rotulo;
   if (primero == 0) return {};
-  // The caption of two texts ends in a blank, as the rows of the list expect it.
   const std::string resto = segundo == 0 ? "" : " " + Texto(segundo) + " ";
   return Mayusculas(Texto(primero) + resto);
 }

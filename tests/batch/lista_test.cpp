@@ -46,8 +46,7 @@ TEST(LeeLista, RefusesByName) {
     EXPECT_EQ(trabajos[1].rechazo->clave, caso.clave) << caso.trabajo;
   }
   const auto dobles = LeeLista(R"([{"name": "a", "piece": "x"}, {"name": "a", "piece": "x"}])");
-  EXPECT_FALSE(dobles[0].rechazo);
-  EXPECT_EQ(dobles[1].rechazo->clave, "name");
+  for (const Trabajo& doble : dobles) EXPECT_EQ(doble.rechazo->clave, "name");
 }
 
 TEST(LeeLista, WhatIsNoListThrows) {

@@ -75,8 +75,8 @@ class Batch(unittest.TestCase):
         self.assertAlmostEqual(second[-3][1], 2000)
 
     def test_refused_jobs_say_why_and_the_others_are_written(self):
-        cases = [({"RS": -5}, 'RS: "-5"'), ({"RS": 1.234}, 'RS: "1.234"'), ({"H": "3x"}, 'H: "3x"'),
-                 ({"Color": 1}, "Color:"), ({"RI": 1}, "RI:"), ({"Divisions": 13}, "Divisions:"),
+        cases = [({"RS": -5}, 'RS: "-5" can'), ({"RS": 1.234}, 'RS: "1.234"'), ({"H": "3x"}, 'H: "3x"'),
+                 ({"Color": 1}, 'Color: "Color" is no key'), ({"RI": 1}, "RI:"), ({"Divisions": 13}, "Divisions:"),
                  ({"Pieces": 3}, "Pieces:"), ({"H": ""}, "H: Introduzca todos los datos"),
                  ({"H": 0}, "H: Dato erróneo"), ({"Alfa": "3-"}, "Alfa: Dato erróneo"),
                  ({"H": "9" * 400}, "H: Dato erróneo"), ({"H": "9" * 300}, "piece:"),
@@ -106,10 +106,11 @@ class Batch(unittest.TestCase):
             self.assertEqual(result.stdout, b"")
         self.assertEqual(self.written(), [])
 
-    def test_any_configuration_bytes_are_survived(self):
+    def test_a_configuration_without_a_fibre_makes_no_drawing(self):
         for config in (False, os.urandom(5000), b"[DUCT]\r\nFiber=" + b"9" * 5000, b"\x00" * 100):
             result = self.run_batch([GOOD], program=self.installation(config=config))
-            self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+            self.assertEqual((result.returncode, self.written()), (2, []))
+            self.assertIn("Fiber", result.stderr.decode())
 
     def test_check_writes_nothing(self):
         result = self.run_batch([GOOD, {**GOOD, "name": "bad", "H": 0}], "--check")

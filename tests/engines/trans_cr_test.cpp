@@ -22,7 +22,6 @@ Transicion Coloca(const Pieza& p) {
   EWdraw axew;
   clTransCR motor;
   motor.GeneraPuntos(axew, p.L1, p.L2, p.R, p.N, p.Ax, p.Ay, p.H, Radianes(p.alfa), p.iInicio);
-  EXPECT_EQ(axew.EwEntityCount(), 0);
   return motor.Modelo();
 }
 
@@ -71,13 +70,72 @@ TEST(ClTransCR, SeamGoesToTheMiddleWhenTheCentreIsOutside) {
       EXPECT_EQ(t.bFueraCierre, fuera);
       EXPECT_FALSE(t.bFueraLado);
       const Punto2 costura = t.dVerticesPlano(1) - t.dPuntosPlano(1), lado = t.dVerticesPlano(2) - t.dVerticesPlano(1);
-      const double coseno = (costura.x * lado.x + costura.y * lado.y) / std::hypot(costura.x, costura.y);
+      const double sobreLado = (costura.x * lado.x + costura.y * lado.y) / std::hypot(costura.x, costura.y);
       if (fuera) {
         EXPECT_NEAR(std::hypot(lado.x, lado.y), limite, 0.02);
       } else {
-        EXPECT_NEAR(coseno, 0, 0.02);
+        EXPECT_NEAR(sobreLado, 0, 0.02);
       }
     }
+  }
+}
+
+TEST(ClTransCR, ATiltLowersTheSideOfPositiveX) {
+  const Transicion t = Coloca({400, 300, 100, 12, 20, 0, 250, 30, 1});
+  EXPECT_NEAR(t.dPuntos3D(1).z, 250 - 50, 1e-9);
+  EXPECT_NEAR(t.dPuntos3D(1).x, 220 + 100 * std::cos(Radianes(30)), 1e-9);
+  EXPECT_NEAR(t.dPuntos3D(7).z, 250 + 50, 1e-9);
+}
+
+TEST(ClTransCR, TheLimitOfTheSidesCountsAsOutside) {
+  EXPECT_TRUE(Coloca({400, 300, 80, 12, -200, 0, 300, 0, 1}).bFueraLado);
+  EXPECT_FALSE(Coloca({400, 300, 80, 12, -199.9, 0, 300, 0, 1}).bFueraLado);
+  EXPECT_TRUE(Coloca({400, 300, 80, 12, 0, 150, 300, 0, 2}).bFueraLado);
+}
+
+// Each choice with the corner above the previous point (m = 4, k = 1) and below it (m = 5, k = 1). The pairs: A above
+// and left of B, the mirror of that, and a tie in both coordinates, told apart by the other one.
+TEST(ClTransCR, ChoicesAndTheirTies) {
+  Transicion t;
+  t.dPuntosPlano = Puntos2(1);
+  t.dVerticesPlano = Puntos2(6);
+  t.dVerticesPlano(4) = {0, 1};
+  t.dVerticesPlano(5) = {0, -1};
+  const ParPuntos altaA{{0, 9}, {1, 2}}, altaB{{1, 2}, {0, 9}}, empateY{{0, 5}, {1, 5}}, empateX{{3, 1}, {3, 0}};
+  const struct {
+    Eleccion elige;
+    int m;
+    const ParPuntos* pares;
+    bool daA;
+  } casos[]{
+      {kReglasCR.circuloDerecha, 4, &altaA, true},
+      {kReglasCR.circuloDerecha, 4, &altaB, false},
+      {kReglasCR.circuloDerecha, 4, &empateY, true},
+      {kReglasCR.circuloDerecha, 5, &altaA, false},
+      {kReglasCR.circuloDerecha, 5, &altaB, true},
+      {kReglasCR.circuloDerecha, 5, &empateX, false},
+      {kReglasCR.esquinaDerecha, 4, &altaA, false},
+      {kReglasCR.esquinaDerecha, 4, &empateX, false},
+      {kReglasCR.circuloIzquierda, 4, &altaA, true},
+      {kReglasCR.circuloIzquierda, 4, &altaB, false},
+      {kReglasCR.circuloIzquierda, 4, &empateY, false},
+      {kReglasCR.circuloIzquierda, 5, &altaA, true},
+      {kReglasCR.circuloIzquierda, 5, &altaB, false},
+      {kReglasCR.circuloIzquierda, 5, &empateX, false},
+      {kReglasCR.esquinaIzquierda, 4, &altaA, true},
+      {kReglasCR.esquinaIzquierda, 4, &altaB, false},
+      {kReglasCR.esquinaIzquierda, 4, &empateY, true},
+      {kReglasCR.esquinaIzquierda, 5, &altaB, false},
+      {kReglasCR.esquinaIzquierda, 5, &empateX, false},
+      {kReglasCR.cierre, 4, &altaA, true},
+      {kReglasCR.cierre, 4, &altaB, true},
+      {kReglasCR.cierre, 5, &altaA, false},
+      {kReglasCR.cierre, 5, &altaB, true},
+      {kReglasCR.cierre, 5, &empateX, false},
+  };
+  for (std::size_t i = 0; i < std::size(casos); ++i) {
+    const auto& c = casos[i];
+    EXPECT_EQ(c.elige(*c.pares, t, c.m, 1), c.daA ? c.pares->A : c.pares->B) << "row " << i;
   }
 }
 
@@ -190,6 +248,17 @@ TEST_F(Desarrollo, TwoPiecesLieWhereTheyArePicked) {
   EXPECT_NEAR(base.y, 0, 1e-9);
   EXPECT_EQ(vista.fantasmas[0][13], base);
   EXPECT_EQ(vista.fantasmas[1][16], Punto2{});
+}
+
+TEST_F(Desarrollo, TheCutGoesToTheMiddleWhenTheCentreIsOutside) {
+  Prepara(true);
+  motor.GeneraPuntos(axew, 400, 300, 80, 24, 0, 160, 300, 0, 1);
+  vista.puntos = {{0, 0, 0}, {500, 0, 0}};
+  motor.GeneraDesarrollo(axew, 24);
+  const Transicion& t = motor.Modelo();
+  const Punto2 medio{(t.dVerticesPlano(3).x + t.dVerticesPlano(4).x) / 2, 0};
+  EXPECT_NEAR(Distancia(vista.fantasmas[0][13], medio), 0, 1e-9);
+  EXPECT_NEAR(Distancia(vista.fantasmas[1][16], medio), 0, 1e-9);
 }
 
 TEST_F(Desarrollo, ARefusedPickKeepsTheFirstPiece) {
