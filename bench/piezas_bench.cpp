@@ -2,6 +2,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QImage>
+#include <QPainter>
 #include <charconv>
 #include <filesystem>
 #include <random>
@@ -9,6 +11,7 @@
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
+#include "paint/pintura.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 
@@ -39,6 +42,21 @@ void Desarrollo(benchmark::State& s) {
   }
 }
 BENCHMARK(Desarrollo)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+
+// One frame of the viewer while the solid turns.
+void PintaSolido(benchmark::State& s) {
+  PonPieza(120);
+  EWdraw axew;
+  Dibuja3D(axew);
+  axew.EwViewDirection(1, -1, 1);
+  QImage imagen(976, 612, QImage::Format_RGB32);
+  for (auto _ : s) {
+    QPainter pintor(&imagen);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    Pinta(pintor, axew, Ajusta(axew, imagen.size()), imagen.size(), Fondo::oscuro);
+  }
+}
+BENCHMARK(PintaSolido)->Unit(benchmark::kMillisecond);
 
 std::vector<double> Numeros() {
   std::mt19937 azar(1);

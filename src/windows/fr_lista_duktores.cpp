@@ -16,6 +16,7 @@ namespace duktores {
 namespace {
 
 constexpr QSize kDiseno{790, 476};
+constexpr int kAltoRenglon = 23;
 
 }  // namespace
 
@@ -63,6 +64,7 @@ void FrListaDuktores::AnadeLista() {
     QFont propia = letra;
     propia.setBold(fila.clase == ClaseFila::categoria);
     renglon->setFont(propia);
+    renglon->setSizeHint({0, kAltoRenglon});
   }
   LstDuktores_->setCurrentRow(0);
 }
