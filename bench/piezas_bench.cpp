@@ -19,33 +19,39 @@ namespace {
 
 using namespace duktores;
 
-void PonPieza(std::int16_t divisiones) {
+void PonPieza(const char* tipo, std::int16_t divisiones) {
   estado = {};
   estado.sRutaPrograma = RAIZ_DATOS;
-  estado.sTipoPieza = "TransCR";
-  estado.dL1Base = 400;
-  estado.dL2Base = 300;
+  estado.sTipoPieza = tipo;
+  estado.dL1Base = estado.dL1BaseRC = estado.dL1Elip = 400;
+  estado.dL2Base = estado.dL2BaseRC = estado.dL2Elip = 300;
   estado.dRadioAlto = 100;
+  estado.dRadioRC = 200;
+  estado.dEjeMayorElip = 250;
+  estado.dEjeMenorElip = 150;
   estado.dAltura = 300;
   estado.dAx = 30;
   estado.dAlfa = 12;
-  estado.iPosIni = 1;
+  estado.dTamanoTexto = 10;
+  estado.iPosIni = estado.iPosIniElip = 1;
   estado.iDivisiones = divisiones;
 }
 
-void Desarrollo(benchmark::State& s) {
-  PonPieza(static_cast<std::int16_t>(s.range(0)));
+void Desarrollo(benchmark::State& s, const char* tipo) {
+  PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
   EWdraw axew;
   for (auto _ : s) {
     Desplegado(axew);
     benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
   }
 }
-BENCHMARK(Desarrollo)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrollo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrollo, RC, "TransRC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrollo, Elip, "")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 
 // One frame of the viewer while the solid turns.
 void PintaSolido(benchmark::State& s) {
-  PonPieza(120);
+  PonPieza("TransCR", 120);
   EWdraw axew;
   Dibuja3D(axew);
   axew.EwViewDirection(1, -1, 1);
@@ -109,7 +115,7 @@ void LineasEnTexto(benchmark::State& s) {
 BENCHMARK(LineasEnTexto)->Unit(benchmark::kMicrosecond);
 
 void Save(benchmark::State& s) {
-  PonPieza(120);
+  PonPieza("TransCR", 120);
   cDXF dxf;
   dxf.InsertEntities(Lineas());
   const auto fichero = std::filesystem::temp_directory_path() / "duktores_bench.dxf";

@@ -148,6 +148,7 @@ int main(int argc, char** argv) {
   app.add_flag("--png", ordenes.png, "a PNG picture of each pattern beside its drawing");
   app.add_flag("--svg", ordenes.svg, "the same as SVG");
   app.add_flag("--pdf", ordenes.pdf, "the same as PDF");
+  app.add_flag("--solid", ordenes.opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
   app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
   app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
       ->type_name("N")

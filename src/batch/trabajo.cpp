@@ -115,6 +115,14 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
     const std::string imagen = base + Sufijo(formato);
     if (!GuardaImagen(axew, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
   }
+  if (!opciones.solido) return std::nullopt;
+  EWdraw solido;
+  Dibuja3D(solido);
+  solido.EwViewDirection(1, -1, 1);
+  for (const Formato formato : opciones.imagenes) {
+    const std::string imagen = base + "-3d" + Sufijo(formato);
+    if (!GuardaImagen(solido, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
+  }
   return std::nullopt;
 }
 

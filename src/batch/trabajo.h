@@ -14,6 +14,7 @@ namespace duktores {
 struct Opciones {
   std::string carpeta = ".";
   std::vector<Formato> imagenes;
+  bool solido = false;  ///< pictures of the solid too
   bool soloComprueba = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/eliptico.h"
 #include "dialogs/rectangulares.h"
 #include "state/estado.h"
 #include "state/numeros.h"
@@ -20,10 +21,12 @@ std::string Dialogo::TextoRotulo(int campo) const {
   constexpr int kTextoGrados = 66;
   const bool chino = estado.dIdioma == kChino;
   const DefCampo& def = def_->campos[static_cast<std::size_t>(campo)];
-  const std::string palabra(def.palabra);
+  const std::string palabra(def.palabra), unidad = estado.iUnidad == 1 ? " (mm):" : " (inches):";
   switch (def.rotulo) {
     case Rotulo::longitud:
-      return palabra + (estado.iUnidad == 1 ? " (mm):" : " (inches):");
+      return palabra + unidad;
+    case Rotulo::textoLongitud:
+      return TextoIdioma(def.textoRotulo) + unidad;
     case Rotulo::angulo:
       return chino ? Texto(def.textoRotulo) : palabra + " (" + Texto(kTextoGrados) + "):";
     case Rotulo::texto:
@@ -43,6 +46,11 @@ bool Dialogo::Elige(int campo, std::string_view valor) {
   return true;
 }
 
+void Dialogo::Activa() {
+  foco_ = 0;
+  if (def_->olvidaPiezas) dosPiezas = true;
+}
+
 std::optional<int> Dialogo::LeeCampos(Valores& v) const {
   for (std::size_t i = 0; i < campos_.size(); ++i) {
     const auto numero = NumeroDeCampo(campos_[i].texto);
@@ -53,7 +61,7 @@ std::optional<int> Dialogo::LeeCampos(Valores& v) const {
 }
 
 Respuesta Dialogo::CmdAceptar() {
-  estado.sTipoPieza = def_->clave;
+  if (def_->poneTipo) estado.sTipoPieza = def_->clave;
 
   const auto vacio = std::find_if(campos_.begin(), campos_.end(), [](const Campo& campo) {
     return campo.texto.find_first_not_of(' ') == std::string::npos;
@@ -86,7 +94,7 @@ Respuesta Dialogo::CmdAceptar() {
 
 namespace {
 
-constexpr std::array kDialogos{&kFrTransfCR};
+constexpr std::array kDialogos{&kFrTransfCR, &kFrTransfRC, &kFrTransBaRectBoElip};
 
 const DefDialogo* Busca(std::string_view DefDialogo::*campo, std::string_view valor) {
   const auto* dialogo = std::ranges::find_if(kDialogos, [&](const DefDialogo* d) { return d->*campo == valor; });

@@ -16,6 +16,7 @@ namespace duktores {
 enum class Rotulo {
   longitud,        ///< the word and the unit
   angulo,          ///< the word and "degrees"; in Chinese a text alone
+  textoLongitud,   ///< a text that is the same in every language, and the unit
   texto,           ///< a text
   textoDosPuntos,  ///< a text that ends in a colon, which Chinese leaves out
 };
@@ -39,13 +40,15 @@ struct Comprobacion {
 
 struct DefDialogo {
   std::string_view nombre;  ///< of the window
-  std::string_view clave;   ///< piece type key
+  std::string_view clave;   ///< of the piece, in a job
+  bool poneTipo;            ///< the key is the piece type key too; else the catalogue's text stays as the type
   int textoTitulo;
   int textoVacio;  ///< message: a field is empty
   int textoError;  ///< error label: a check failed
   std::span<const DefCampo> campos;
   std::span<const Comprobacion> comprobaciones;
   bool opcionPiezas;  ///< has OpUnapieza and OpDosPiezas
+  bool olvidaPiezas;  ///< each activation selects OpDosPiezas
   void (*guarda)(const Valores& v, bool dosPiezas);
 };
 
@@ -72,7 +75,8 @@ class Dialogo {
   /// check in lblerror(). Foco() is then the field to mend.
   Respuesta CmdAceptar();
 
-  void Activa() { foco_ = 0; }
+  /// The dialog is shown, or the viewer has returned.
+  void Activa();
   int Foco() const { return foco_; }
   const std::string& lblerror() const { return lblerror_; }
 

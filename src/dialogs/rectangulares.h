@@ -5,7 +5,7 @@
 
 namespace duktores {
 
-/// Circle on a rectangular base.
-extern const DefDialogo kFrTransfCR;
+extern const DefDialogo kFrTransfCR;  ///< circle on a rectangular base
+extern const DefDialogo kFrTransfRC;  ///< rectangle on a circular base
 
 }  // namespace duktores

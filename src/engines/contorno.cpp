@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "dxf/anotacion.h"
+#include "engines/marcas.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -25,21 +26,25 @@ std::vector<Punto2> Contorno(const Transicion& t, int desde, int hasta, std::ini
 }
 
 // The outline hangs on the pointer until the pick has placed it.
-void ColocaPieza(EWdraw& axew, int texto, std::vector<Punto2> contorno) {
+void ColocaPieza(Transicion& t, EWdraw& axew, int texto, std::vector<Punto2> contorno) {
   estado.PoliContorno.clear();
   MuestraMensaje(Texto(texto), EstiloMensaje::informacion, "");
   axew.EwGhost(contorno);
   Punto3 base;
   axew.EwPickPoint(base.x, base.y, base.z);
-  for (Punto2& p : contorno) p = p + Punto2{base.x, base.y};
+  t.dPtoBase = {base.x, base.y};
+  for (Punto2& p : contorno) p = p + t.dPtoBase;
   estado.PoliContorno = std::move(contorno);
   DibujaPolilinea(axew, estado.PoliContorno);
 }
 
-void DesarrollaUnaPieza(const Transicion& t, EWdraw& axew, int N) {
+void DesarrollaUnaPieza(Transicion& t, EWdraw& axew, int N) {
   const auto& C = t.dVerticesPlano;
+  t.dPtoBase = {};
   estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
   DibujaPolilinea(axew, estado.PoliContorno);
+  GeneraDoblados(t, axew, Parte::entera);
+  GeneraRestoNumeros(t, axew);
   axew.EwRegen();
 }
 
@@ -47,9 +52,13 @@ void DesarrollaDosPiezas(Transicion& t, EWdraw& axew, int N) {
   const auto& C = t.dVerticesPlano;
   const int h = N / 2;
   CortePieza1(t);
-  ColocaPieza(axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  ColocaPieza(t, axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  GeneraDoblados(t, axew, Parte::primera);
+  GeneraRestoNumerosPieza1(t, axew);
   axew.EwRegen();
-  ColocaPieza(axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  ColocaPieza(t, axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  GeneraDoblados(t, axew, Parte::segunda);
+  GeneraRestoNumerosPieza2(t, axew);
   axew.EwRegen();
 }
 

@@ -11,8 +11,6 @@ namespace duktores {
 
 namespace {
 
-constexpr Punto3 kEjeY{0, 1, 0};
-
 // With the corner above the previous point the circle goes on upwards, else outwards. The ties differ from half to
 // half.
 Punto2 CirculoDerecha(const ParPuntos& AB, const Transicion& t, int m, int k) {
@@ -39,6 +37,19 @@ Punto2 Cierre(const ParPuntos& AB, const Transicion& t, int m, int) {
 
 }  // namespace
 
+void ColocaSobreRectangulo(Transicion& t, const PosicionInicio& inicio, double L1Base, double L2Base, double Ax,
+                           double Ay, const ReglasPlano& reglas) {
+  PonEsquinas(t, inicio, L1Base, L2Base);
+  const Punto3 P1 = t.dVertices3D(1);
+  t.dPtoInicio = inicio.ladoY ? Punto3{P1.x, L2Base / 2 + Ay, 0} : Punto3{L1Base / 2 + Ax, P1.y, 0};
+  PonFuera(t, inicio, std::abs(Ax) >= L1Base / 2, std::abs(Ay) >= L2Base / 2);
+
+  const int h = (t.dPuntosPlano.Cuenta() - 1) / 2;
+  t.dPuntosPlano(h + 1) = {0, Distancia(t.dPtoInicio, t.dPuntos3D(1))};
+  t.dVerticesPlano(4) = {inicio.ladoY ? L2Base / 2 + inicio.signo * Ay : L1Base / 2 + inicio.signo * Ax, 0};
+  ColocaPlano(t, inicio.ladoY ? L1Base : L2Base, inicio.ladoY ? L2Base : L1Base, reglas);
+}
+
 constexpr ReglasPlano kReglasCR{CirculoDerecha, EsquinaDerecha, CirculoIzquierda, EsquinaIzquierda, Cierre};
 
 void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
@@ -60,35 +71,14 @@ void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std
 
 void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double RadioTop, std::int16_t inumDoblado,
                              double Ax, double Ay, double Altura, double Inclinacion, std::int16_t iInicio) {
-  const int N = inumDoblado, h = N / 2;
   const PosicionInicio& inicio = Inicio(iInicio);
-  const double paso = 2 * dPi / N;
   const Punto3 centro{L1Base / 2 + Ax, L2Base / 2 + Ay, Altura};
-  Transicion& t = modelo_ = {};
-
-  t.dPuntos3D = Puntos3(N + 2);
-  for (int c = 1; c <= N + 2; ++c) {
-    const double pasos = c <= h + 1 ? 1 - c : c - h - 2;
-    const double a = inicio.a0 + pasos * paso;
+  modelo_ = {};
+  PonBoca(modelo_, inumDoblado, inicio.a0, [&](double a) {
     const Punto3 enPlano{centro.x + RadioTop * std::cos(a), centro.y + RadioTop * std::sin(a), Altura};
-    t.dPuntos3D(c) = Rota(enPlano, centro, kEjeY, Grados(Inclinacion));
-  }
-  t.dVertices3D = Puntos3(5);
-  for (int j = 1; j <= 4; ++j) {
-    const Punto2 esquina = inicio.esquinas[j - 1];
-    t.dVertices3D(j) = {esquina.x * L1Base, esquina.y * L2Base, 0};
-  }
-  t.dVertices3D(5) = t.dVertices3D(2);
-  t.dPtoInicio = inicio.ladoY ? Punto3{t.dVertices3D(1).x, centro.y, 0} : Punto3{centro.x, t.dVertices3D(1).y, 0};
-
-  t.bFueraCierre = std::abs(inicio.ladoY ? Ay : Ax) >= (inicio.ladoY ? L2Base : L1Base) / 2;
-  t.bFueraLado = std::abs(inicio.ladoY ? Ax : Ay) >= (inicio.ladoY ? L1Base : L2Base) / 2;
-
-  t.dPuntosPlano = Puntos2(N + 1);
-  t.dVerticesPlano = Puntos2(6);
-  t.dPuntosPlano(h + 1) = {0, Distancia(t.dPtoInicio, t.dPuntos3D(1))};
-  t.dVerticesPlano(4) = {inicio.ladoY ? L2Base / 2 + inicio.signo * Ay : L1Base / 2 + inicio.signo * Ax, 0};
-  ColocaPlano(t, inicio.ladoY ? L1Base : L2Base, inicio.ladoY ? L2Base : L1Base, kReglasCR);
+    return Rota(enPlano, centro, kEjeY, Grados(Inclinacion));
+  });
+  ColocaSobreRectangulo(modelo_, inicio, L1Base, L2Base, Ax, Ay, kReglasCR);
 }
 
 void clTransCR::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {

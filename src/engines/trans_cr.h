@@ -16,6 +16,11 @@ namespace duktores {
 /// How this engine chooses between the two intersections of its circles.
 extern const ReglasPlano kReglasCR;
 
+/// Lays a mouth above a rectangular base flat, with `modelo`'s Q as PonBoca leaves them: corners, start foot, flags,
+/// flat points. `Ax`, `Ay` are the offsets of the mouth's centre in the development frame.
+void ColocaSobreRectangulo(Transicion& modelo, const PosicionInicio& inicio, double L1Base, double L2Base, double Ax,
+                           double Ay, const ReglasPlano& reglas);
+
 class clTransCR {
  public:
   /// Draws the solid on the control. `Inclinacion` in degrees.

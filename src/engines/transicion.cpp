@@ -18,6 +18,29 @@ const PosicionInicio& Inicio(std::int16_t iInicio) {
   return posiciones.at(static_cast<std::size_t>(iInicio - 1));
 }
 
+void PonBoca(Transicion& t, int N, double a0, const std::function<Punto3(double)>& enAngulo) {
+  const int h = N / 2;
+  const double paso = 2 * dPi / N;
+  t.dPuntos3D = Puntos3(N + 2);
+  for (int c = 1; c <= N + 2; ++c) t.dPuntos3D(c) = enAngulo(a0 + (c <= h + 1 ? 1 - c : c - h - 2) * paso);
+  t.dPuntosPlano = Puntos2(N + 1);
+  t.dVerticesPlano = Puntos2(6);
+}
+
+void PonEsquinas(Transicion& t, const PosicionInicio& inicio, double L1, double L2) {
+  t.dVertices3D = Puntos3(5);
+  for (int j = 1; j <= 4; ++j) {
+    const Punto2 esquina = inicio.esquinas[j - 1];
+    t.dVertices3D(j) = {esquina.x * L1, esquina.y * L2, 0};
+  }
+  t.dVertices3D(5) = t.dVertices3D(2);
+}
+
+void PonFuera(Transicion& t, const PosicionInicio& inicio, bool fueraX, bool fueraY) {
+  t.bFueraCierre = inicio.ladoY ? fueraY : fueraX;
+  t.bFueraLado = inicio.ladoY ? fueraX : fueraY;
+}
+
 Punto2 MasDerecha(const ParPuntos& AB) { return AB.A.x <= AB.B.x ? AB.B : AB.A; }
 Punto2 MasIzquierda(const ParPuntos& AB) { return AB.A.x >= AB.B.x ? AB.B : AB.A; }
 
@@ -85,16 +108,22 @@ void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& r
   ColocaCostura(t, reglas);
 }
 
-void CortePieza1(Transicion& t) {
+LineaLado LineaDeLado(const Transicion& t, int turno) {
   const auto& C = t.dVerticesPlano;
-  t.dCorteAlto = t.dPuntosPlano((t.dPuntosPlano.Cuenta() + 1) / 2);
-  if (t.bFueraCierre) {
-    t.dCorteBajo = PuntoMedio(C(4), C(3));
-    t.dCorteBajo2 = t.dCorteAlto.y < t.dCorteBajo.y ? t.dCorteAlto : t.dCorteBajo;
-  } else {
-    t.dCorteBajo = PieDePerpendicular(t.dCorteAlto, C(3), C(4));
-    t.dCorteBajo2 = {};
-  }
+  const Punto2 alto = t.dPuntosPlano(turno * (t.dPuntosPlano.Cuenta() - 1) / 4 + 1);
+  const bool fuera = turno == 2 ? t.bFueraCierre : t.bFueraLado;
+  const Punto2 izquierda = C(turno + 1), derecha = C(turno + 2);
+  return {alto, fuera ? PuntoMedio(derecha, izquierda) : PieDePerpendicular(alto, izquierda, derecha)};
+}
+
+void CortePieza1(Transicion& t) {
+  const LineaLado lado = LineaDeLado(t, 1), corte = LineaDeLado(t, 2);
+  t.dPieLado1P1 = lado.Pie();
+  t.dLongLado1P1 = lado.Largo();
+  t.dCorteAlto = corte.alto;
+  t.dCorteBajo = corte.bajo;
+  t.dCorteBajo2 = t.bFueraCierre ? corte.Pie() : Punto2{};
+  t.dLongCorte = t.bFueraCierre ? corte.Largo() : 0;
 }
 
 double CalculaDistCentro(double Angulo, double Altura) { return Altura / std::tan(Radianes(Angulo)); }

@@ -11,6 +11,7 @@
 // Development frame: the rectangle's corner at the origin, sides along X and Y. Lengths in the configured unit.
 
 #include <cstdint>
+#include <functional>
 
 #include "geometry/planas.h"
 #include "geometry/puntos.h"
@@ -27,9 +28,20 @@ struct Transicion {
   bool bFueraLado = false;    ///< the same for the two sides next to the start side
 
   // Two pieces: the line that splits the start side, in flat coordinates.
-  Punto2 dCorteAlto;   ///< its end on the circle, F(h+1)
-  Punto2 dCorteBajo;   ///< its end on the rectangle, for the first piece
-  Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot
+  Punto2 dCorteAlto;      ///< its end on the circle, F(h+1)
+  Punto2 dCorteBajo;      ///< its end on the rectangle, for the first piece
+  Punto2 dCorteBajo2;     ///< the same end for the second piece; the flat origin when the end is a foot
+  double dLongCorte = 0;  ///< its length; 0 when the end is a foot
+
+  Punto2 dPtoBase;  ///< the point picked for the piece at work, its translation; the origin for a pattern in one piece
+
+  // Marks. The side lines in turn, from left to right, as GeneraDoblados leaves them: lower end, translated, and
+  // length.
+  std::int16_t iNumSoldadura = 1;  ///< the next number
+  Punto2 dPieLado1, dPieInicio, dPieLado2;
+  double dLongLado1 = 0, dLongInicio = 0, dLongLado2 = 0;
+  Punto2 dPieLado1P1;  ///< that of the first piece, as CortePieza1 leaves it: in flat coordinates
+  double dLongLado1P1 = 0;
 };
 
 /// What a start position means: `a0` is the angle of Q(1), `esquinas` are P(1) to P(4) in units of the sides, and the
@@ -43,6 +55,16 @@ struct PosicionInicio {
 
 /// `iInicio` is 1 to 4; anything else is std::out_of_range.
 const PosicionInicio& Inicio(std::int16_t iInicio);
+
+/// Sizes the lists for N divisions and fills Q(c) with the points `enAngulo` of the mouth: in the first half the angle
+/// falls from a0, in the second it rises from there again.
+void PonBoca(Transicion& t, int N, double a0, const std::function<Punto3(double)>& enAngulo);
+
+/// Fills P(j) with the corners at z = 0.
+void PonEsquinas(Transicion& t, const PosicionInicio& inicio, double L1, double L2);
+
+/// Sets the flags: `fueraX`, `fueraY` say that the centre lies outside along that axis.
+void PonFuera(Transicion& t, const PosicionInicio& inicio, bool fueraX, bool fueraY);
 
 /// Picks one result of an intersection of circles around C(m) and F(k).
 using Eleccion = Punto2 (*)(const ParPuntos& AB, const Transicion& t, int m, int k);
@@ -65,7 +87,19 @@ Punto2 MasIzquierda(const ParPuntos& AB);
 /// (0, 0).
 void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas);
 
-/// The line that splits a pattern in two pieces.
+/// A side line: the height of the plane triangle between two fans, from F(k) to the side of the rectangle below it. It
+/// ends at the foot of the perpendicular, or at the middle of the side where the offset leaves the foot without
+/// meaning.
+struct LineaLado {
+  Punto2 alto, bajo;  ///< on the circle, on the side
+  /// The end with the smaller y.
+  Punto2 Pie() const { return alto.y < bajo.y ? alto : bajo; }
+  double Largo() const { return Distancia(alto, bajo); }
+};
+/// `turno` 1 to 3 from left to right, at k = turno*q + 1; 2 is that of the start side.
+LineaLado LineaDeLado(const Transicion& t, int turno);
+
+/// Leaves the line that splits a pattern in two pieces, and the first piece's side line.
 void CortePieza1(Transicion& t);
 
 /// A height's horizontal run at a slope of `Angulo` degrees.

@@ -9,6 +9,8 @@
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "engines/trans_cr.h"
+#include "engines/trans_elip.h"
+#include "engines/trans_rc.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
@@ -31,6 +33,37 @@ void DespliegaCR(EWdraw& axew) {
   motor.GeneraDesarrollo(axew, estado.inumDoblado);
 }
 
+void DibujaRC(EWdraw& axew) {
+  clTransRC motor;
+  motor.GeneraDibujo(estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.iDivisiones, -estado.dAx, -estado.dAy,
+                     estado.dAltura, -estado.dAlfa, axew);
+}
+
+void DespliegaRC(EWdraw& axew) {
+  estado.inumDoblado = estado.iDivisiones;
+  clTransRC motor;
+  motor.GeneraPuntos(axew, estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.inumDoblado, -estado.dAx,
+                     -estado.dAy, estado.dAltura, -Radianes(estado.dAlfa), estado.iPosIni);
+  motor.GeneraDesarrollo(axew, estado.inumDoblado);
+}
+
+void DibujaElip(EWdraw& axew) {
+  clTransBaRectBoElip motor;
+  motor.GeneraDibujo(estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip, estado.iDivisiones,
+                     -estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa, axew);
+}
+
+// Unlike the other two this engine takes the tilt in degrees.
+void DespliegaElip(EWdraw& axew) {
+  estado.inumDoblado = estado.iDivisiones;
+  estado.MultinumDoblado = 20;
+  clTransBaRectBoElip motor;
+  motor.GeneraPuntos(axew, estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip,
+                     estado.inumDoblado, estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa,
+                     estado.iPosIniElip);
+  motor.GeneraDesarrollo(axew, estado.inumDoblado);
+}
+
 struct Motor {
   std::string_view clave;
   void (*dibuja)(EWdraw&);
@@ -39,18 +72,20 @@ struct Motor {
 
 constexpr std::array kMotores{
     Motor{"TransCR", DibujaCR, DespliegaCR},
+    Motor{"TransRC", DibujaRC, DespliegaRC},
 };
+// Any other key.
+constexpr Motor kMotorElip{"", DibujaElip, DespliegaElip};
 
-const Motor* MotorActual() {
-  const auto* motor =
-      std::find_if(kMotores.begin(), kMotores.end(), [](const Motor& m) { return m.clave == estado.sTipoPieza; });
-  return motor == kMotores.end() ? nullptr : motor;
+const Motor& MotorActual() {
+  const auto* motor = std::ranges::find(kMotores, estado.sTipoPieza, &Motor::clave);
+  return motor == kMotores.end() ? kMotorElip : *motor;
 }
 
 }  // namespace
 
 void Dibuja3D(EWdraw& axew) {
-  if (const Motor* motor = MotorActual()) motor->dibuja(axew);
+  MotorActual().dibuja(axew);
   CursorEspera(false);
 }
 
@@ -58,7 +93,7 @@ FinCorrida Despliega(EWdraw& axew) {
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
   try {
-    if (const Motor* motor = MotorActual()) motor->despliega(axew);
+    MotorActual().despliega(axew);
     return FinCorrida::completo;
   } catch (const EleccionRechazada&) {
     return FinCorrida::eleccionRechazada;

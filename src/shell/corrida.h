@@ -6,7 +6,7 @@
 
 namespace duktores {
 
-/// Draws the solid of the current piece on the control. A piece without an engine draws nothing.
+/// Draws the solid of the current piece on the control. A type key that names no other piece is the elliptical one.
 void Dibuja3D(EWdraw& axew);
 
 /// How an unfolding has ended. In all three cases what has been drawn stays.

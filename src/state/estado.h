@@ -44,7 +44,14 @@ struct EstadoPrograma {
   std::int16_t iPosIni = 0;      ///< start position, 1 to 4
   std::int16_t inumDoblado = 0;  ///< divisions of the current run
   bool bDosPiezas = false;
-  double dL1Base = 0, dL2Base = 0, dRadioAlto = 0;  ///< circle on a rectangular base, after the fibre correction
+  // Sides of the rectangle and size of the mouth after the fibre correction, by piece: circle on a rectangular base,
+  // rectangle on a circular base, ellipse on a rectangular base (full axes).
+  double dL1Base = 0, dL2Base = 0, dRadioAlto = 0;
+  double dL1BaseRC = 0, dL2BaseRC = 0, dRadioRC = 0;
+  double dL1Elip = 0, dL2Elip = 0, dEjeMayorElip = 0, dEjeMenorElip = 0;
+  double dAyElip = 0;
+  std::int16_t iPosIniElip = 0;
+  std::int16_t MultinumDoblado = 0;  ///< 20 for the elliptical piece
 
   // The current run.
   std::shared_ptr<cDrawing> oDrawing;

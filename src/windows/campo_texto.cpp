@@ -35,7 +35,7 @@ void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
     focusNextPrevChild(true);
   } else if (suceso->matches(QKeySequence::Paste)) {
     Pega();
-  } else if (const QString texto = suceso->text(); !texto.isEmpty() && texto[0].isPrint()) {
+  } else if (const QString texto = suceso->text(); !texto.isEmpty() && texto[0].category() != QChar::Other_Control) {
     Inserta(texto);
   } else {
     QLineEdit::keyPressEvent(suceso);
@@ -46,6 +46,14 @@ void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
 void TextoFiltrado::mousePressEvent(QMouseEvent* suceso) {
   QLineEdit::mousePressEvent(suceso);
   if (suceso->button() == Qt::LeftButton) selectAll();
+  pulsado_ = suceso->pos();
+}
+
+// A drag selects a part, a hand that trembles doesn't.
+void TextoFiltrado::mouseMoveEvent(QMouseEvent* suceso) {
+  if ((suceso->pos() - pulsado_).manhattanLength() >= QApplication::startDragDistance()) {
+    QLineEdit::mouseMoveEvent(suceso);
+  }
 }
 
 void TextoFiltrado::mouseReleaseEvent(QMouseEvent* suceso) {
@@ -80,13 +88,14 @@ void TextoFiltrado::inputMethodEvent(QInputMethodEvent* suceso) {
   suceso->accept();
 }
 
+// The standard menu's paste would go past the filter.
 void TextoFiltrado::contextMenuEvent(QContextMenuEvent* suceso) {
-  QMenu* menu = createStandardContextMenu();
+  auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  if (QAction* pegar = menu->findChild<QAction*>("edit-paste")) {
-    pegar->disconnect(this);
-    connect(pegar, &QAction::triggered, this, &TextoFiltrado::Pega);
-  }
+  menu->addAction(QLineEdit::tr("Cu&t"), this, &QLineEdit::cut);
+  menu->addAction(QLineEdit::tr("&Copy"), this, &QLineEdit::copy);
+  menu->addAction(QLineEdit::tr("&Paste"), this, &TextoFiltrado::Pega);
+  menu->addAction(QLineEdit::tr("Select All"), this, &QLineEdit::selectAll);
   menu->popup(suceso->globalPos());
 }
 

@@ -16,6 +16,7 @@ class TextoFiltrado : public QLineEdit {
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
   void mousePressEvent(QMouseEvent* suceso) override;
+  void mouseMoveEvent(QMouseEvent* suceso) override;
   void mouseReleaseEvent(QMouseEvent* suceso) override;
   void focusInEvent(QFocusEvent* suceso) override;
   void focusOutEvent(QFocusEvent* suceso) override;
@@ -29,6 +30,7 @@ class TextoFiltrado : public QLineEdit {
   void Pega();
 
   Filtro filtro_;
+  QPoint pulsado_;
 };
 
 /// Only the drop-down list can set it: every key but those that open the list is swallowed.

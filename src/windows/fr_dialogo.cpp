@@ -109,6 +109,7 @@ void FrDialogo::Pie(int y) {
 
 void FrDialogo::Activa() {
   dialogo_.Activa();
+  if (auto* dos = findChild<QRadioButton*>("OpDosPiezas"); dos && dialogo_.dosPiezas) dos->setChecked(true);
   controles_.front()->setFocus(Qt::ActiveWindowFocusReason);
 }
 

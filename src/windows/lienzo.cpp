@@ -82,6 +82,7 @@ void Lienzo::CancelaEleccion() {
 }
 
 void Lienzo::Regenera(EWdraw&) {
+  if (eleccion_) return EncuadraEleccion();
   encuadre_ = Ajusta(axew_, size());
   update();
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/eliptico.h"
 #include "dialogs/rectangulares.h"
 #include "state/estado.h"
 #include "state/textos.h"
@@ -127,6 +128,66 @@ TEST_F(FrTransfCR, FibreCorrection) {
     EXPECT_EQ(estado.dL2Base, caso.L2);
     EXPECT_EQ(estado.dRadioAlto, caso.R);
   }
+}
+
+TEST(FrTransfRC, ItsCircleReachesRoundTheRectangle) {
+  estado = {};
+  estado.iUnidad = 1;
+  estado.iFibra = 3;
+  estado.dEspesor = 2;
+  Dialogo dialogo(kFrTransfRC);
+  const char* textos[]{"300", "150", "400", "300", "0", "0", "-5", "12", "1"};
+  for (int i = 0; i < 9; ++i) dialogo.CampoDe(i).texto = textos[i];
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "twice the radius equals the smaller side";
+  EXPECT_EQ(estado.sTipoPieza, "TransRC");
+  EXPECT_EQ(estado.dL1BaseRC, 396);
+  EXPECT_EQ(estado.dL2BaseRC, 296);
+  EXPECT_EQ(estado.dRadioRC, 149);
+  EXPECT_EQ(estado.dRadioAlto, 0) << "its twin's values stay";
+  dialogo.CampoDe(1).texto = "149.99";
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
+  EXPECT_EQ(dialogo.Foco(), 1);
+}
+
+class FrTransBaRectBoElip : public testing::Test {
+ protected:
+  enum { H, EjeMayor, EjeMenor, L1, L2, AX, AY, Alfa, Divi, PosIni };
+  void SetUp() override {
+    estado = {};
+    estado.iUnidad = 1;
+    estado.iFibra = 1;
+    estado.dEspesor = 1;
+    estado.sTipoPieza = "row";
+    const char* textos[]{"300", "200", "200", "400", "350", "0", "7", "90", "12", "2"};
+    for (int i = 0; i < 10; ++i) dialogo.CampoDe(i).texto = textos[i];
+  }
+  Dialogo dialogo{kFrTransBaRectBoElip};
+};
+
+TEST_F(FrTransBaRectBoElip, KeepsTheRowAsTypeAndStoresItsOwnValues) {
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "equal axes and a tilt of 90 pass";
+  EXPECT_EQ(estado.sTipoPieza, "row");
+  EXPECT_EQ(estado.dEjeMayorElip, 200.5);
+  EXPECT_EQ(estado.dL1Elip, 400);
+  EXPECT_EQ(estado.dAyElip, 7);
+  EXPECT_EQ(estado.dAy, 0);
+  EXPECT_EQ(estado.iPosIniElip, 2);
+  EXPECT_EQ(dialogo.TextoRotulo(EjeMayor), "eMaS  (mm):");
+  EXPECT_EQ(dialogo.TextoRotulo(PosIni), Texto(58));
+}
+
+TEST_F(FrTransBaRectBoElip, ChecksAxesBeforeTheTilt) {
+  dialogo.CampoDe(EjeMenor).texto = "200.01";
+  dialogo.CampoDe(Alfa).texto = "90.01";
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
+  EXPECT_EQ(dialogo.Foco(), EjeMayor);
+  dialogo.CampoDe(EjeMenor).texto = "1";
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
+  EXPECT_EQ(dialogo.Foco(), Alfa);
+  EXPECT_FALSE(Teclea(U'-', dialogo.CampoDe(Alfa), dialogo.Definicion().campos[Alfa].filtro));
+  dialogo.dosPiezas = false;
+  dialogo.Activa();
+  EXPECT_TRUE(dialogo.dosPiezas) << "one piece is chosen anew each time";
 }
 
 TEST_F(FrTransfCR, LabelsByUnitAndLanguage) {
