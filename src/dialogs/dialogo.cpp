@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "dialogs/eliptico.h"
+#include "dialogs/especiales.h"
 #include "dialogs/rectangulares.h"
 #include "state/estado.h"
 #include "state/numeros.h"
@@ -10,7 +11,11 @@
 
 namespace duktores {
 
-Dialogo::Dialogo(const DefDialogo& def) : def_(&def), campos_(def.campos.size()) {}
+Dialogo::Dialogo(const DefDialogo& def) : def_(&def), campos_(def.campos.size()) {
+  for (std::size_t i = 0; i < campos_.size(); ++i) {
+    if (def.campos[i].divisiones) campos_[i].texto = std::to_string(estado.iDivisiones);
+  }
+}
 
 std::optional<std::string> Dialogo::Titulo() const {
   if (estado.dIdioma == kChino) return std::nullopt;
@@ -94,7 +99,8 @@ Respuesta Dialogo::CmdAceptar() {
 
 namespace {
 
-constexpr std::array kDialogos{&kFrTransfCR, &kFrTransfRC, &kFrTransBaRectBoElip};
+constexpr std::array kDialogos{&kFrTransfCR,  &kFrTransfRC,   &kFrTransBaRectBoElip, &kFrTransfEsp1,
+                               &kFrTansfEsp2, &kFrTransfEsp3, &kFrTransEsp4,         &kFrTransEspe5};
 
 const DefDialogo* Busca(std::string_view DefDialogo::*campo, std::string_view valor) {
   const auto* dialogo = std::ranges::find_if(kDialogos, [&](const DefDialogo* d) { return d->*campo == valor; });

@@ -28,6 +28,7 @@ struct DefCampo {
   int textoRotulo;                            ///< of `texto` and `textoDosPuntos`; of `angulo` in Chinese
   Filtro filtro;                              ///< null: a combo box, which the keyboard can't fill
   std::span<const std::string_view> valores;  ///< of a combo box
+  bool divisiones = false;                    ///< shows `estado.iDivisiones` at first, not empty
 };
 
 /// The numbers of the fields, in their order.

@@ -11,6 +11,8 @@
 #include "engines/trans_cr.h"
 #include "engines/trans_elip.h"
 #include "engines/trans_rc.h"
+#include "special/despliega_especial.h"
+#include "special/solido_especial.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
@@ -64,6 +66,13 @@ void DespliegaElip(EWdraw& axew) {
   motor.GeneraDesarrollo(axew, estado.inumDoblado);
 }
 
+void DibujaEspecial(EWdraw& axew) { GeneraDibujo3D(PiezaDeEstado(), estado.iDivisiones, axew); }
+
+void DespliegaEspecial(EWdraw& axew) {
+  estado.MultinumDoblado = 36;
+  DesarrollaEspecial(axew);
+}
+
 struct Motor {
   std::string_view clave;
   void (*dibuja)(EWdraw&);
@@ -73,6 +82,11 @@ struct Motor {
 constexpr std::array kMotores{
     Motor{"TransCR", DibujaCR, DespliegaCR},
     Motor{"TransRC", DibujaRC, DespliegaRC},
+    Motor{"TransEsp1", DibujaEspecial, DespliegaEspecial},
+    Motor{"TransEsp2", DibujaEspecial, DespliegaEspecial},
+    Motor{"TransEsp3", DibujaEspecial, DespliegaEspecial},
+    Motor{"TransEsp4", DibujaEspecial, DespliegaEspecial},
+    Motor{"TransEsp5", DibujaEspecial, DespliegaEspecial},
 };
 // Any other key.
 constexpr Motor kMotorElip{"", DibujaElip, DespliegaElip};

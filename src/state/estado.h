@@ -49,9 +49,17 @@ struct EstadoPrograma {
   double dL1Base = 0, dL2Base = 0, dRadioAlto = 0;
   double dL1BaseRC = 0, dL2BaseRC = 0, dRadioRC = 0;
   double dL1Elip = 0, dL2Elip = 0, dEjeMayorElip = 0, dEjeMenorElip = 0;
+  // Special pieces: radii of the corners of the upper (1) and lower mouth (2), sides, radius of a round mouth; and the
+  // radii before an unfolding adjusts them.
+  double dBeta = 0;
+  double dR11 = 0, dR12 = 0, dR13 = 0, dR14 = 0, dR21 = 0, dR22 = 0, dR23 = 0, dR24 = 0;
+  double dLX1 = 0, dLY1 = 0, dLX2 = 0, dLY2 = 0;
+  double dRadioEsp = 0, dRadioEsp2 = 0;
+  double dR11Ini = 0, dR12Ini = 0, dR13Ini = 0, dR14Ini = 0, dR21Ini = 0, dR22Ini = 0, dR23Ini = 0, dR24Ini = 0;
+  double dRadioEspIni = 0;
   double dAyElip = 0;
   std::int16_t iPosIniElip = 0;
-  std::int16_t MultinumDoblado = 0;  ///< 20 for the elliptical piece
+  std::int16_t MultinumDoblado = 0;  ///< 20 for the elliptical piece, 36 for the special ones
 
   // The current run.
   std::shared_ptr<cDrawing> oDrawing;

@@ -185,9 +185,9 @@ void EWdraw::EwRegen() {
 
 void EWdraw::EwPickPoint(double& x, double& y, double& z) {
   struct QuitaFantasma {
-    std::vector<Punto2>& fantasma;
-    ~QuitaFantasma() { fantasma.clear(); }
-  } const alSalir{fantasma_};
+    EWdraw& axew;
+    ~QuitaFantasma() { axew.EwGhost({}); }
+  } const alSalir{*this};
   const std::optional<Punto3> punto = vista_ ? vista_->EligePunto(*this) : std::nullopt;
   if (!punto) throw EleccionRechazada{};
   x = punto->x;
@@ -195,7 +195,10 @@ void EWdraw::EwPickPoint(double& x, double& y, double& z) {
   z = punto->z;
 }
 
-void EWdraw::EwGhost(std::vector<Punto2> contorno) { fantasma_ = std::move(contorno); }
+void EWdraw::EwGhost(std::vector<Punto2> contorno, std::string_view rotulo) {
+  fantasma_ = std::move(contorno);
+  rotuloFantasma_ = rotulo;
+}
 
 void EWdraw::Manda(MandoVista mando) {
   if (vista_) vista_->Manda(*this, mando);

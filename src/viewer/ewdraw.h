@@ -114,8 +114,9 @@ class EWdraw {
   void EwRegen();
   /// Blocks until the view has given a point; throws EleccionRechazada if it refuses or there is no view.
   void EwPickPoint(double& x, double& y, double& z);
-  /// The outline that the next EwPickPoint places, relative to the point to be picked. Any pick takes it away.
-  void EwGhost(std::vector<Punto2> contorno);
+  /// The outline that the next EwPickPoint places, relative to the point to be picked, and what it is called. Any pick
+  /// takes both away.
+  void EwGhost(std::vector<Punto2> contorno, std::string_view rotulo = {});
   void EwPan();
   void EwZoom();
   void EwZoomAll();
@@ -125,6 +126,7 @@ class EWdraw {
   // For those who look: the model as data.
   const std::vector<Entidad>& Entidades() const { return entidades_; }
   const std::vector<Punto2>& Fantasma() const { return fantasma_; }
+  const std::string& RotuloFantasma() const { return rotuloFantasma_; }
   Punto3 DireccionVista() const { return direccionVista_; }
   void PonVista(VistaEWdraw* vista) { vista_ = vista; }  ///< not owned; null takes it away
 
@@ -140,6 +142,7 @@ class EWdraw {
   std::vector<Punto3> vertices_, vertices3D_;
   std::vector<Punto3> cortes_;
   std::vector<Punto2> fantasma_;
+  std::string rotuloFantasma_;
   Punto3 direccionVista_{0, 0, 1};
   VistaEWdraw* vista_ = nullptr;
 };

@@ -71,6 +71,7 @@ QWidget* FrDialogo::ControlDe(int campo) {
   if (def.filtro) {
     auto* texto = new TextoFiltrado(def.filtro, this);
     texto->setObjectName(Q(def.nombre));
+    texto->setText(Q(dialogo_.CampoDe(campo).texto));
     connect(texto, &QLineEdit::textChanged, this,
             [this, campo](const QString& nuevo) { dialogo_.CampoDe(campo).texto = nuevo.toStdString(); });
     return texto;

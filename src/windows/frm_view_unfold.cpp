@@ -58,7 +58,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, [this](QPointF p) {
-    LblEstado_->setText(Q(Texto(kTextoElige)) + QString("    X %1   Y %2").arg(p.x(), 0, 'f', 2).arg(p.y(), 0, 'f', 2));
+    LblEstado_->setText(Rotulo() + Q(Texto(kTextoElige)) + QString("    X %1   Y %2").arg(p.x(), 0, 'f', 2).arg(p.y(), 0, 'f', 2));
   });
 
   EWdraw_.EwInicia(true);
@@ -138,8 +138,13 @@ void FrmViewUnfold::CmdSave() {
   if (dialogo.exec() == QDialog::Accepted) GuardaDibujo(dialogo.selectedFiles().value(0).toStdString());
 }
 
+QString FrmViewUnfold::Rotulo() const {
+  const std::string& rotulo = EWdraw_.RotuloFantasma();
+  return rotulo.empty() ? QString() : Q(rotulo) + ": ";
+}
+
 void FrmViewUnfold::MuestraEleccion(bool empieza) {
-  LblEstado_->setText(empieza ? Q(Texto(kTextoElige)) : QString());
+  LblEstado_->setText(empieza ? Rotulo() + Q(Texto(kTextoElige)) : QString());
   if (empieza) {
     CursorEspera(false);
     lienzo_->setFocus();

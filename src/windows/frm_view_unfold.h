@@ -32,6 +32,7 @@ class FrmViewUnfold : public QDialog {
   void CmdDesplegado();
   void CmdSave();
   void MuestraEleccion(bool empieza);
+  QString Rotulo() const;  ///< of the shape to be placed
 
   Proporcion proporcion_;
   EWdraw EWdraw_;

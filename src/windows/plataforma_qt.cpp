@@ -88,6 +88,7 @@ Ventana PlataformaQt::VentanaActiva() {
 
 void PlataformaQt::HabilitaVentana(Ventana ventana, bool habilitada) {
   if (ventana == 0 || !principal_ || !ConexionX()) return;
+  if (!habilitada) principal_->setWindowFlag(Qt::Dialog);  // no other kind of window is kept above a foreign one
   principal_->setWindowModality(habilitada ? Qt::NonModal : Qt::ApplicationModal);
   principal_->winId();  // makes the native window
   QWindow* anterior = principal_->windowHandle()->transientParent();

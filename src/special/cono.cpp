@@ -1,0 +1,167 @@
+#include "special/cono.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "special/coloca.h"
+#include "state/estado.h"
+
+namespace duktores {
+
+namespace {
+
+// The quarter of a corner as a span of elements, counted from the middle one. k: whole chords from element 1 to the
+// direction of the offset; q: those of a quarter. Columns by the signs of the offset: - -, + -, + +, - +.
+enum Reparto { S1, S2, S3, S4, S5, S6 };
+constexpr Reparto kTramos[2][4][4] = {
+    {{S1, S2, S1, S3}, {S4, S5, S6, S5}, {S1, S3, S1, S2}, {S6, S5, S4, S5}},
+    {{S1, S4, S5, S6}, {S2, S1, S3, S1}, {S5, S6, S5, S4}, {S3, S1, S2, S1}},
+};
+
+std::array<int, 2> Desplazamientos(Reparto tramo, int k, int q) {
+  switch (tramo) {
+    case S1:
+      return {-k, q - k};
+    case S2:
+      return {-(2 * q - k), -(q - k)};
+    case S3:
+      return {k, q + k};
+    case S4:
+      return {-(q + k), -k};
+    case S5:
+      return {-(q - k), k};
+    case S6:
+      break;
+  }
+  return {q - k, 2 * q - k};
+}
+
+std::size_t Cuadrante(double Ax, double Ay) {
+  if (Ay < 0) return Ax < 0 ? 0 : 1;
+  return Ax < 0 ? 3 : 2;
+}
+
+// The rim starts on the side of the apex when the offset points across the corner, else opposite to it.
+double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
+  const double sx = iiTem <= 2 ? 1 : -1, sy = iiTem == 1 || iiTem == 4 ? 1 : -1, sentido = bCambio ? -1 : 1;
+  return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
+}
+
+}  // namespace
+
+void clCono::GeneraPuntos(double Radiobase, double RadioAlto, double Altura, int inumPuntos, double DistCentrox,
+                          double DistCentroy, int iiTem, bool bCambio) {
+  dDesBase_ = dDesBoca_ = {};
+  dLongBase_.clear();
+  tramo_.reset();
+  if (Radiobase == RadioAlto) return;
+  const double Xa = std::abs(std::hypot(DistCentrox, DistCentroy) * Radiobase / (RadioAlto - Radiobase));
+  const double Za = std::abs(Altura * Radiobase / (RadioAlto - Radiobase));
+  if (!(Za > 0) || !std::isfinite(Xa + Za)) return;
+
+  const double a0 = AnguloInicial(DistCentrox, DistCentroy, iiTem, bCambio);
+  for (int i = 0; i <= inumPuntos; ++i) {
+    const double a = a0 + i * 2 * dPi / inumPuntos;
+    dLongBase_.push_back(std::hypot(Za, std::hypot(Xa + Radiobase * std::cos(a), Radiobase * std::sin(a))));
+  }
+  if (!DesarrollaBase(Radiobase, Xa, a0, inumPuntos)) {
+    dDesBase_ = {};
+    return;
+  }
+  // The other rim lies on the same rays: the heights over the base and up to the apex give the share of each length.
+  dDesBoca_ = dDesBase_;
+  for (int i = 1; i <= inumPuntos + 1; ++i) dDesBoca_(i) = (1 - Altura / Za) * dDesBase_(i);
+}
+
+// By the angles at the apex between neighbouring elements, from the middle outwards. With L and M the lengths of two
+// neighbours and c the chord between them, the angle is 2*asin(sqrt((c^2 - (L - M)^2) / (4*L*M))); L - M comes from
+// L^2 - M^2 = 2*Xa*(px - qx), which loses no digits for near-equal lengths.
+bool clCono::DesarrollaBase(double Rb, double Xa, double a0, int n) {
+  const double paso = 2 * dPi / n, cuerda = 2 * Rb * std::sin(paso / 2);
+  dDesBase_ = Puntos2(n + 1);
+  const int medio = n / 2 + 1;
+  double apertura = 0;
+  dDesBase_(medio) = {0, -dLongBase_[static_cast<std::size_t>(medio - 1)]};
+  for (int i = medio - 1; i >= 1; --i) {
+    const double L = dLongBase_[static_cast<std::size_t>(i - 1)], M = dLongBase_[static_cast<std::size_t>(i)];
+    const double enMedio = a0 + (i - 0.5) * paso;
+    const double dif = 2 * Xa * Rb * (2 * std::sin(enMedio) * std::sin(paso / 2)) / (L + M);
+    const double seno2 = (cuerda - dif) * (cuerda + dif) / (4 * L * M);
+    if (!(seno2 >= 0 && seno2 <= 1)) return false;
+    apertura += 2 * std::asin(std::sqrt(seno2));
+    dDesBase_(i) = {-L * std::sin(apertura), -L * std::cos(apertura)};
+    dDesBase_(n + 2 - i) = {-dDesBase_(i).x, dDesBase_(i).y};
+  }
+  return true;
+}
+
+int clCono::CalcPtoInicPtoFin(double s) const {
+  double andado = 0;
+  for (int i = 1; i < dDesBase_.Cuenta(); ++i) {
+    andado += Distancia(dDesBase_(i), dDesBase_(i + 1));
+    if (andado > s) return i - 1;
+  }
+  return 0;
+}
+
+std::optional<std::array<int, 2>> clCono::EligeTramo(double arco, double Ax, double Ay, int iiTem, bool bCambio) const {
+  const int n = dDesBase_.Cuenta() - 1, medio = n / 2 + 1, k = CalcPtoInicPtoFin(arco);
+  const Reparto tramo = kTramos[bCambio ? 1 : 0][iiTem - 1][Cuadrante(Ax, Ay)];
+  std::array<int, 2> extremos = Desplazamientos(tramo, k, n / 4);
+  for (int& extremo : extremos) {
+    extremo += medio;
+    if (extremo <= 0) extremo = std::abs(extremo) + 2;
+  }
+  if (extremos[0] > extremos[1]) std::swap(extremos[0], extremos[1]);
+  if (extremos[0] < 1 || extremos[1] > n + 1) return std::nullopt;
+  return extremos;
+}
+
+// Each element of the span, shortened or lengthened to its true length between the lower mouth and the cut. The real
+// lower rim stays; the other point moves along the element. `alDerecho`: the quarter's points go with the elements in
+// the same order, else the last point with the first element.
+void clCono::CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, bool alDerecho) {
+  const PlanoCorte plano = PlanoDeCorte(pieza);
+  const int n = dDesBase_.Cuenta() - 1, q = n / 4;
+  const auto [iHasiera, iBukaera] = *tramo_;
+  for (int j = iHasiera, paso = 0; j <= iBukaera && paso <= q; ++j, ++paso) {
+    const Elemento e = ElementoDe(pieza, plano, iiTem, alDerecho ? 1 + paso : q + 1 - paso, n);
+    const Punto2 bajo = bCambio ? dDesBoca_(j) : dDesBase_(j);
+    Punto2& alto = bCambio ? dDesBase_(j) : dDesBoca_(j);
+    const double largo = Distancia(bajo, alto);
+    if (largo > 0) alto = bajo + Distancia(e.bajo, e.corte) / largo * (alto - bajo);
+  }
+}
+
+std::vector<Punto2> clCono::Contorno() const {
+  const auto [iHasiera, iBukaera] = *tramo_;
+  std::vector<Punto2> contorno;
+  for (int i = iHasiera; i <= iBukaera; ++i) contorno.push_back(dDesBase_(i));
+  for (int i = iBukaera; i >= iHasiera; --i) contorno.push_back(dDesBoca_(i));
+  contorno.push_back(dDesBase_(iHasiera));
+  return contorno;
+}
+
+void clCono::GeneraDesarrollo1(EWdraw& axew, const PiezaEspecial& pieza, double Ax, double Ay, int inumPuntos,
+                               int iiTem, bool bCambio) {
+  estado.PoliContorno.clear();
+  std::vector<Punto2> contorno;
+  if (dDesBase_.Cuenta() == inumPuntos + 1) {
+    const double psi = std::atan2(std::abs(Ay), std::abs(Ax));
+    tramo_ = EligeTramo(psi * (bCambio ? pieza.r1(iiTem) : pieza.r2(iiTem)), Ax, Ay, iiTem, bCambio);
+  }
+  if (tramo_) {
+    // The pick is where element 1 of the uncut cone would end.
+    const Punto2 ancla = dDesBoca_(1);
+    CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
+    contorno = Contorno();
+    for (Punto2& p : contorno) p = p - ancla;
+  }
+  const Punto2 base = PideSitio(axew, Forma::esquina, iiTem, contorno);
+  if (contorno.empty()) return;
+  for (Punto2& p : contorno) p = p + base;
+  DibujaForma(axew, std::move(contorno));
+}
+
+}  // namespace duktores

@@ -1,0 +1,68 @@
+#include "special/rectangulo.h"
+
+#include <algorithm>
+#include <string>
+
+#include "dxf/anotacion.h"
+#include "geometry/planas.h"
+#include "special/coloca.h"
+#include "state/estado.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr std::int16_t kColorNumero = 1, kColorCota = 4;
+constexpr double kNivel = 1e-6;  // nearer than this counts as level
+
+std::array<Punto2, 4> Aplana(const Lado& lado, Punto2 A) {
+  const auto& [P11, P12, P21, P22] = lado;
+  const Punto2 B = A - Punto2{Distancia(P11, P12), 0};
+  const auto bajas = InterseccionCirculos(B, Distancia(P12, P21), A, Distancia(P11, P21));
+  const Punto2 C = bajas.A.y < bajas.B.y ? bajas.A : bajas.B;
+  const auto laterales = InterseccionCirculos(C, Distancia(P21, P22), A, Distancia(P11, P22));
+  const Punto2 D = laterales.A.x > laterales.B.x ? laterales.A : laterales.B;
+  return {A, B, C, D};
+}
+
+std::vector<Punto2> Contorno(const std::array<Punto2, 4>& p) { return {p[0], p[1], p[2], p[3], p[0]}; }
+
+}  // namespace
+
+void clRectangulo::GeneraDesarrollo(EWdraw& axew, const Lado& lado, int numero) {
+  estado.PoliContorno.clear();
+  const Punto2 sitio = PideSitio(axew, Forma::lado, numero, Contorno(Aplana(lado, {})));
+  dPuntosPieza_ = Aplana(lado, sitio);
+  DibujaForma(axew, Contorno(dPuntosPieza_));
+  DibujaNumerosLados(axew);
+}
+
+void clRectangulo::DibujaNumerosLados(EWdraw& axew) const {
+  const auto& [A, B, C, D] = dPuntosPieza_;
+  const Punto2 medios[]{PuntoMedio(A, D), PuntoMedio(B, C), PuntoMedio(C, D), PuntoMedio(A, B)};
+  for (int i = 0; i < 4; ++i) {
+    std::string numero = std::to_string(i + 1);
+    DibujaTexto(axew, medios[i].x + 1, medios[i].y, numero, estado.dTamanoTexto, kColorNumero, 0);
+  }
+}
+
+void clRectangulo::GeneraCota(EWdraw& axew) const {
+  const auto& [A, B, C, D] = dPuntosPieza_;
+  const double dx = estado.dPasoTablaX, dy = estado.dPasoTablaY;
+  const auto cota = [&](Punto2 p, Punto2 q, Punto2 paso) {
+    DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
+  };
+  const auto extension = [&](Punto2 pie, Punto2 punto) {
+    if (Distancia(pie, punto) > kNivel) DibujaLinea(axew, pie, punto, kColorCota);
+  };
+  const double izquierda = std::min(B.x, C.x), abajo = std::min(C.y, D.y), derecha = std::max(A.x, D.x);
+  cota({A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
+  cota({izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
+  B.x > C.x + kNivel ? extension({C.x, B.y}, B) : extension({B.x, C.y}, C);
+  cota({C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
+  C.y > D.y + kNivel ? extension({C.x, D.y}, C) : extension({D.x, C.y}, D);
+  cota({derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
+  A.x > D.x + kNivel ? extension({A.x, D.y}, D) : extension({D.x, A.y}, A);
+}
+
+}  // namespace duktores
