@@ -2,151 +2,142 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
-#include <clocale>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <random>
+#include <sstream>
 
+#include "state/caracteres.h"
 #include "state/estado.h"
+#include "state/fichero.h"
+#include "state/ini.h"
 
 namespace duktores {
 namespace {
 
 namespace fs = std::filesystem;
 
-class VentanaSiete : public Plataforma {
-  Ventana VentanaActiva() override { return 7; }
-};
-
 class Arranque : public testing::Test {
  protected:
   void SetUp() override {
     estado = EstadoPrograma{};
-    raiz_ = fs::temp_directory_path() / ("duktores_" + std::to_string(std::random_device{}()));
     fs::create_directories(raiz_ / "Config");
     setenv("LC_ALL", "C", 1);
   }
   void TearDown() override { fs::remove_all(raiz_); }
-
-  void Escribe(std::string_view contenido) { std::ofstream(Ini(), std::ios::binary) << contenido; }
-  std::string Ini() const { return (raiz_ / "Config/Config.ini").string(); }
-  void Lanza() { Arranca((raiz_ / "Duct/duktores").string()); }
-  void Lanza(std::string_view contenido) {
-    Escribe(contenido);
-    Lanza();
+  /// The configuration as it is read, language and unit first.
+  std::string Lanza(const std::string& contenido = "") const {
+    EXPECT_TRUE(contenido.empty() || EscribeFichero(ini_, contenido));
+    Arranca((raiz_ / "Duct/duktores").string());
+    const EstadoPrograma& e = estado;
+    std::ostringstream s;
+    s.precision(16);
+    s << e.dIdioma << ' ' << e.iUnidad << ' ' << e.sRutaDuct << ' ' << e.dEspesor << ' ' << e.dTamanoTexto << ' ';
+    s << e.iFibra << ' ' << e.iColorDoblez << ' ' << e.sDimensiones << ' ' << e.sDensidad << ' ' << e.iDivisiones;
+    s << ' ' << e.iBox;
+    return s.str();
   }
-
-  fs::path raiz_;
+  fs::path raiz_ = fs::temp_directory_path() / ("duktores_state_" + std::to_string(getpid()));
+  std::string ini_ = raiz_ / "Config/Config.ini";
 };
 
 TEST_F(Arranque, PlacesAndConfiguration) {
-  VentanaSiete plataforma;
+  struct VentanaSiete : Plataforma {
+    Ventana VentanaActiva() override { return 7; }
+  } plataforma;
   estado.plataforma = &plataforma;
   estado.sTipoPieza = "TransCR";
-  Lanza(
-      "[DUCT]\r\nPath=/cut/new\r\nThickness=1.25\r\nSizetxt=6\r\nFiber=3\r\nBendColour=2.5\r\nDimensions=1.0\r\n"
-      "Density=7.85\r\nNDivi=70000\r\nBox=-1\r\n[UNIT]\r\nUnit=0\r\n[LANGUAGE]\r\nLanguage=CHINESE\r\n");
-  EXPECT_EQ(estado.sRutaBase, raiz_.string() + "/");
-  EXPECT_EQ(estado.sRutaPrograma, raiz_.string() + "/Duct/");
-  EXPECT_EQ(estado.sRutaIni, Ini());
-  EXPECT_EQ(estado.hVentanaHost, 7U);
-  EXPECT_EQ(estado.plataforma, &plataforma);
-  EXPECT_EQ(estado.sTipoPieza, "");
-  EXPECT_EQ(estado.dIdioma, 60000.0);
-  EXPECT_EQ(estado.iUnidad, 1);
-  EXPECT_EQ(estado.sRutaDuct, "/cut/new");
-  EXPECT_EQ(estado.dEspesor, 1.25);
-  EXPECT_EQ(estado.dTamanoTexto, 6.0);
-  EXPECT_EQ(estado.iFibra, 3);
-  EXPECT_EQ(estado.iColorDoblez, 2);
-  EXPECT_EQ(estado.sDimensiones, "1");
-  EXPECT_EQ(estado.sDensidad, "7.85");
-  EXPECT_EQ(estado.iDivisiones, 0);
-  EXPECT_EQ(estado.iBox, -1);
+  EXPECT_EQ(
+      Lanza("[DUCT]\r\nPath=/cut/new\r\nThickness=1.25\r\nSizetxt=6\r\nFiber=3\r\nBendColour=2.5\r\nDimensions=1.0\r\n"
+            "Density=7.85\r\nNDivi=70000\r\nBox=-1\r\n[UNIT]\r\nUnit=0\r\n[LANGUAGE]\r\nLanguage=CHINESE\r\n"),
+      "60000 1 /cut/new 1.25 6 3 2 1 7.85 0 -1");
+  EXPECT_EQ(estado.sRutaBase + " " + estado.sRutaPrograma, raiz_.string() + "/ " + raiz_.string() + "/Duct/");
+  EXPECT_TRUE(estado.hVentanaHost == 7 && estado.plataforma == &plataforma && estado.sTipoPieza.empty());
 
-  const std::string otro = (raiz_ / "other.ini").string();
-  std::ofstream(otro) << "[DUCT]\nNDivi=24\n";
-  Arranca((raiz_ / "Duct/duktores").string(), otro);
-  EXPECT_EQ(estado.iDivisiones, 24);
-  EXPECT_EQ(estado.dIdioma, 0.0);
+  EscribeFichero(raiz_ / "other.ini", "[DUCT]\nNDivi=24\n");
+  Arranca("duktores", (raiz_ / "other.ini").string());
+  EXPECT_TRUE(estado.iDivisiones == 24 && estado.dIdioma == 0 && estado.sRutaBase.empty());
+  EXPECT_EQ(fs::path(RutaEjecutable()).filename(), "test_state");
 }
 
-TEST_F(Arranque, SingleKeys) {
-  const struct {
-    const char* unidad;
-    int iUnidad;
-    double altura;
-  } unidades[] = {{"0", 1, 6}, {"1", 2, 2}, {"2", 3, 6}, {"mm", 1, 6}, {"1.5", 2, 2}, {"99999", 0, 6}};
-  for (const auto& [unidad, iUnidad, altura] : unidades) {
-    Lanza("[UNIT]\nUnit=" + std::string(unidad) + "\n[DUCT]\nSizetxt=6\n");
-    EXPECT_EQ(estado.iUnidad, iUnidad) << unidad;
-    EXPECT_EQ(estado.dTamanoTexto, altura) << unidad;
+TEST_F(Arranque, UnitLanguageAndThickness) {
+  // clang-format off
+  const std::pair<const char*, const char*> casos[] = {
+      {"Unit=0", "0 1  0 6"}, {"Unit=1", "0 2  0 2"}, {"Unit=2", "0 3  0 6"}, {"Unit=mm", "0 1  0 6"},
+      {"Unit=1.5", "0 2  0 2"}, {"Unit=99999", "0 0  0 6"}, {"Language= english ", "10000 1  0 6"},
+      {"Language=German", "20000 1  0 6"}, {"Language=FRENCH", "30000 1  0 6"},
+      {"Language=\" portuguese \"", "40000 1  0 6"}, {"Language=bAsQuE", "50000 1  0 6"},
+      {"Language=SPANISH", "0 1  0 6"}, {"Language=ENGLISH.", "0 1  0 6"}, {"Thickness=1,5", "0 1  1 6"},
+      {"Thickness=0.12345678901234567", "0 1  0.123456789012346 6"}};
+  // clang-format on
+  for (const auto& [clave, leido] : casos) {
+    const std::string linea = std::string(clave) + "\n";
+    const std::string todo = Lanza("[UNIT]\n" + linea + "[LANGUAGE]\n" + linea + "[DUCT]\nSizetxt=6\n" + linea);
+    EXPECT_TRUE(todo.starts_with(leido)) << clave << ": " << todo;
   }
-  const std::pair<const char*, double> idiomas[] = {{" english ", 10000}, {"German", 20000},
-                                                    {"FRENCH", 30000},    {"\" portuguese \"", 40000},
-                                                    {"bAsQuE", 50000},    {"CHINESE", 60000},
-                                                    {"SPANISH", 0},       {"ITALIAN", 0},
-                                                    {"ENGLISH.", 0},      {"", 0}};
-  for (const auto& [nombre, base] : idiomas) {
-    Lanza("[LANGUAGE]\nLanguage=" + std::string(nombre) + "\n");
-    EXPECT_EQ(estado.dIdioma, base) << nombre;
-  }
-  Lanza("[DUCT]\nThickness=1,5\n");
-  EXPECT_EQ(estado.dEspesor, 1.0);
-  Lanza("[DUCT]\nThickness=0.12345678901234567\n");
-  EXPECT_EQ(estado.dEspesor, 0.123456789012346);
 }
 
 TEST_F(Arranque, AFileThatIsNoneReadsAsEmpty) {
-  const auto vacio = [&](const char* caso) {
-    Lanza();
-    EXPECT_EQ(estado.dIdioma, 0.0) << caso;
-    EXPECT_EQ(estado.iUnidad, 1) << caso;
-    EXPECT_EQ(estado.dEspesor, 0.0) << caso;
-    EXPECT_EQ(estado.sDensidad, "0") << caso;
-    EXPECT_EQ(estado.sRutaDuct, "") << caso;
-  };
-  vacio("missing");
-  fs::create_directory(Ini());
-  vacio("folder");
-  fs::remove(Ini());
-  ASSERT_EQ(mkfifo(Ini().c_str(), 0600), 0);
-  vacio("pipe");
-  fs::remove(Ini());
-  Escribe(std::string(3 << 20, 'x') + "\n[DUCT]\nThickness=2\n");
-  vacio("huge");
-  std::mt19937 azar(1);
-  std::string bytes(100000, '\0');
-  for (char& c : bytes) c = static_cast<char>(azar());
-  Escribe(bytes);
-  vacio("random");
-  Arranca("duktores");
-  EXPECT_EQ(estado.sRutaBase, "");
+  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0") << "missing";
+  ASSERT_EQ(mkfifo(ini_.c_str(), 0600), 0);
+  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0") << "a pipe, on which one could wait for ever";
 }
 
 TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
-  Lanza("[DUCT]\nThickness=1.5\nDensity=7.85\n");
-  EXPECT_FALSE(estado.bComaDecimal);
-  setenv("LC_ALL", "no_such_LOCALE", 1);
-  DetectaComa();
-  EXPECT_FALSE(estado.bComaDecimal);
-
-  const std::string crea = "localedef -i es_ES -f UTF-8 '" + (raiz_ / "es_ES.UTF-8").string() + "' >/dev/null 2>&1";
-  if (std::system(crea.c_str()) != 0) GTEST_SKIP() << "no localedef to make a locale with a comma";
+  for (const char* local : {"C", "no_such_LOCALE"}) {
+    setenv("LC_ALL", local, 1);
+    EXPECT_EQ(Lanza("[DUCT]\nThickness=1.5\nDensity=7.85\n"), "0 1  1.5 0 0 0 0 7.85 0 0") << local;
+  }
+  const std::string local = raiz_ / "es_ES";
+  EscribeFichero(local + ".def", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
+  const int aviso = std::system(("localedef -c -f UTF-8 -i " + local + ".def " + local + " 2>/dev/null").c_str());
+  if (!fs::exists(local)) GTEST_SKIP() << "no localedef to make a locale with a comma: " << aviso;
   const auto enEspanol = [&] {
     setenv("LOCPATH", raiz_.c_str(), 1);
-    setenv("LC_ALL", "es_ES.UTF-8", 1);
-    Lanza();
-    return estado.bComaDecimal && estado.dEspesor == 1.5 && estado.sDensidad == "7,85" &&
-           std::string_view(std::setlocale(LC_NUMERIC, nullptr)) == "C";
+    setenv("LC_ALL", "es_ES", 1);
+    return Lanza() == "0 1  1.5 0 0 0 0 7,85 0 0";
   };
   // In a process of its own: the C library keeps what it allocates for LOCPATH.
   EXPECT_EXIT(std::_Exit(enEspanol() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(Arranque, KnowsItsOwnPlace) { EXPECT_EQ(fs::path(RutaEjecutable()).filename(), "test_state"); }
+TEST_F(Arranque, FilesAreReadAndWrittenWhole) {
+  const std::string fichero = raiz_ / "file", enlace = raiz_ / "link", bytes(100000, '\0');
+  for (const char* ruta : {raiz_.c_str(), "/proc/self/mem", enlace.c_str()}) EXPECT_EQ(LeeFichero(ruta), std::nullopt);
+  EXPECT_FALSE(EscribeFichero(raiz_, "x") || EscribeFichero(raiz_ / "none/x", "x") || !EscribeFichero(fichero, "old"));
+  fs::create_symlink("file", enlace);
+  EXPECT_TRUE(EscribeFichero(enlace, bytes) && fs::is_symlink(enlace) && LeeFichero(fichero) == bytes);
+}
+
+TEST(Ini, Values) {
+  // clang-format off
+  const std::pair<const char*, const char*> casos[] = {
+      {"[S]\r\nK=1\r\n", "1"}, {"[S]\nK=1", "1"}, {"\xEF\xBB\xBF[S]\nK=1\n", "1"},
+      {" [ s ] \n\t k \t=\t a b \t\n", "a b"}, {"[s]\nK=a=b;c\n", "a=b;c"}, {"[s]\nK=\n", ""},
+      {"[s]\nK=\"  x \"\n", "  x "}, {"[s]\nK='x'\n", "x"}, {"[s]\nK=\"x\n", "\"x"}, {"[s]\nK=\"\n", "\""},
+      {"[s]\nK=1\nk=2\n", "1"}, {"[s]\nX=1\n[t]\nK=3\n[S]\nK=2\n", "2"}, {"[s]\n;K=1\n ;K=2\nK=3\n", "3"},
+      {"K=1\n[t]\nK=2\n", ""}, {"[s]\nK\n=1\nK2=1\n", ""}, {"[s", ""}, {"[s\nK=1\n", "1"}, {"[]\nK=1\n", ""},
+      {"[s]\nK=Espa\xF1" "a \x80\n", "España €"}, {"[s]\nK=España €\n", "España €"}};
+  // clang-format on
+  for (const auto& [contenido, valor] : casos) EXPECT_EQ(ValorIni(contenido, "S", "K"), valor) << contenido;
+  const std::string casi(126, 'a');  // one character short of the longest value
+  for (const char* cola : {"", "b"}) EXPECT_EQ(ValorIni("[s]\nk=" + casi + "é" + cola, "s", "k"), casi + "é");
+  EXPECT_EQ(ValorIni("[s]\nk=" + casi + "𝄞", "s", "k"), casi);
+}
+
+TEST(Ini, AnyBytes) {
+  constexpr std::string_view kAlfabeto("[]=;\"'sk \r\n\t\0\xEF\xBB\xBF\xC3\x80", 18);
+  for (unsigned semilla = 0; semilla < 3000; ++semilla) {
+    std::mt19937 azar(semilla);
+    std::string bytes(azar() % 400, '\0');
+    for (char& c : bytes) c = kAlfabeto[azar() % kAlfabeto.size()];
+    const std::string valor = ValorIni(bytes, "s", "k");
+    EXPECT_TRUE(EsUtf8(valor) && LongitudUtf16(valor) <= 127) << semilla;
+    EXPECT_EQ(ValorIni(bytes + "\n[own]\nplace=1", "own", "place"), "1") << semilla;
+  }
+}
 
 }  // namespace
 }  // namespace duktores

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <sstream>
 #include <stdexcept>
 
 #include "state/caracteres.h"
@@ -14,95 +15,65 @@
 namespace duktores {
 namespace {
 
-// From the first to the last number of each stretch.
-constexpr int kEnTodas[][2] = {{1, 3}, {11, 15}, {17, 35}, {40, 47}, {49, 50}, {57, 58}, {61, 61}, {63, 66}, {80, 102}};
-constexpr int kCortos[][2] = {{51, 56}, {59, 60}};
-constexpr int kChinos[][2] = {{67, 68}};
-
-template <class Tramos>
-bool Esta(const Tramos& tramos, int n) {
-  return std::ranges::any_of(tramos, [n](const auto& tramo) { return n >= tramo[0] && n <= tramo[1]; });
-}
-
-bool Existe(double id) {
+/// The text of an id; empty if there is none.
+std::string Busca(double id) {
   try {
-    return !TextoIdioma(id).empty();
+    return TextoIdioma(id);
   } catch (const std::out_of_range&) {
-    return false;
+    return "";
   }
 }
 
-TEST(Textos, ExactlyTheNumbersOfEachLanguage) {
-  for (int base = 0; base <= 60000; base += 10000) {
-    for (int n = 0; n < 200; ++n) {
-      const bool soloAqui = (base == 0 && Esta(kCortos, n)) || (base == 60000 && Esta(kChinos, n));
-      EXPECT_EQ(Existe(base + n), Esta(kEnTodas, n) || soloAqui) << base + n;
-    }
-  }
-  for (const double id : {-1.0, 1.5, 70001.0, 1e300, -1e300, std::nan(""), HUGE_VAL}) EXPECT_FALSE(Existe(id)) << id;
+/// Whether a text has Chinese characters and else only those that a drawing carries.
+bool EsChino(const std::string& texto) {
+  const auto sinograma = [](char16_t c) { return c >= 0x4E00 && c <= 0x9FFF; };
+  std::u16string unidades = Utf16(texto);
+  if (std::erase_if(unidades, sinograma) == 0) return false;
+  std::erase_if(unidades, [](char16_t c) { return c < 0x80 && std::isalnum(c); });
+  return unidades.find_first_not_of(u"º /-)(%,.:") == unidades.npos;
 }
 
-TEST(Textos, FitTheirPlace) {
-  for (int n = 0; n < 200; ++n) {
-    if (!Esta(kEnTodas, n)) continue;
-    const bool dosPuntos = TextoIdioma(n).ends_with(':');
-    for (int base = 0; base <= 60000; base += 10000) {
-      const std::string texto = TextoIdioma(base + n);
-      EXPECT_EQ(Recorta(texto), texto) << base + n;
-      EXPECT_TRUE(base == 10000 || texto.ends_with(':') == dosPuntos) << base + n;
-      EXPECT_TRUE(base == 60000 || Utf8DeCp1252(Cp1252DeUtf8(texto)) == texto) << base + n;
-    }
+TEST(Textos, ExactlyTheNumbersOfEachLanguageFitForTheirPlace) {
+  // clang-format off
+  const int kTramos[][4] = {  // numbers from, to; languages from, to
+      {1, 3, 0, 6}, {11, 15, 0, 6}, {17, 35, 0, 6}, {40, 47, 0, 6}, {49, 50, 0, 6}, {51, 56, 0, 0}, {57, 58, 0, 6},
+      {59, 60, 0, 0}, {61, 61, 0, 6}, {63, 66, 0, 6}, {67, 68, 6, 6}, {80, 104, 0, 6}};
+  // clang-format on
+  for (int i = 0; i < 7 * 200; ++i) {
+    const int n = i / 7, idioma = i % 7;
+    const std::string texto = Busca(10000 * idioma + n), enEspanol = Busca(n);
+    const bool existe = std::ranges::any_of(
+        kTramos, [=](const int* t) { return n >= t[0] && n <= t[1] && idioma >= t[2] && idioma <= t[3]; });
+    EXPECT_EQ(!texto.empty(), existe) << n << " of " << idioma;
+    if (!existe || Busca(60000 + n).empty()) continue;
+    EXPECT_EQ(Recorta(texto), texto);
+    EXPECT_TRUE(idioma == 1 || enEspanol.empty() || texto.ends_with(':') == enEspanol.ends_with(':')) << texto;
+    EXPECT_TRUE(idioma == 6 ? EsChino(texto) : Utf8DeCp1252(Cp1252DeUtf8(texto)) == texto) << texto;
   }
-  EXPECT_EQ(TextoIdioma(15), "Introduzca todos los datos");
-  EXPECT_EQ(TextoIdioma(10049), "ELYPTIC TRANS.");
-  EXPECT_EQ(TextoIdioma(52), "eMaS ");
-  EXPECT_EQ(TextoIdioma(10000 + kTextoDemasiadas), "The unfolding ended early: too many entities");
+  for (const double id : {-1.0, 1.5, 70001.0, 1e300, std::nan(""), HUGE_VAL}) EXPECT_EQ(Busca(id), "") << id;
+  EXPECT_TRUE(Busca(52) == "eMaS " && Busca(10049) == "ELYPTIC TRANS.");
+  EXPECT_EQ(Busca(10000 + kTextoDemasiadas), "The unfolding ended early: too many entities");
 }
 
-TEST(Textos, ChineseKeepsToWhatADrawingCarries) {
-  constexpr std::u16string_view kSignos = u"º /-)(%,.:";
-  for (int n = 0; n < 200; ++n) {
-    if (!Existe(60000 + n)) continue;
-    bool haySinograma = false;
-    for (const char16_t c : Utf16(TextoIdioma(60000 + n))) {
-      const bool sinograma = c >= 0x4E00 && c <= 0x9FFF;
-      const bool asciiLetra = c < 0x80 && std::isalnum(static_cast<int>(c)) != 0;
-      haySinograma |= sinograma;
-      EXPECT_TRUE(sinograma || asciiLetra || kSignos.find(c) != kSignos.npos) << n;
-    }
-    EXPECT_TRUE(haySinograma) << n;
-  }
-}
-
-class Anota : public Plataforma {
- public:
-  std::string hechos;
-
- private:
+struct Anota : Plataforma {
   void CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) override {
-    hechos +=
-        "box(" + std::string(texto) + "," + std::to_string(static_cast<int>(estilo)) + "," + std::string(titulo) + ") ";
+    hechos << "box(" << texto << "," << static_cast<int>(estilo) << "," << titulo << ") ";
   }
-  void VentanaMensaje(std::string_view texto) override { hechos += "window(" + std::string(texto) + ") "; }
-  void PonCursorEspera(bool espera) override { hechos += espera ? "wait " : "normal "; }
+  void VentanaMensaje(std::string_view texto) override { hechos << "window(" << texto << ") "; }
+  void PonCursorEspera(bool espera) override { hechos << (espera ? "wait " : "normal "); }
+  std::ostringstream hechos;
 };
 
 TEST(Mensajes, PointerAndRoadOfEachLanguage) {
-  const std::string conNul("a\0", 2);
-  estado = EstadoPrograma{};
-  MuestraMensaje("a", EstiloMensaje::informacion, "");
-
   Anota plataforma;
+  estado = EstadoPrograma{};
+  MuestraMensaje("nobody sees it", EstiloMensaje::informacion, "");
   estado.plataforma = &plataforma;
   estado.dIdioma = 10000;
   MuestraMensaje(Texto(1), EstiloMensaje::exclamacion, "t");
-  EXPECT_EQ(plataforma.hechos, "normal box(Continue,48,t) wait ");
-
-  plataforma.hechos.clear();
   estado.dIdioma = kChino;
-  MuestraMensaje(conNul, EstiloMensaje::informacion, "t");
-  EXPECT_EQ(plataforma.hechos, "normal window(a) wait ");
-  estado = EstadoPrograma{};
+  MuestraMensaje({"a\0", 2}, EstiloMensaje::informacion, "t");
+  EXPECT_EQ(plataforma.hechos.str(), "normal box(Continue,48,t) wait normal window(a) wait ");
 }
 
 }  // namespace

@@ -1,0 +1,186 @@
+"""One road through the installed program under an X server: choose, type, unfold in two pieces, save, leave. The file
+must be what duktores-batch makes of the same values and places. Usage: camino_test.py PROGRAM"""
+
+import contextlib
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import ezdxf
+
+TOOLS = ("setpriv", "Xvfb", "openbox", "xdotool")
+FIELDS = {"H": 300, "RS": 95.5, "LI": 400, "AI": 300, "AX": 0, "AY": 25, "Alfa": -10}
+JOB = {"name": "pieza", "piece": "TransCR", **FIELDS, "Divisions": 24, "Start": 2, "Pieces": 2}
+CONFIG = "[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickness=2\nSizetxt=10\nFiber=2\nDensity=7.85\n"
+# Places in the windows at their design sizes.
+UNFOLD, SAVE, LEAVE = (818, 35), (866, 35), (962, 35)
+MESSAGE = "duktores"  # what window managers show for an empty title
+PICKS = (300, 400), (700, 430)
+
+
+def until(what, condition, seconds=15):
+    limit = time.monotonic() + seconds
+    while time.monotonic() < limit:
+        if answer := condition():
+            return answer
+        time.sleep(0.02)
+    raise TimeoutError(what)
+
+
+class Screen:
+    """An X server, its window manager and the programs on it. All end with it, even if this script is killed."""
+
+    def __init__(self, folder, stack):
+        self.folder, self.stack = folder, stack
+        self.log = stack.enter_context(open(folder / "log", "w+"))
+        self.environment = {"PATH": os.environ["PATH"], "HOME": str(folder), "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
+                            "XDG_RUNTIME_DIR": str(folder), "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        reading, writing = os.pipe()
+        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset",
+                   pass_fds=[writing])
+        os.close(writing)
+        with open(reading) as number:
+            self.environment["DISPLAY"] = ":" + number.readline().strip()
+        self.start("openbox")
+        until("the window manager", self.manager_listens)
+
+    def manager_listens(self):
+        """While it starts it may lose what windows ask of it."""
+        self.xdotool("set_desktop", 1)
+        return self.xdotool("get_desktop") == ["1"]
+
+    def start(self, *command, **options):
+        process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.environment, stdin=subprocess.DEVNULL, stdout=self.log,
+                                   stderr=self.log, **options)
+
+        def end():
+            process.kill()
+            process.wait()
+        self.stack.callback(end)
+        return process
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, stdin=subprocess.DEVNULL,
+                              capture_output=True, text=True, timeout=10).stdout.split()
+
+    def active(self, title):
+        """The window that has the keyboard, if its title is this one."""
+        window = "".join(self.xdotool("getactivewindow"))
+        return window if " ".join(self.xdotool("getwindowname", window)) == title else None
+
+    def window(self, title, but=None):
+        return until(title, lambda: self.active(title) not in (None, but) and self.active(title))
+
+    def click(self, window, place):
+        self.xdotool("mousemove", "--window", window, *place, "click", 1)
+
+    def click_until(self, title, window, place, then=None):
+        """A click that comes too early does nothing: it is repeated until the window of that title comes."""
+        for _ in range(20):
+            self.click(window, place)
+            if then:
+                self.click(window, then)
+            with contextlib.suppress(TimeoutError):
+                return until(title, lambda: self.active(title), 0.5)
+        raise TimeoutError(title)
+
+    def answer(self, title):
+        window = self.window(title)
+        self.xdotool("key", "Return")
+        until("the end of " + title, lambda: self.active(title) != window)
+
+
+def fill(screen):
+    for value in FIELDS.values():
+        screen.xdotool("type", "--delay", 2, "--", value)
+        screen.xdotool("key", "Return")
+    # F4 opens the list: the second division count, the second position. On the option buttons Enter accepts.
+    screen.xdotool("key", "--delay", 2, "F4", "Home", "Down", "Return", "Tab", "F4", "Home", "Down", "Return", "Tab", "Return")
+
+
+def above_host(screen, program):
+    """Starts the program while another window is active, and tries in vain to get back to that one."""
+    screen.start(program)
+    host = screen.window("Duktors")
+    process = screen.start(program)
+    catalogue = screen.window("Duktors", but=host)
+    screen.xdotool("windowactivate", host)
+    screen.xdotool("set_num_desktops", 2)  # answered after what was asked before
+    until("the window manager", lambda: screen.xdotool("get_num_desktops") == ["2"])
+    assert screen.active("Duktors") == catalogue, "the host's window came to the front"
+    return process, host
+
+
+def road(screen, program, file):
+    process, host = above_host(screen, str(program))
+    screen.xdotool("key", "Down", "Down", "Return")
+    dialog = screen.window("Rect. Circ. Transf.")
+    fill(screen)
+    viewer = screen.window("Rect. Circ. Transf.", but=dialog)
+    screen.click(viewer, UNFOLD)
+    screen.answer(MESSAGE)
+    screen.click_until(MESSAGE, viewer, PICKS[0])
+    screen.answer(MESSAGE)
+    screen.click_until("Save the DXF", viewer, PICKS[1], then=SAVE)
+    screen.xdotool("type", "--delay", 2, file.stem)
+    screen.xdotool("key", "Return")
+    screen.answer(MESSAGE)
+    screen.click(viewer, LEAVE)
+    assert process.wait(15) == 0, "exit status"
+    screen.xdotool("windowactivate", host)
+    until("the host's window", lambda: screen.active("Duktors") == host)
+
+
+def batch(program, folder, picks):
+    subprocess.run([program, "-", "--out", folder], input=json.dumps([{**JOB, "picks": picks}]).encode(), check=True,
+                   stdout=subprocess.DEVNULL, timeout=60)
+    return folder / "pieza.dxf"
+
+
+def picks(placed, unplaced):
+    """Where the outlines of a file were placed, by the same ones at the origin."""
+    corners = [[p[0][:2] for p in ezdxf.readfile(f).modelspace().query("LWPOLYLINE")] for f in (placed, unplaced)]
+    return [[p[axis] - o[axis] for axis in (0, 1)] for p, o in zip(*corners, strict=True)]
+
+
+def same_line(a, b):
+    """The picks are known but for the last digits that a file has no room for."""
+    with contextlib.suppress(ValueError):
+        return abs(float(a) - float(b)) < 1e-9
+    return a == b
+
+
+def main():
+    program = pathlib.Path(sys.argv[1]).resolve()
+    if missing := [tool for tool in TOOLS if not shutil.which(tool)]:
+        print("not here:", *missing)
+        return 77
+    with contextlib.ExitStack() as stack:
+        folder = pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory()))
+        shutil.copytree(program.parent.parent, folder / "root")
+        (folder / "root/Config/Config.ini").write_text(CONFIG % folder)
+        duct = folder / "root/Duct"
+        screen = Screen(folder, stack)
+        file = folder / "pieza.dxf"
+        try:
+            road(screen, duct / program.name, file)
+        except Exception:
+            screen.log.seek(0)
+            print(screen.log.read())
+            raise
+        origin = batch(duct / "duktores-batch", folder / "origin", [[0, 0], [0, 0]])
+        places = picks(file, origin)
+        again = batch(duct / "duktores-batch", folder / "again", places)
+        lines = [f.read_bytes().split(b"\r\n") for f in (file, again, origin)]
+        assert len(lines[0]) == len(lines[1]) and all(map(same_line, *lines[:2])), places
+        assert not all(map(same_line, lines[0], lines[2])), "placed at the origin"
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
