@@ -38,13 +38,6 @@ void Mira(EWdraw& axew, Punto3 desde) {
   axew.EwRegen();
 }
 
-std::string ConExtension(std::string ruta) {
-  const std::size_t nombre = ruta.rfind('/') + 1;
-  const std::size_t punto = ruta.rfind('.');
-  const bool conExtension = punto != std::string::npos && punto > nombre;
-  return conExtension ? ruta : ruta + ".dxf";
-}
-
 bool Falla(int texto, const std::string& ruta) {
   MuestraMensaje(Texto(texto) + " " + ruta, EstiloMensaje::exclamacion, "");
   CursorEspera(false);
@@ -75,9 +68,15 @@ FinCorrida Desplegado(EWdraw& axew) {
   return fin;
 }
 
+std::string NombreDxf(const std::string& elegido) {
+  const std::size_t nombre = elegido.rfind('/') + 1, punto = elegido.rfind('.');
+  if (punto == std::string::npos || punto <= nombre) return elegido + ".dxf";
+  return punto + 1 == elegido.size() ? elegido + "dxf" : elegido;
+}
+
 bool GuardaDibujo(std::string elegido) {
   if (elegido.empty()) return false;
-  elegido = ConExtension(std::move(elegido));
+  elegido = NombreDxf(elegido);
   const std::string auxiliar = estado.sRutaPrograma + "AuxDxf.dxf";
   if (!estado.oDXF || !estado.oDXF->InsertEntities(estado.oDrawing)) return false;
   if (!HayPlantilla()) return Falla(kTextoPlantilla, RutaPlantilla());

@@ -26,8 +26,11 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 /// The unfold command: empties the control, looks at it from above, starts the handles at 500, unfolds.
 FinCorrida Desplegado(EWdraw& axew);
 
+/// The name that a drawing gets: with the ending ".dxf" if it has none.
+std::string NombreDxf(const std::string& elegido);
+
 /// The save command behind its dialog: writes the drawing of the last unfolding to the scratch file beside the program
-/// and copies it to `elegido`, which gets the ending ".dxf" if it has none. Tells the user what came of it; true if the
+/// and copies it to the `NombreDxf` of `elegido`. Tells the user what came of it; true if the
 /// file stands. A former file is replaced whole or not at all. An empty name does nothing.
 bool GuardaDibujo(std::string elegido);
 

@@ -22,20 +22,29 @@ Campo TextoFiltrado::ComoCampo() const {
 }
 
 void TextoFiltrado::Inserta(const QString& texto) {
-  for (const char32_t tecla : texto.toStdU32String()) {
-    const char32_t filtrada = tecla < U' ' ? 0 : FiltraTecla(tecla, ComoCampo(), filtro_);
-    if (filtrada != 0) insert(QChar(static_cast<char16_t>(filtrada)));
+  constexpr qsizetype kMaximo = 400;  // no number needs more, and each character looks at all those before it
+  Campo campo = ComoCampo();
+  const std::string antes = campo.texto;
+  for (const char32_t tecla : texto.left(kMaximo).toStdU32String()) {
+    if (tecla >= U' ') Teclea(tecla, campo, filtro_);
   }
+  if (campo.texto == antes) return;
+  selectAll();
+  insert(QString::fromStdString(campo.texto));  // one step for an undo
+  setCursorPosition(static_cast<int>(campo.inicioSeleccion));
 }
 
 void TextoFiltrado::Pega() { Inserta(QApplication::clipboard()->text()); }
 
 void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
+  const bool orden =
+      suceso->modifiers().testFlag(Qt::ControlModifier) && !suceso->modifiers().testFlag(Qt::AltModifier);
   if (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter) {
     focusNextPrevChild(true);
   } else if (suceso->matches(QKeySequence::Paste)) {
     Pega();
-  } else if (const QString texto = suceso->text(); !texto.isEmpty() && texto[0].category() != QChar::Other_Control) {
+  } else if (const QString texto = suceso->text();
+             !orden && !texto.isEmpty() && texto[0].category() != QChar::Other_Control) {
     Inserta(texto);
   } else {
     QLineEdit::keyPressEvent(suceso);
@@ -67,20 +76,21 @@ void TextoFiltrado::mouseReleaseEvent(QMouseEvent* suceso) {
 
 void TextoFiltrado::focusInEvent(QFocusEvent* suceso) {
   QLineEdit::focusInEvent(suceso);
-  selectAll();
+  if (suceso->reason() != Qt::PopupFocusReason) selectAll();  // the context menu works on what is selected
 }
 
 // A minus sign in the wrong place keeps the focus. Only a move within the window asks: the user may look at another
-// one.
+// one, and may always cancel.
 void TextoFiltrado::focusOutEvent(QFocusEvent* suceso) {
   QLineEdit::focusOutEvent(suceso);
   const bool dentro = suceso->reason() == Qt::TabFocusReason || suceso->reason() == Qt::BacktabFocusReason ||
                       suceso->reason() == Qt::MouseFocusReason || suceso->reason() == Qt::OtherFocusReason;
-  if (dentro && filtro_ == FiltraNumeroSigno && !SignoEnSuSitio(ComoCampo())) {
-    QTimer::singleShot(0, this, [this] {
-      if (isVisible()) setFocus(Qt::OtherFocusReason);
-    });
-  }
+  if (!dentro || filtro_ != FiltraNumeroSigno || SignoEnSuSitio(ComoCampo())) return;
+  QTimer::singleShot(0, this, [this] {
+    const QWidget* ahora = QApplication::focusWidget();
+    // A reason of its own, so that two such fields don't take the focus from each other for ever.
+    if (isVisible() && !(ahora && ahora->objectName() == "CmdCancelar")) setFocus(Qt::ShortcutFocusReason);
+  });
 }
 
 void TextoFiltrado::inputMethodEvent(QInputMethodEvent* suceso) {

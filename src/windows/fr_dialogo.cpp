@@ -1,6 +1,5 @@
 #include "windows/fr_dialogo.h"
 
-#include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -89,7 +88,6 @@ void FrDialogo::Pie(int y) {
   constexpr int kAnchoBoton = 130, kAltoBoton = 34;
   lblerror_ = new QLabel(this);
   lblerror_->setObjectName("lblerror");
-  lblerror_->setAutoFillBackground(true);
   lblerror_->setAlignment(Qt::AlignCenter);
   lblerror_->setStyleSheet("QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; }");
   lblerror_->hide();

@@ -25,7 +25,7 @@ class FrDialogo : public QDialog {
  private:
   void Campos();
   QWidget* ControlDe(int campo);
-  void Pie(int alto);
+  void Pie(int y);
   void Activa();
   void CmdAceptar();
 

@@ -1,6 +1,5 @@
 #include "windows/fr_lista_duktores.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 

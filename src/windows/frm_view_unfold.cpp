@@ -1,7 +1,9 @@
 #include "windows/frm_view_unfold.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
 #include <array>
@@ -34,7 +36,7 @@ constexpr std::array kZoom{
     BotonZoom{"CmdZoomAll", 97, MandoVista::zoomAll, &EWdraw::EwZoomAll},
     BotonZoom{"CmdZoomwindow", 98, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
-constexpr int kTextoElige = 102;
+constexpr int kTextoElige = 102, kTextoReemplazar = 105;
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
@@ -57,9 +59,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   proporcion_.Coloca(*lienzo_, {kMargen, 70, kDiseno.width() - 2 * kMargen, 612});
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
-  connect(lienzo_, &Lienzo::apunta, this, [this](QPointF p) {
-    LblEstado_->setText(Rotulo() + Q(Texto(kTextoElige)) + QString("    X %1   Y %2").arg(p.x(), 0, 'f', 2).arg(p.y(), 0, 'f', 2));
-  });
+  connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
 
   EWdraw_.EwInicia(true);
   Dibuja3D(EWdraw_);
@@ -117,13 +117,17 @@ void FrmViewUnfold::Botones() {
   connect(suelto("CmdExit", 2), &QPushButton::clicked, this, [] { Termina(); });
 }
 
+// The drawing widget looks at the control, which would go before it.
+FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
+
 // The window may be closed, or the program end, while the unfolding waits for a pick.
 void FrmViewUnfold::CmdDesplegado() {
-  if (lienzo_->Eligiendo()) return;
   const QPointer<FrmViewUnfold> vivo(this);
+  lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   CmdSave_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   FrmView_->setEnabled(false);
+  FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
   Desplegado(EWdraw_);
   if (!vivo) return;
@@ -135,22 +139,28 @@ void FrmViewUnfold::CmdSave() {
   QFileDialog dialogo(this, CmdSave_->toolTip(), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("dxf");
-  if (dialogo.exec() == QDialog::Accepted) GuardaDibujo(dialogo.selectedFiles().value(0).toStdString());
-}
-
-QString FrmViewUnfold::Rotulo() const {
-  const std::string& rotulo = EWdraw_.RotuloFantasma();
-  return rotulo.empty() ? QString() : Q(rotulo) + ": ";
+  while (dialogo.exec() == QDialog::Accepted) {
+    const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
+    // The dialog has asked about the name as it was typed.
+    const bool otro = final != elegido && QFileInfo::exists(final);
+    if (otro && QMessageBox::question(this, {}, Q(Texto(kTextoReemplazar)) + " " + final) != QMessageBox::Yes) continue;
+    GuardaDibujo(final.toStdString());
+    return;
+  }
 }
 
 void FrmViewUnfold::MuestraEleccion(bool empieza) {
-  LblEstado_->setText(empieza ? Rotulo() + Q(Texto(kTextoElige)) : QString());
-  if (empieza) {
-    CursorEspera(false);
-    lienzo_->setFocus();
-  } else {
-    CursorEspera(true);
-  }
+  CursorEspera(!empieza);
+  FrmZoom_->setEnabled(!empieza);  // the left button places the shape; wheel and middle button still move the view
+  LblEstado_->clear();
+  if (empieza) lienzo_->setFocus();
+}
+
+void FrmViewUnfold::MuestraPunto(QPointF punto) {
+  const int decimales = estado.iUnidad == 1 ? 2 : 3;
+  const std::string& rotulo = EWdraw_.RotuloFantasma();
+  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(kTextoElige)) +
+                      QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
 }
 
 void FrmViewUnfold::done(int resultado) {

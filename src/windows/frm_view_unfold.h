@@ -17,6 +17,7 @@ class FrmViewUnfold : public QDialog {
  public:
   /// Draws the solid of the piece in `estado`.
   explicit FrmViewUnfold(QWidget* padre);
+  ~FrmViewUnfold() override;
 
   /// All ways to close the window come through here; a waiting pick ends first.
   void done(int resultado) override;
@@ -32,7 +33,7 @@ class FrmViewUnfold : public QDialog {
   void CmdDesplegado();
   void CmdSave();
   void MuestraEleccion(bool empieza);
-  QString Rotulo() const;  ///< of the shape to be placed
+  void MuestraPunto(QPointF punto);
 
   Proporcion proporcion_;
   EWdraw EWdraw_;

@@ -11,6 +11,7 @@ namespace duktores {
 struct Lienzo::Eleccion {
   QPointer<QEventLoop> bucle;
   std::optional<QPointF> punto;
+  bool abierta = true;  // the first answer counts
 };
 
 namespace {
@@ -62,10 +63,12 @@ std::optional<Punto3> Lienzo::EligePunto(EWdraw&) {
   QEventLoop bucle;
   eleccion->bucle = &bucle;
   TerminaMando();
+  arrastre_.reset();
   raton_ = mapFromGlobal(QCursor::pos());
   EncuadraEleccion();
   PonPuntero();
   emit eligiendo(true);
+  emit apunta(Modelo(raton_));
   bucle.exec();
   if (vivo) {
     eleccion_.reset();
@@ -78,7 +81,10 @@ std::optional<Punto3> Lienzo::EligePunto(EWdraw&) {
 }
 
 void Lienzo::CancelaEleccion() {
-  if (const auto eleccion = eleccion_; eleccion && eleccion->bucle) eleccion->bucle->quit();
+  const auto eleccion = eleccion_;
+  if (!eleccion) return;
+  eleccion->abierta = false;
+  if (eleccion->bucle) eleccion->bucle->quit();
 }
 
 void Lienzo::Regenera(EWdraw&) {
@@ -95,6 +101,7 @@ void Lienzo::Manda(EWdraw& axew, MandoVista mando) {
 void Lienzo::PonMando(std::optional<MandoVista> mando) {
   if (mando == MandoVista::orbit && !orbita_) mando.reset();
   mando_ = mando;
+  arrastre_.reset();
   PonPuntero();
   emit mandoCambiado(mando);
 }
@@ -107,6 +114,7 @@ bool Lienzo::TerminaMando() {
 
 void Lienzo::PermiteOrbitar(bool permite) {
   orbita_ = permite;
+  if (!permite) arrastre_.reset();
   if (!permite && mando_ == MandoVista::orbit) TerminaMando();
 }
 
@@ -150,9 +158,10 @@ void Lienzo::Desplaza(QPointF paso) {
 }
 
 void Lienzo::Amplia(double factor, QPointF sobre) {
-  constexpr double kMinima = 1e-6, kMaxima = 1e6;
+  constexpr double kAlcance = 1e5;  // to both sides of the scale that shows all
   const QPointF fijo = Modelo(sobre);
-  encuadre_.escala = std::clamp(encuadre_.escala * factor, kMinima, kMaxima);
+  const double todo = Ajusta(axew_, size()).escala;
+  encuadre_.escala = std::clamp(encuadre_.escala * factor, todo / kAlcance, todo * kAlcance);
   encuadre_.centro += fijo - Modelo(sobre);
   update();
 }
@@ -203,7 +212,7 @@ void Lienzo::wheelEvent(QWheelEvent* suceso) {
 void Lienzo::mousePressEvent(QMouseEvent* suceso) {
   inicio_ = raton_ = suceso->position();
   if (suceso->button() == Qt::LeftButton && eleccion_) {
-    eleccion_->punto = Modelo(raton_);
+    if (eleccion_->abierta) eleccion_->punto = Modelo(raton_);
     CancelaEleccion();
     return;
   }
@@ -220,6 +229,7 @@ void Lienzo::mouseMoveEvent(QMouseEvent* suceso) {
     emit apunta(Modelo(raton_));
     update();
   }
+  if (suceso->buttons() == Qt::NoButton) arrastre_.reset();  // a box on top has had the release
   if (!arrastre_) return;
   if (arrastre_ == MandoVista::pan) Desplaza(paso);
   if (arrastre_ == MandoVista::zoom) Amplia(std::exp(-paso.y() / 120), inicio_);

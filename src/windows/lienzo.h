@@ -4,7 +4,6 @@
 // command says. A pick gives the left button to the placing of a shape, which hangs on the pointer meanwhile.
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 #include <optional>
 

@@ -53,13 +53,20 @@ std::uint32_t Propiedad(xcb_connection_t* x, xcb_window_t ventana, const char* n
 
 void PlataformaQt::CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
   const auto icono = estilo == EstiloMensaje::exclamacion ? QMessageBox::Warning : QMessageBox::Information;
-  QMessageBox(icono, Q(titulo), Q(texto), QMessageBox::Ok, Padre()).exec();
+  QMessageBox caja(icono, Q(titulo), {}, QMessageBox::Ok, Padre());
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(Q(texto));
+  caja.exec();
 }
 
 void PlataformaQt::VentanaMensaje(std::string_view texto) {
   QDialog ventana(Padre());
   ventana.setObjectName("FrMsgbox");
-  auto* lblmsgbox = new QLabel(Q(texto));
+  auto* lblmsgbox = new QLabel;
+  lblmsgbox->setTextFormat(Qt::PlainText);
+  lblmsgbox->setWordWrap(true);
+  lblmsgbox->setText(Q(texto));
+  lblmsgbox->setMinimumWidth(360);
   lblmsgbox->setObjectName("lblmsgbox");
   auto* aceptar = new QPushButton(Q(Texto(17)));
   aceptar->setObjectName("CmdAceptar");

@@ -95,12 +95,24 @@ class Screen:
         until("the end of " + title, lambda: self.active(title) != window)
 
 
+def second_of_list(screen):
+    def windows():
+        return screen.xdotool("search", "--onlyvisible", "--class", "duktores")
+    before = windows()
+    screen.xdotool("key", "F4")
+    until("the list", lambda: len(windows()) > len(before))
+    screen.xdotool("key", "--delay", 2, "Home", "Down", "Return")
+    until("the end of the list", lambda: windows() == before)
+    screen.xdotool("key", "Tab")
+
+
 def fill(screen):
     for value in FIELDS.values():
         screen.xdotool("type", "--delay", 2, "--", value)
         screen.xdotool("key", "Return")
-    # F4 opens the list: the second division count, the second position. On the option buttons Enter accepts.
-    screen.xdotool("key", "--delay", 2, "F4", "Home", "Down", "Return", "Tab", "F4", "Home", "Down", "Return", "Tab", "Return")
+    second_of_list(screen)
+    second_of_list(screen)
+    screen.xdotool("key", "Return")  # on an option button: accepts
 
 
 def above_host(screen, program):

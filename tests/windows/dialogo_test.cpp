@@ -142,6 +142,14 @@ TEST_F(VentanaCR, AMisplacedMinusKeepsTheFocus) {
   QTest::keyClick(&Texto_("TxtAlfa"), Qt::Key_Tab);
   EXPECT_EQ(Foco(), "CmbDivi");
   EXPECT_EQ(Texto_("TxtAlfa").text(), "-3");
+
+  // Cancelling is always possible, also with the time of a hand between press and release.
+  Teclea("TxtAlfa", "3-");
+  auto& cancelar = Hijo<QPushButton>(*dialogo_, "CmdCancelar");
+  QTest::mousePress(&cancelar, Qt::LeftButton);
+  QTest::qWait(20);
+  QTest::mouseRelease(&cancelar, Qt::LeftButton);
+  EXPECT_FALSE(dialogo_->isVisible());
 }
 
 TEST_F(VentanaCR, OnlyItsListSetsACombo) {
