@@ -115,7 +115,7 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
     const std::string imagen = base + Sufijo(formato);
     if (!GuardaImagen(axew, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
   }
-  if (!opciones.solido) return std::nullopt;
+  if (!opciones.solido || opciones.imagenes.empty()) return std::nullopt;
   EWdraw solido;
   Dibuja3D(solido);
   solido.EwViewDirection(1, -1, 1);

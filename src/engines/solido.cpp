@@ -1,6 +1,18 @@
 #include "engines/solido.h"
 
+#include <cmath>
+
 namespace duktores {
+
+Punto3 EnCirculo(Punto3 centro, double R, double angulo) {
+  return centro + Punto3{R * std::cos(angulo), R * std::sin(angulo), 0};
+}
+
+Puntos3 Boca(int N, const std::function<Punto3(double)>& enAngulo) {
+  Puntos3 boca(N + 1);
+  for (int i = 1; i <= N + 1; ++i) boca(i) = enAngulo((i - 1) * 2 * dPi / N);
+  return boca;
+}
 
 std::array<Punto3, 4> EsquinasCentradas(double L1, double L2, double z) {
   const double x = L1 / 2, y = L2 / 2;

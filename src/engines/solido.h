@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 
 #include "geometry/puntos.h"
 #include "viewer/ewdraw.h"
@@ -10,6 +11,12 @@
 namespace duktores {
 
 inline constexpr std::int32_t kColorSolido = 120;
+
+/// The point of a level circle at an angle.
+Punto3 EnCirculo(Punto3 centro, double R, double angulo);
+
+/// Points 1..N+1 of a mouth, at the angles (i - 1) * 2*pi/N.
+Puntos3 Boca(int N, const std::function<Punto3(double)>& enAngulo);
 
 /// Corners of a rectangle centred on the Z axis: of the quarters (+,+), (-,+), (-,-), (+,-), as the circle passes them.
 std::array<Punto3, 4> EsquinasCentradas(double L1, double L2, double z);

@@ -60,12 +60,8 @@ void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std
   axew.EwRotate(circulo, centro, kEjeY, -Inclinacion);
   axew.EwSetColor(circulo, kColorSolido);
 
-  Puntos3 boca(inumPuntos + 1);
-  for (int i = 1; i <= inumPuntos + 1; ++i) {
-    const double a = (i - 1) * 2 * dPi / inumPuntos;
-    const Punto3 enPlano{centro.x + RadioAlto * std::cos(a), centro.y + RadioAlto * std::sin(a), Altura};
-    boca(i) = Rota(enPlano, centro, kEjeY, -Inclinacion);
-  }
+  const Puntos3 boca =
+      Boca(inumPuntos, [&](double a) { return Rota(EnCirculo(centro, RadioAlto, a), centro, kEjeY, -Inclinacion); });
   DibujaRectanguloYGeneratrices(axew, EsquinasCentradas(L1Base, L2Base, 0), boca);
 }
 
@@ -74,10 +70,8 @@ void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
   const PosicionInicio& inicio = Inicio(iInicio);
   const Punto3 centro{L1Base / 2 + Ax, L2Base / 2 + Ay, Altura};
   modelo_ = {};
-  PonBoca(modelo_, inumDoblado, inicio.a0, [&](double a) {
-    const Punto3 enPlano{centro.x + RadioTop * std::cos(a), centro.y + RadioTop * std::sin(a), Altura};
-    return Rota(enPlano, centro, kEjeY, Grados(Inclinacion));
-  });
+  PonBoca(modelo_, inumDoblado, inicio.a0,
+          [&](double a) { return Rota(EnCirculo(centro, RadioTop, a), centro, kEjeY, Grados(Inclinacion)); });
   ColocaSobreRectangulo(modelo_, inicio, L1Base, L2Base, Ax, Ay, kReglasCR);
 }
 

@@ -12,20 +12,17 @@ namespace duktores {
 
 namespace {
 
-// Of two results as far the choice falls on B; rounding must not make a difference of such a tie.
-constexpr double kEmpate = 1e-9;
-
-Punto2 MasLejos(const ParPuntos& AB, Punto2 de) {
-  return Distancia(AB.A, de) > Distancia(AB.B, de) + kEmpate ? AB.A : AB.B;
-}
-
-// While the first fan is laid C(3) is still the origin.
+// Of two results as far away the choice falls on B, and rounding must not make a difference of such a tie. While the
+// first fan is laid C(3) is still the origin.
 Punto2 CirculoDerecha(const ParPuntos& AB, const Transicion& t, int m, int) {
-  return MasLejos(AB, t.dVerticesPlano(m - 1));
+  constexpr double kEmpate = 1e-9;
+  const Punto2 esquina = t.dVerticesPlano(m - 1);
+  return Distancia(AB.A, esquina) > Distancia(AB.B, esquina) + kEmpate ? AB.A : AB.B;
 }
 
 Punto2 EsquinaDerecha(const ParPuntos& AB, const Transicion& t, int, int k) {
-  return MasLejos(AB, t.dPuntosPlano(k - 1));
+  const Punto2 anterior = t.dPuntosPlano(k - 1);
+  return Distancia(AB.A, anterior) > Distancia(AB.B, anterior) ? AB.A : AB.B;
 }
 
 // The point of an ellipse with the full axes a along X and b along Y that is seen from its centre at the angle `polar`.
@@ -49,11 +46,9 @@ void clTransBaRectBoElip::GeneraDibujo(double L1Base, double L2Base, double Radi
   const auto elipse = axew.EwAddEllipse(centro, RadioAlto / 2, RadioBajo / 2, {0, 0, 1});
   axew.EwRotate(elipse, centro, kEjeY, -Inclinacion);
   axew.EwSetColor(elipse, kColorSolido);
-  Puntos3 boca(inumPuntos + 1);
-  for (int i = 1; i <= inumPuntos + 1; ++i) {
-    const Punto3 enPlano = EnElipse(centro, RadioAlto, RadioBajo, (i - 1) * 2 * dPi / inumPuntos);
-    boca(i) = Rota(enPlano, centro, kEjeY, -Inclinacion);
-  }
+  const Puntos3 boca = Boca(inumPuntos, [&](double a) {
+    return Rota(EnElipse(centro, RadioAlto, RadioBajo, a), centro, kEjeY, -Inclinacion);
+  });
   DibujaRectanguloYGeneratrices(axew, EsquinasCentradas(L1Base, L2Base, 0), boca);
 }
 

@@ -54,11 +54,8 @@ void clTransRC::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std
   axew.EwSetColor(axew.EwAddCircle({Ax, Ay, 0}, RadioAlto, {0, 0, 1}), kColorSolido);
   auto esquinas = EsquinasCentradas(L1Base, L2Base, Altura);
   for (Punto3& esquina : esquinas) esquina = Rota(esquina, {0, 0, Altura}, kEjeY, -Inclinacion);
-  Puntos3 circulo(inumPuntos + 1);
-  for (int i = 1; i <= inumPuntos + 1; ++i) {
-    const double a = (i - 1) * 2 * dPi / inumPuntos;
-    circulo(i) = {Ax + RadioAlto * std::cos(a), Ay + RadioAlto * std::sin(a), 0};
-  }
+  const Punto3 centro{Ax, Ay, 0};
+  const Puntos3 circulo = Boca(inumPuntos, [&](double a) { return EnCirculo(centro, RadioAlto, a); });
   DibujaRectanguloYGeneratrices(axew, esquinas, circulo);
 }
 
@@ -67,10 +64,11 @@ void clTransRC::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
   const PosicionInicio& inicio = Inicio(iInicio);
   Transicion& t = modelo_ = {};
   PonBoca(t, inumDoblado, inicio.a0, [&](double a) {
-    return Punto3{L1Base / 2 + Ax + RadioTop * std::cos(a), L2Base / 2 + Ay + RadioTop * std::sin(a), Altura};
+    return EnCirculo({L1Base / 2 + Ax, L2Base / 2 + Ay, Altura}, RadioTop, a);
   });
   PonEsquinas(t, inicio, L1Base, L2Base);
-  // A start side along X is level only without a tilt; its foot then forgets the offset, but only for a positive one.
+  // A start side along X that is tilted positively takes its middle as the foot, in every other case the foot keeps the
+  // offset.
   const Punto3 P1 = t.dVertices3D(1);
   const double pieX = L1Base / 2 + (Inclinacion > 0 ? 0 : Ax);
   t.dPtoInicio = inicio.ladoY ? Punto3{P1.x, L2Base / 2 + Ay, 0} : Punto3{pieX, P1.y, 0};
