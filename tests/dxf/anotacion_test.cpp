@@ -35,7 +35,7 @@ TEST_F(Anotacion, TextsForTheFile) {
   // clang-format off
   const std::tuple<double, std::string, std::string> casos[] = {
       {0, "A^2", "A^ 2"}, {0, "\u00D8 90\u00BA", "\u00D8 90\u00BA"}, {kChino, "\u4E2D^", "\\U+4E2D^ "},
-      {kChino, "12.5", "12.5"}, {kChino, "-1,5E+15", "-1,5E+15"}, {kChino, "1+1", "1\\U+2B1"},
+      {kChino, "+12.5", "+12.5"}, {kChino, "-1,5E+15", "-1,5E+15"}, {kChino, "1+1", "1\\U+2B1"},
       {kChino, "\u00D8\uFF08\U0001F600", "\\U+D8\\U+FF08\\U+D83D\\U+DE00"},
       {kChino, "Az09\u00BA /-)(%,.:", "Az09\u00BA /-)(%,.:"}, {kChino, std::string("a\0\1b", 4), "ab"}};
   // clang-format on
@@ -121,7 +121,7 @@ TEST_F(Anotacion, ImpossibleMeasureDrawsNothing) {
   EXPECT_THROW(DibujaPolilinea(axew_, {{0, 0}, {1, HUGE_VAL}}), ErrorCorrida);
   EXPECT_THROW(DibujaCota(axew_, 0, 0, 1, 1, NAN, 0, 1, 1, "M"), ErrorCorrida);
   EXPECT_THROW(DibujaCota(axew_, -1e308, 0, 1e308, 1, 0, 5, 1, 1, "M"), ErrorCorrida);
-  EXPECT_THROW(DibujaCota(axew_, -1e308, 0, 1e308, 1, 0, 5, 1, 1, "S"), ErrorCorrida);
+  EXPECT_THROW(DibujaCota(axew_, 0, 0, 1, 1, 0, 5, NAN, 1, "S"), ErrorCorrida);
   DibujaPolilinea(axew_, {});
   EXPECT_TRUE(axew_.EwEntityCount() == 0 && estado.oDrawing->Count() == 0);
   estado.oDrawing.reset();  // then only the control is drawn on

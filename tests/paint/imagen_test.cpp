@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
-#include <cmath>
 #include <csignal>
 #include <thread>
 #include <vector>
@@ -48,14 +47,12 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   EWdraw axew;
   Llena(axew, 1000, 800);
   axew.EwAddText("tiny", "", {5, 5, 0}, 0.01, 0);
-  axew.EwAddLine({NAN, 0, 0}, {1, 1, 0});
+  axew.EwAddLine({qQNaN(), 0, 0}, {1, 1, 0});
   ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a"), Formato::svg));
   const QByteArray svg = Lee(carpeta.filePath("a"));
   QXmlStreamReader xml(svg);
   QString textos;
-  while (!xml.atEnd()) {
-    if (xml.readNext() == QXmlStreamReader::Characters) textos += xml.text();
-  }
+  while (!xml.atEnd()) textos += xml.readNext() == QXmlStreamReader::Characters ? xml.text().toString() : QString();
   EXPECT_FALSE(xml.hasError() || svg.contains("nan")) << xml.errorString().toStdString();
   for (const char* texto : {"12,5 < 13 &", "\u5468\u957F", "tiny"}) EXPECT_TRUE(textos.contains(texto)) << texto;
 
@@ -89,20 +86,19 @@ TEST(GuardaImagen, WhatCannotBeWrittenLeavesWhatWasThere) {
 
 TEST(GuardaImagen, SeveralThreadsAtOnce) {
   const QTemporaryDir carpeta;
+  const auto ruta = [&](int hilo) { return carpeta.filePath(QString::number(hilo)); };
   const auto guarda = [&](int hilo) {
     EWdraw axew;
     Llena(axew, 300, 200);
     for (const Formato formato : {Formato::pdf, Formato::svg, Formato::png}) {
-      EXPECT_TRUE(GuardaImagen(axew, carpeta.filePath(QString::number(hilo)), formato));
+      EXPECT_TRUE(GuardaImagen(axew, ruta(hilo), formato));
     }
   };
   guarda(0);
   std::vector<std::thread> hilos;
   for (int hilo = 1; hilo <= 4; ++hilo) hilos.emplace_back(guarda, hilo);
   for (std::thread& hilo : hilos) hilo.join();
-  for (int hilo = 1; hilo <= 4; ++hilo) {
-    EXPECT_EQ(Lee(carpeta.filePath(QString::number(hilo))), Lee(carpeta.filePath("0")));
-  }
+  for (int hilo = 1; hilo <= 4; ++hilo) EXPECT_EQ(Lee(ruta(hilo)), Lee(ruta(0)));
 }
 
 }  // namespace

@@ -93,17 +93,14 @@ TEST(Pinta, CurvesAndOutlines) {
 }
 
 TEST(Pinta, TextsStandOnTheirBaselineWithTheHeightOfCapitals) {
-  for (const Fondo fondo : {Fondo::oscuro, Fondo::claro}) {
-    EWdraw axew;
-    const auto texto = axew.EwAddText("H", "Arial Unicode MS", {10, -20, 0}, 50, 0);
-    const QRect caja = Manchado(Imagen(axew, {{0, 0}, 2}, fondo));
-    EXPECT_NEAR(caja.left(), 225, 8) << "the letter's own bearing";
-    EsperaCaja(caja, caja.left(), 91, caja.right(), 190, 2);
-    // Its foot is now to the right, it reads upwards.
-    axew.EwRotate(texto, {10, -20, 0}, {0, 0, 1}, 90);
-    const int borde = caja.left() - 220;
-    EsperaCaja(Manchado(Imagen(axew, {{0, 0}, 2}, fondo)), 121, 190 - borde - caja.width(), 220, 190 - borde, 3);
-  }
+  EWdraw axew;
+  const auto texto = axew.EwAddText("H", "Arial Unicode MS", {10, -20, 0}, 50, 0);
+  const QRect caja = Manchado(Imagen(axew, {{0, 0}, 2}, Fondo::claro));
+  const int hueco = caja.left() - 220;  // the letter's own bearing
+  EXPECT_NEAR(hueco, 5, 8);
+  EsperaCaja(caja, caja.left(), 91, caja.right(), 190, 2);
+  axew.EwRotate(texto, {10, -20, 0}, {0, 0, 1}, 90);  // its foot is to the right, it reads upwards
+  EsperaCaja(Manchado(Imagen(axew, {{0, 0}, 2})), 121, 190 - hueco - caja.width(), 220, 190 - hueco, 2);
 }
 
 TEST(Pinta, ChineseCharactersAreNotMissing) {
@@ -122,7 +119,7 @@ TEST(Pinta, EveryColourReadsOnPaper) {
     const QImage imagen = Imagen(axew, {{0, 0}, 2}, Fondo::claro);
     const QColor tinta = imagen.pixelColor(200, 150);
     EXPECT_LT(0.21 * lineal(tinta.red()) + 0.72 * lineal(tinta.green()) + 0.07 * lineal(tinta.blue()), 0.2) << color;
-    EXPECT_EQ(imagen.pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_TRUE(imagen.pixel(0, 0) == qRgb(255, 255, 255) && (color != 7 || tinta.lightness() < 40)) << color;
   }
 }
 

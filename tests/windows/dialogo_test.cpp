@@ -94,6 +94,8 @@ TEST_F(VentanaCR, FocusAndClickMarkAll) {
   EXPECT_EQ(h.selectedText(), "12.34");
   QTest::keyClicks(&h, "7");
   EXPECT_EQ(h.text(), "7");
+  Teclea("TxtH", "75");
+  EXPECT_EQ(h.text(), "75");
 }
 
 TEST_F(VentanaCR, WhatIsNotTypedPassesTheFilterToo) {
