@@ -49,6 +49,27 @@ BENCHMARK_CAPTURE(Desarrollo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark:
 BENCHMARK_CAPTURE(Desarrollo, RC, "TransRC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Desarrollo, Elip, "")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 
+// A special piece, each of whose eight shapes is placed by a pick.
+void Especial(benchmark::State& s) {
+  struct Mesa : VistaEWdraw {
+    std::optional<Punto3> EligePunto(EWdraw&) override { return Punto3{}; }
+  } mesa;
+  EWdraw axew;
+  axew.PonVista(&mesa);
+  for (auto _ : s) {
+    s.PauseTiming();
+    PonPieza("TransEsp1", static_cast<std::int16_t>(s.range(0)));
+    estado.dR11 = estado.dR12 = estado.dR13 = estado.dR14 = 40;
+    estado.dR21 = estado.dR22 = estado.dR23 = estado.dR24 = 90;
+    estado.dLX1 = estado.dLY1 = 200;
+    estado.dLX2 = estado.dLY2 = 400;
+    s.ResumeTiming();
+    Desplegado(axew);
+    benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
+  }
+}
+BENCHMARK(Especial)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+
 // One frame of the viewer while the solid turns.
 void PintaSolido(benchmark::State& s) {
   PonPieza("TransCR", 120);

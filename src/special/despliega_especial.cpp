@@ -108,12 +108,15 @@ PiezaEspecial Ajusta() {
   return pieza;
 }
 
-// Ends of side c on both mouths: from the end of corner c to the start of the next.
+// Ends of side c on both mouths: from the end of corner c to the start of the next. The ends of one edge lie exactly on
+// its line, so that they are equal as soon as their places along it are.
 Lado LadoCortado(const PiezaEspecial& pieza, const PlanoCorte& plano, int c) {
   const auto extremo = [&](int esquina, double angulo) {
-    const EsquinaEspecial e = Esquina(pieza, esquina);
-    const Punto3 hacia{std::nearbyint(std::cos(angulo)), std::nearbyint(std::sin(angulo)), 0};
-    const Punto3 Q = e.bajo + pieza.r2(esquina) * hacia, T = e.alto + pieza.r1(esquina) * hacia;
+    const auto [a0, Q0, T0] = Esquina(pieza, esquina);
+    const double hx = std::nearbyint(std::cos(angulo)), hy = std::nearbyint(std::sin(angulo));
+    const Punto3 Q{hx == 0 ? Q0.x : hx * pieza.LX2 / 2, hy == 0 ? Q0.y : hy * pieza.LY2 / 2, Q0.z};
+    const Punto3 T{hx == 0 ? T0.x : pieza.AX + hx * pieza.LX1 / 2, hy == 0 ? T0.y : pieza.AY + hy * pieza.LY1 / 2,
+                   T0.z};
     return std::pair(Q, PuntoDeCorte(plano, Q, T));
   };
   // Both ends stand square on the side: a corner ends, and the next begins, at the angle of the side's outward normal.
@@ -133,7 +136,7 @@ bool HayPanel(const Lado& lado, int c) {
   if (Es("TransEsp3") && c != 3) {
     return difieren(estado.dRadioEsp, estado.dLX1 / 2) && difieren(estado.dRadioEsp2, estado.dLX2 / 2);
   }
-  return !Iguales(lado[2], lado[3]);
+  return lado[2] != lado[3];
 }
 
 double LejosDeCero(double v) { return std::abs(v) < kDesvioMinimo ? kDesvioMinimo : v; }

@@ -18,8 +18,10 @@ struct Borde {
   const Elemento& Ultimo() const { return elementos.back(); }
 };
 
-void DibujaLinea3D(EWdraw& axew, Punto3 p, Punto3 q) {
-  if (p != q) axew.EwSetColor(axew.EwAddLine(p, q), kColorSolido);
+// A side that the arcs take whole has no length but that of its rounding.
+void DibujaLado(EWdraw& axew, Punto3 p, Punto3 q) {
+  constexpr double kIgual = 1e-9;
+  if (Distancia(p, q) > kIgual) axew.EwSetColor(axew.EwAddLine(p, q), kColorSolido);
 }
 
 void DibujaRim(EWdraw& axew, const Borde& borde, Punto3 Elemento::*punto) {
@@ -55,7 +57,7 @@ void GeneraDibujo3D(const PiezaEspecial& pieza, int divisiones, EWdraw& axew) {
     for (const int c : {2, 3, 4, 1}) {
       const Borde& de = bordes[static_cast<std::size_t>(c - 1)];
       const Borde& a = bordes[static_cast<std::size_t>(Siguiente(c) - 1)];
-      DibujaLinea3D(axew, de.Ultimo().*punto, a.Primero().*punto);
+      DibujaLado(axew, de.Ultimo().*punto, a.Primero().*punto);
     }
   }
   CursorEspera(false);

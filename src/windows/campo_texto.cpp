@@ -24,11 +24,11 @@ Campo TextoFiltrado::ComoCampo() const {
 void TextoFiltrado::Inserta(const QString& texto) {
   constexpr qsizetype kMaximo = 400;  // no number needs more, and each character looks at all those before it
   Campo campo = ComoCampo();
-  const std::string antes = campo.texto;
+  bool pasa = false;
   for (const char32_t tecla : texto.left(kMaximo).toStdU32String()) {
-    if (tecla >= U' ') Teclea(tecla, campo, filtro_);
+    if (tecla >= U' ' && Teclea(tecla, campo, filtro_)) pasa = true;
   }
-  if (campo.texto == antes) return;
+  if (!pasa) return;
   selectAll();
   insert(QString::fromStdString(campo.texto));  // one step for an undo
   setCursorPosition(static_cast<int>(campo.inicioSeleccion));
