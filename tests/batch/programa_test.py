@@ -51,13 +51,16 @@ class Batch(unittest.TestCase):
             auditor = document.audit()
             self.assertEqual((auditor.errors, auditor.fixes), ([], []), job["name"])
             counts = collections.Counter(e.dxftype() for e in document.modelspace())
-            self.assertEqual(counts["LWPOLYLINE"], job["Pieces"], job["name"])
-            vertices = job["Divisions"] + 10 if job["Pieces"] == 1 else job["Divisions"] // 2 + 7
             for outline in document.modelspace().query("LWPOLYLINE"):
-                self.assertEqual(len(outline), vertices, job["name"])
                 self.assertEqual(outline[0], outline[-1], job["name"])
-            marks = 2 * job["Divisions"] + 17 if job["Pieces"] == 1 else 2 * (job["Divisions"] + 9)
-            self.assertEqual((counts["TEXT"], counts["LINE"]), (marks, job["Divisions"] + 5 + 2 // job["Pieces"]))
+            if "Pieces" not in job:  # a special piece: four corners, and a panel with four numbers and four dimensions a side
+                panels = counts["LWPOLYLINE"] - 4
+                self.assertEqual((0 <= panels <= 4, counts["TEXT"]), (True, 8 * panels), job["name"])
+                continue
+            whole, N = job["Pieces"] == 1, job["Divisions"]
+            self.assertEqual([len(outline) for outline in document.modelspace().query("LWPOLYLINE")],
+                             [N + 10] if whole else 2 * [N // 2 + 7], job["name"])
+            self.assertEqual((counts["TEXT"], counts["LINE"]), (2 * N + 17, N + 7) if whole else (2 * N + 18, N + 6))
         hood = ezdxf.readfile(self.folder / "out/hood-400.dxf").modelspace()
         boxes = [[v[0] for v in p] for p in hood.query("LWPOLYLINE")]
         self.assertLess(max(boxes[0]), min(boxes[1]), "two pieces placed by the program lie apart")
