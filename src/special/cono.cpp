@@ -100,7 +100,7 @@ int clCono::CalcPtoInicPtoFin(double s) const {
   double andado = 0;
   for (int i = 1; i < dDesBase_.Cuenta(); ++i) {
     andado += Distancia(dDesBase_(i), dDesBase_(i + 1));
-    if (andado > s) return i - 1;
+    if (andado > std::abs(s)) return s < 0 ? 1 - i : i - 1;
   }
   return 0;
 }

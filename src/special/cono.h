@@ -37,6 +37,7 @@ class clCono {
 
  private:
   bool DesarrollaBase(double Rb, double Xa, double a0, int n);
+  /// Whole chords of the base rim from element 1 that an arc holds; of a negative arc, negative.
   int CalcPtoInicPtoFin(double s) const;
   std::optional<std::array<int, 2>> EligeTramo(double arco, double Ax, double Ay, int iiTem, bool bCambio) const;
   void CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, bool alDerecho);

@@ -139,7 +139,8 @@ bool HayPanel(const Lado& lado, int c) {
   return lado[2] != lado[3];
 }
 
-double LejosDeCero(double v) { return std::abs(v) < kDesvioMinimo ? kDesvioMinimo : v; }
+// Radii moved apart by 0.2 give offsets of 0.2 but for the last digits, which must not choose another quarter.
+double LejosDeCero(double v) { return std::abs(v) < kDesvioMinimo - kIgual ? kDesvioMinimo : v; }
 
 // What a cone or a panel can't do ends that shape alone.
 template <class Trabajo>

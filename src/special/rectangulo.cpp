@@ -50,7 +50,8 @@ void clRectangulo::GeneraCota(EWdraw& axew) const {
   const auto& [A, B, C, D] = dPuntosPieza_;
   const double dx = estado.dPasoTablaX, dy = estado.dPasoTablaY;
   const auto cota = [&](Punto2 p, Punto2 q, Punto2 paso) {
-    DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
+    if (Distancia(p, q) > kNivel)
+      DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
   };
   const auto extension = [&](Punto2 pie, Punto2 punto) {
     if (Distancia(pie, punto) > kNivel) DibujaLinea(axew, pie, punto, kColorCota);
