@@ -1,0 +1,65 @@
+#include <QLabel>
+#include <QLineEdit>
+
+#include "dialogs/especiales.h"
+#include "dxf/dibujo.h"
+#include "state/textos.h"
+#include "windows/fr_dialogo.h"
+#include "windows/usuario.h"
+
+namespace duktores {
+namespace {
+
+class VentanasEspeciales : public ConVentanas {
+ protected:
+  // Types the values field by field, accepts, unfolds, places each shape by a click, and goes all the way back.
+  void Recorre(const DefDialogo& def, const std::vector<const char*>& valores, const std::vector<std::string>& formas) {
+    estado.iDivisiones = 16;
+    const std::string nombre(def.nombre);
+    FrDialogo dialogo(def, "", nullptr);
+    usuario_.Cuando(nombre, [&](QWidget& ventana) {
+      EXPECT_EQ(Hijo<QLineEdit>(ventana, "TxtDivisiones").text(), "16");
+      for (const char* valor : valores) {
+        QTest::keyClicks(ventana.focusWidget(), valor);
+        QTest::keyClick(ventana.focusWidget(), Qt::Key_Return);
+      }
+      Pulsa(ventana, "CmdAceptar");
+      EXPECT_EQ(Hijo<QLabel>(ventana, "lblerror").text(), "");
+    });
+    usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdDesplegado"); });
+    for (const std::string& forma : formas) {
+      usuario_.CierraMensaje(Texto(63));
+      usuario_.Cuando("pick", [forma](QWidget& visor) {
+        const auto estadoVisor = Hijo<QLabel>(visor, "LblEstado").text().toStdString();
+        EXPECT_TRUE(estadoVisor.starts_with(forma + ": ")) << estadoVisor;
+        QTest::mouseClick(visor.findChild<Lienzo*>(), Qt::LeftButton, {}, {300, 200});
+      });
+    }
+    usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
+      EXPECT_TRUE(Hijo(visor, "CmdSave").isEnabled());
+      Pulsa(visor, "CmdCancelar");
+    });
+    usuario_.Cuando(nombre, [](QWidget& ventana) { Pulsa(ventana, "CmdCancelar"); });
+    dialogo.exec();
+    const std::string dxf = estado.oDrawing->GetEntities();
+    std::size_t contornos = 0;
+    for (std::size_t i = dxf.find("LWPOLYLINE"); i != std::string::npos; i = dxf.find("LWPOLYLINE", i + 1)) ++contornos;
+    EXPECT_EQ(contornos, formas.size());
+  }
+};
+
+TEST_F(VentanasEspeciales, EightClicksPlaceThePieceOfRoundedCorners) {
+  Recorre(
+      kFrTransfEsp1,
+      {"300", "40", "50", "60", "45", "80", "90", "100", "85", "300", "250", "500", "400", "30", "20", "10", "5", "8"},
+      {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Lado 3", "Esquina 4", "Lado 4"});
+  EXPECT_EQ(estado.dAlfa, -10);
+}
+
+TEST_F(VentanasEspeciales, TheHalfCircleHasNoSide) {
+  Recorre(kFrTransfEsp3, {"320", "90", "480", "300", "20", "10", "0", "0", "8"},
+          {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Esquina 4", "Lado 4"});
+}
+
+}  // namespace
+}  // namespace duktores
