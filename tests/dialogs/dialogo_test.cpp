@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "dialogs/eliptico.h"
 #include "dialogs/rectangulares.h"
 #include "state/estado.h"
@@ -9,12 +11,6 @@
 
 namespace duktores {
 namespace {
-
-std::string Escribe(std::string_view teclas, Filtro filtro) {
-  Campo campo;
-  for (const char c : teclas) Teclea(static_cast<char32_t>(c), campo, filtro);
-  return campo.texto;
-}
 
 TEST(Campo, KeepsOnlyWellFormedNumbers) {
   const struct {
@@ -29,7 +25,12 @@ TEST(Campo, KeepsOnlyWellFormedNumbers) {
   };
   for (const auto& caso : casos) {
     estado.iUnidad = caso.unidad;
-    EXPECT_EQ(Escribe(caso.teclas, caso.filtro), caso.texto) << caso.teclas;
+    Campo campo;
+    for (const char c : caso.teclas) Teclea(static_cast<char32_t>(c), campo, caso.filtro);
+    EXPECT_EQ(campo.texto, caso.texto) << caso.teclas;
+  }
+  for (const auto& [texto, bien] : {std::pair{"-3", true}, {"3", true}, {"3-", false}, {"--3", false}}) {
+    EXPECT_EQ(SignoEnSuSitio({texto}), bien) << texto;
   }
 }
 
@@ -45,25 +46,16 @@ TEST(Campo, ASelectedTextIsReplaced) {
   EXPECT_TRUE(Teclea(U'.', campo, FiltraNumero));
 }
 
-TEST(Campo, AMisplacedMinusKeepsTheFocus) {
-  EXPECT_TRUE(SignoEnSuSitio({"-3"}));
-  EXPECT_TRUE(SignoEnSuSitio({"3"}));
-  EXPECT_FALSE(SignoEnSuSitio({"3-"}));
-  EXPECT_FALSE(SignoEnSuSitio({"--3"}));
-}
-
-class FrTransfCR : public testing::Test {
+// A dialog that is good in all its fields.
+class Lleno : public testing::Test {
  protected:
-  enum { H, RS, LI, AI, AX, AY, Alfa, Divi, PosIni };
-
-  void SetUp() override {
-    estado = {};
+  Lleno(const DefDialogo& def, const char* textos) : dialogo((estado = {}, def)) {
     estado.iUnidad = 1;
     estado.iFibra = 2;
-    Llena({"300", "100", "400", "300", "0", "0", "0", "12", "1"});
-  }
-  void Llena(const std::vector<std::string>& textos) {
-    for (std::size_t i = 0; i < textos.size(); ++i) dialogo.CampoDe(static_cast<int>(i)).texto = textos[i];
+    estado.dEspesor = 2;
+    std::istringstream palabras(textos);
+    std::string texto;
+    for (int i = 0; palabras >> texto; ++i) dialogo.CampoDe(i).texto = texto;
   }
   void ExpectError(int campo, const std::string& texto, int foco) {
     const std::string antes = std::exchange(dialogo.CampoDe(campo).texto, texto);
@@ -72,25 +64,19 @@ class FrTransfCR : public testing::Test {
     EXPECT_EQ(dialogo.lblerror(), Texto(20));
     dialogo.CampoDe(campo).texto = antes;
   }
-  Dialogo dialogo{kFrTransfCR};
+  Dialogo dialogo;
 };
 
-TEST_F(FrTransfCR, ChecksInTheirOrder) {
-  ExpectError(H, "0", H);
-  ExpectError(RS, "0.00", RS);
-  ExpectError(LI, "0", LI);
-  ExpectError(AI, "0", AI);
+struct FrTransfCR : Lleno {
+  FrTransfCR() : Lleno(kFrTransfCR, "300 100 400 300 0 0 0 12 1") {}
+  enum { H, RS, LI, AI, AX, AY, Alfa, Divi, PosIni };
+};
+
+TEST_F(FrTransfCR, ChecksInTheirOrderUpToTheirBoundaries) {
+  for (const int campo : {H, RS, LI, AI}) ExpectError(campo, campo == RS ? "0.00" : "0", campo);
   ExpectError(RS, "200.01", RS);
   ExpectError(Alfa, "90.01", Alfa);
   ExpectError(Alfa, "-90.01", Alfa);
-  // A field without a number comes before all checks.
-  dialogo.CampoDe(H).texto = "0";
-  ExpectError(Alfa, "3-", Alfa);
-  ExpectError(AX, ".", AX);
-  ExpectError(AI, "0", H);
-}
-
-TEST_F(FrTransfCR, BoundariesPass) {
   dialogo.CampoDe(RS).texto = "200";
   for (const char* alfa : {"90", "-90"}) {
     dialogo.CampoDe(Alfa).texto = alfa;
@@ -98,6 +84,11 @@ TEST_F(FrTransfCR, BoundariesPass) {
     EXPECT_EQ(dialogo.lblerror(), "");
   }
   EXPECT_EQ(estado.dAlfa, -90);
+  // A field without a number comes before all checks.
+  dialogo.CampoDe(H).texto = "0";
+  ExpectError(Alfa, "3-", Alfa);
+  ExpectError(AX, ".", AX);
+  ExpectError(AI, "0", H);
 }
 
 TEST_F(FrTransfCR, AnEmptyFieldIsAMessage) {
@@ -120,74 +111,11 @@ TEST_F(FrTransfCR, FibreCorrection) {
     std::int16_t fibra;
     double L1, L2, R;
   } casos[]{{1, 400, 300, 101}, {2, 398, 298, 100}, {3, 396, 296, 99}, {4, 396, 296, 99}};
-  estado.dEspesor = 2;
   for (const auto& caso : casos) {
     estado.iFibra = caso.fibra;
     EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado);
-    EXPECT_EQ(estado.dL1Base, caso.L1);
-    EXPECT_EQ(estado.dL2Base, caso.L2);
-    EXPECT_EQ(estado.dRadioAlto, caso.R);
+    EXPECT_EQ((std::array{estado.dL1Base, estado.dL2Base, estado.dRadioAlto}), (std::array{caso.L1, caso.L2, caso.R}));
   }
-}
-
-TEST(FrTransfRC, ItsCircleReachesRoundTheRectangle) {
-  estado = {};
-  estado.iUnidad = 1;
-  estado.iFibra = 3;
-  estado.dEspesor = 2;
-  Dialogo dialogo(kFrTransfRC);
-  const char* textos[]{"300", "150", "400", "300", "0", "0", "-5", "12", "1"};
-  for (int i = 0; i < 9; ++i) dialogo.CampoDe(i).texto = textos[i];
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "twice the radius equals the smaller side";
-  EXPECT_EQ(estado.sTipoPieza, "TransRC");
-  EXPECT_EQ(estado.dL1BaseRC, 396);
-  EXPECT_EQ(estado.dL2BaseRC, 296);
-  EXPECT_EQ(estado.dRadioRC, 149);
-  EXPECT_EQ(estado.dRadioAlto, 0) << "its twin's values stay";
-  dialogo.CampoDe(1).texto = "149.99";
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
-  EXPECT_EQ(dialogo.Foco(), 1);
-}
-
-class FrTransBaRectBoElip : public testing::Test {
- protected:
-  enum { H, EjeMayor, EjeMenor, L1, L2, AX, AY, Alfa, Divi, PosIni };
-  void SetUp() override {
-    estado = {};
-    estado.iUnidad = 1;
-    estado.iFibra = 1;
-    estado.dEspesor = 1;
-    estado.sTipoPieza = "row";
-    const char* textos[]{"300", "200", "200", "400", "350", "0", "7", "90", "12", "2"};
-    for (int i = 0; i < 10; ++i) dialogo.CampoDe(i).texto = textos[i];
-  }
-  Dialogo dialogo{kFrTransBaRectBoElip};
-};
-
-TEST_F(FrTransBaRectBoElip, KeepsTheRowAsTypeAndStoresItsOwnValues) {
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "equal axes and a tilt of 90 pass";
-  EXPECT_EQ(estado.sTipoPieza, "row");
-  EXPECT_EQ(estado.dEjeMayorElip, 200.5);
-  EXPECT_EQ(estado.dL1Elip, 400);
-  EXPECT_EQ(estado.dAyElip, 7);
-  EXPECT_EQ(estado.dAy, 0);
-  EXPECT_EQ(estado.iPosIniElip, 2);
-  EXPECT_EQ(dialogo.TextoRotulo(EjeMayor), "eMaS  (mm):");
-  EXPECT_EQ(dialogo.TextoRotulo(PosIni), Texto(58));
-}
-
-TEST_F(FrTransBaRectBoElip, ChecksAxesBeforeTheTilt) {
-  dialogo.CampoDe(EjeMenor).texto = "200.01";
-  dialogo.CampoDe(Alfa).texto = "90.01";
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
-  EXPECT_EQ(dialogo.Foco(), EjeMayor);
-  dialogo.CampoDe(EjeMenor).texto = "1";
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo);
-  EXPECT_EQ(dialogo.Foco(), Alfa);
-  EXPECT_FALSE(Teclea(U'-', dialogo.CampoDe(Alfa), dialogo.Definicion().campos[Alfa].filtro));
-  dialogo.dosPiezas = false;
-  dialogo.Activa();
-  EXPECT_TRUE(dialogo.dosPiezas) << "one piece is chosen anew each time";
 }
 
 TEST_F(FrTransfCR, LabelsByUnitAndLanguage) {
@@ -197,11 +125,50 @@ TEST_F(FrTransfCR, LabelsByUnitAndLanguage) {
   estado.iUnidad = 3;
   estado.dIdioma = 10000;
   EXPECT_EQ(dialogo.TextoRotulo(RS), "RS (inches):");
-  EXPECT_EQ(dialogo.TextoRotulo(PosIni), "Start Position (1-4):");
   EXPECT_EQ(dialogo.Titulo(), "Rect. Circ. Transf.");
   estado.dIdioma = kChino;
   EXPECT_EQ(dialogo.TextoRotulo(Alfa), Texto(67));
   EXPECT_FALSE(dialogo.Titulo());
+}
+
+struct FrTransfRC : Lleno {
+  FrTransfRC() : Lleno(kFrTransfRC, "300 150 400 300 0 0 -5 12 1") {}
+};
+
+TEST_F(FrTransfRC, ItsCircleReachesRoundTheRectangle) {
+  estado.iFibra = 3;
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "twice the radius equals the smaller side";
+  EXPECT_EQ(estado.sTipoPieza, "TransRC");
+  EXPECT_EQ((std::array{estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC}), (std::array{396., 296., 149.}));
+  EXPECT_EQ(estado.dRadioAlto, 0) << "its twin's values stay";
+  ExpectError(1, "149.99", 1);
+}
+
+struct FrTransBaRectBoElip : Lleno {
+  FrTransBaRectBoElip() : Lleno(kFrTransBaRectBoElip, "300 200 200 400 350 0 7 90 12 2") {}
+  enum { H, EjeMayor, EjeMenor, L1, L2, AX, AY, Alfa, Divi, PosIni };
+};
+
+TEST_F(FrTransBaRectBoElip, KeepsTheRowAsTypeAndStoresItsOwnValues) {
+  estado.sTipoPieza = "row";
+  estado.iFibra = 1;
+  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "equal axes and a tilt of 90 pass";
+  EXPECT_EQ(estado.sTipoPieza, "row");
+  EXPECT_EQ((std::array{estado.dEjeMayorElip, estado.dL1Elip, estado.dAyElip}), (std::array{201., 400., 7.}));
+  EXPECT_EQ(estado.dAy, 0);
+  EXPECT_EQ(estado.iPosIniElip, 2);
+  EXPECT_EQ(dialogo.TextoRotulo(EjeMayor), "eMaS  (mm):");
+  EXPECT_EQ(dialogo.TextoRotulo(PosIni), Texto(58));
+}
+
+TEST_F(FrTransBaRectBoElip, ChecksAxesBeforeTheTilt) {
+  dialogo.CampoDe(Alfa).texto = "90.01";
+  ExpectError(EjeMenor, "200.01", EjeMayor);
+  ExpectError(EjeMenor, "1", Alfa);
+  EXPECT_FALSE(Teclea(U'-', dialogo.CampoDe(Alfa), dialogo.Definicion().campos[Alfa].filtro));
+  dialogo.dosPiezas = false;
+  dialogo.Activa();
+  EXPECT_TRUE(dialogo.dosPiezas) << "one piece is chosen anew each time";
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #pragma once
 // A special piece worked out anew for the tests, and its unfolding as a user sees it.
 
+#include <algorithm>
 #include <array>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -16,56 +18,61 @@
 
 namespace duktores {
 
-/// Places the shapes in a row and notes what it was asked for; refuses the pick after `limite` ones.
-struct Mesa : VistaEWdraw {
-  std::optional<Punto3> EligePunto(EWdraw& axew) override {
+inline constexpr int kEsquina = 103, kLado = 104;
+
+/// A piece typed into the dialog of its type, the texts of the fields apart by spaces. Places the shapes in a row and
+/// notes what it was asked for; refuses the pick after `limite` ones.
+struct Corrida : VistaEWdraw {
+  Corrida(const char* tipo, const std::string& textos) {
+    estado = {};
+    estado.iUnidad = 1;
+    estado.iFibra = 2;
+    estado.MultinumDoblado = 36;
+    estado.oDrawing = std::make_shared<cDrawing>();
+    estado.iHandleDxf = 500;
+    Dialogo dialogo(*DialogoDe(tipo));
+    std::istringstream palabras(textos);
+    std::string texto;
+    for (int i = 0; palabras >> texto; ++i) dialogo.CampoDe(i).texto = texto;
+    aceptada = dialogo.CmdAceptar() == Respuesta::aceptado;
+    axew.PonVista(this);
+  }
+  std::optional<Punto3> EligePunto(EWdraw&) override {
     if (rotulos.size() == limite) return std::nullopt;
     rotulos.push_back(axew.RotuloFantasma());
     dibujado.push_back(axew.Entidades().size());
     return Punto3{static_cast<double>(rotulos.size()), -2, 0};
   }
   /// The outline that was placed under this name, if any was drawn.
-  std::optional<std::vector<Punto2>> Forma(const EWdraw& axew, int texto, int numero) const {
-    const std::string rotulo = Texto(texto) + " " + std::to_string(numero);
-    for (std::size_t i = 0; i < rotulos.size(); ++i) {
-      const std::size_t fin = i + 1 < rotulos.size() ? dibujado[i + 1] : axew.Entidades().size();
-      if (rotulos[i] != rotulo || dibujado[i] == fin) continue;
-      std::vector<Punto2> forma;
-      for (const Punto3& p : axew.Entidades()[dibujado[i]].puntos) forma.push_back({p.x, p.y});
-      forma.pop_back();  // the first one again
-      return forma;
-    }
-    return std::nullopt;
+  std::optional<std::vector<Punto2>> Forma(int texto, int numero) const {
+    const auto en = std::ranges::find(rotulos, Texto(texto) + " " + std::to_string(numero)) - rotulos.begin();
+    const auto i = static_cast<std::size_t>(en);
+    const std::size_t fin = i + 1 < rotulos.size() ? dibujado[i + 1] : axew.Entidades().size();
+    if (i == rotulos.size() || dibujado[i] == fin) return std::nullopt;
+    std::vector<Punto2> forma;
+    for (const Punto3& p : axew.Entidades()[dibujado[i]].puntos) forma.push_back({p.x, p.y});
+    forma.pop_back();  // the first one again
+    return forma;
   }
+  auto Cuantas(TipoEntidad tipo) const { return std::ranges::count(axew.Entidades(), tipo, &Entidad::tipo); }
+
+  EWdraw axew;
+  bool aceptada = false;
   std::vector<std::string> rotulos;
   std::vector<std::size_t> dibujado;
   std::size_t limite = 99;
 };
 
-inline constexpr int kEsquina = 103, kLado = 104;
-
-/// Accepts the texts in the dialog of `tipo`; false if it refuses.
-inline bool Acepta(const char* tipo, const std::vector<std::string>& textos) {
-  Dialogo dialogo(*DialogoDe(tipo));
-  for (std::size_t i = 0; i < textos.size(); ++i) dialogo.CampoDe(static_cast<int>(i)).texto = textos[i];
-  estado.MultinumDoblado = 36;
-  estado.oDrawing = std::make_shared<cDrawing>();
-  estado.iHandleDxf = 500;
-  return dialogo.CmdAceptar() == Respuesta::aceptado;
-}
-
 /// Points of a piece in space. Corners and sides are numbered from 1 as everywhere.
 struct EnElEspacio {
-  std::array<double, 5> r1{}, r2{};
+  std::array<double, 5> r1{0, estado.dR11, estado.dR12, estado.dR13, estado.dR14},
+      r2{0, estado.dR21, estado.dR22, estado.dR23, estado.dR24};
   double LX1 = estado.dLX1, LY1 = estado.dLY1, LX2 = estado.dLX2, LY2 = estado.dLY2;
 
   EnElEspacio() {
-    const EstadoPrograma& e = estado;
-    r1 = {0, e.dR11, e.dR12, e.dR13, e.dR14};
-    r2 = {0, e.dR21, e.dR22, e.dR23, e.dR24};
-    if (e.sTipoPieza != "TransEsp2" && e.sTipoPieza != "TransEsp3") return;
-    r1.fill(e.dRadioEsp);
-    r2.fill(e.dRadioEsp2);
+    if (estado.sTipoPieza != "TransEsp2" && estado.sTipoPieza != "TransEsp3") return;
+    r1.fill(estado.dRadioEsp);
+    r2.fill(estado.dRadioEsp2);
   }
   // From one side's normal (t = 0) to the next one's (t = 1) round a corner.
   Punto3 EnArco(int c, double t, double LX, double LY, double r, Punto3 centro) const {

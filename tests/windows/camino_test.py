@@ -38,8 +38,9 @@ class Screen:
     def __init__(self, folder, stack):
         self.folder, self.stack = folder, stack
         self.log = stack.enter_context(open(folder / "log", "w+"))
-        self.environment = {"PATH": os.environ["PATH"], "HOME": str(folder), "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "xcb",
-                            "XDG_RUNTIME_DIR": str(folder), "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+        self.environment = {"PATH": os.environ["PATH"], "HOME": str(folder), "LC_ALL": "C.UTF-8",
+                            "QT_QPA_PLATFORM": "xcb", "XDG_RUNTIME_DIR": str(folder),
+                            "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
         reading, writing = os.pipe()
         self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset",
                    pass_fds=[writing])
@@ -55,8 +56,8 @@ class Screen:
         return self.xdotool("get_desktop") == ["1"]
 
     def start(self, *command, **options):
-        process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.environment, stdin=subprocess.DEVNULL, stdout=self.log,
-                                   stderr=self.log, **options)
+        process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.environment,
+                                   stdin=subprocess.DEVNULL, stdout=self.log, stderr=self.log, **options)
 
         def end():
             process.kill()

@@ -19,44 +19,26 @@ QImage Vista(QWidget& de) { return de.grab().toImage().convertToFormat(QImage::F
 
 class Lista : public ConVentanas {
  protected:
-  void SetUp() override {
-    ConVentanas::SetUp();
-    lista_ = std::make_unique<FrListaDuktores>();
-    plataforma_.PonPrincipal(lista_.get());
-    lista_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(lista_.get()));
-    filas_ = &Hijo<QListWidget>(*lista_, "LstDuktores");
+  Lista() {
+    plataforma_.PonPrincipal(&lista_);
+    lista_.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&lista_));
   }
-  void TearDown() override {
-    lista_.reset();
-    ConVentanas::TearDown();
-  }
-  std::unique_ptr<FrListaDuktores> lista_;
-  QListWidget* filas_ = nullptr;
+  FrListaDuktores lista_;
+  QListWidget* filas_ = &Hijo<QListWidget>(lista_, "LstDuktores");
 };
 
 TEST_F(Lista, PicturesAndCaptionsByRow) {
-  constexpr const char* imagenes[]{"PresentDuktores.bmp",
-                                   "",
-                                   "TransBasRect.bmp",
-                                   "TransBasCirc.bmp",
-                                   "",
-                                   "PresentTransEspeciales.bmp",
-                                   "PresentTransEspeciales.bmp",
-                                   "",
-                                   "Transespe1.bmp",
-                                   "Transespe2.bmp",
-                                   "Transespe3.bmp",
-                                   "Transespe4.bmp",
-                                   "Transespe5.bmp",
-                                   "",
-                                   "PresentTransElip.bmp",
-                                   "",
-                                   "TransBoElip.bmp"};
+  // clang-format off
+  constexpr const char* imagenes[]{
+      "PresentDuktores.bmp", "", "TransBasRect.bmp", "TransBasCirc.bmp", "", "PresentTransEspeciales.bmp",
+      "PresentTransEspeciales.bmp", "", "Transespe1.bmp", "Transespe2.bmp", "Transespe3.bmp", "Transespe4.bmp",
+      "Transespe5.bmp", "", "PresentTransElip.bmp", "", "TransBoElip.bmp"};
+  // clang-format on
   const std::map<int, std::string> rotulos{
       {0, "DUKTORES"}, {5, "DUKTORES ESPECIALES "}, {6, "DUKTORES ESPECIALES "}, {14, "TRANSF. ELIPTICOS"}};
-  auto& imagen = Hijo<Imagen>(*lista_, "PicDuktores");
-  auto& rotulo = Hijo<QLabel>(*lista_, "LblGeneral");
+  auto& imagen = Hijo<Imagen>(lista_, "PicDuktores");
+  auto& rotulo = Hijo<QLabel>(lista_, "LblGeneral");
   Imagen esperada(nullptr);
   esperada.resize(imagen.size());
   ASSERT_EQ(filas_->count(), 17);
@@ -77,24 +59,23 @@ TEST_F(Lista, OnlyRowsWithAnEngineOpenADialog) {
   for (int fila = 0; fila < 17; ++fila) {
     filas_->setCurrentRow(fila);
     const DefDialogo* def = VentanaDe(FilasCatalogo()[static_cast<std::size_t>(fila)].dialogo);
-    const auto cierra = [](QWidget& dialogo) { Pulsa(dialogo, "CmdCancelar"); };
-    if (def) usuario_.Cuando(std::string(def->nombre), cierra);
+    if (def) usuario_.Cuando(std::string(def->nombre), [](QWidget& dialogo) { Pulsa(dialogo, "CmdCancelar"); });
     QTest::keyClick(filas_, fila % 2 == 0 ? Qt::Key_Return : Qt::Key_Enter);
     EXPECT_EQ(estado.sTipoPieza, filas_->item(fila)->text().toStdString());
   }
-  ASSERT_NE(VentanaDe("FrTransfCR"), nullptr);
   const QPoint segunda = filas_->visualItemRect(filas_->item(2)).center();
-  usuario_.Cuando("FrTransfCR", [](QWidget& dialogo) { dialogo.close(); });
+  const auto cierra = [](QWidget& dialogo) { dialogo.close(); };
+  usuario_.Cuando("FrTransfCR", cierra);
   QTest::mouseClick(filas_->viewport(), Qt::LeftButton, {}, segunda);
   QTest::mouseDClick(filas_->viewport(), Qt::LeftButton, {}, segunda);
   EXPECT_EQ(estado.sTipoPieza, Texto(11));
-  usuario_.Cuando("FrTransfCR", [](QWidget& dialogo) { dialogo.close(); });
-  Pulsa(*lista_, "CmdContinuar");
+  usuario_.Cuando("FrTransfCR", cierra);
+  Pulsa(lista_, "CmdContinuar");
 }
 
 TEST_F(Lista, ChineseLeavesTooltipsAndCaptionsUnset) {
-  EXPECT_EQ(lista_->windowTitle(), "Duktores");
-  EXPECT_EQ(Hijo(*lista_, "CmdSalir").toolTip(), "Salir");
+  EXPECT_EQ(lista_.windowTitle(), "Duktores");
+  EXPECT_EQ(Hijo(lista_, "CmdSalir").toolTip(), "Salir");
   estado.dIdioma = kChino;
   FrListaDuktores china;
   FrDialogo dialogo(kFrTransfCR, "", nullptr);
@@ -106,22 +87,15 @@ TEST_F(Lista, ChineseLeavesTooltipsAndCaptionsUnset) {
 }
 
 TEST_F(Lista, ControlsKeepTheirShareOfTheWindow) {
-  auto& boton = Hijo(*lista_, "CmdContinuar");
-  const QSize diseno = lista_->size();
-  const QRect sitio = boton.geometry();
+  auto& boton = Hijo(lista_, "CmdContinuar");
+  const QSize diseno = lista_.size();
+  const QRect sitio(508, 430, 130, 34);
   ASSERT_EQ(diseno, QSize(790, 476));
-  ASSERT_EQ(sitio, QRect(508, 430, 130, 34));
-  lista_->resize(1000, 600);  // 126.58 and 126.05 percent
+  lista_.resize(1000, 600);  // 126.58 and 126.05 percent
   EXPECT_EQ(boton.geometry(), QRect(645, 542, 165, 43));
-  for (int paso = 0; paso <= 420; ++paso) lista_->resize(1000 + 210 - std::abs(paso - 210), 600 + paso % 7);
-  for (int ancho = 1000; ancho >= diseno.width(); --ancho) lista_->resize(ancho, 600);
-  lista_->resize(diseno);
+  for (int ancho = 1000; ancho >= diseno.width(); --ancho) lista_.resize(ancho, 600);
+  lista_.resize(diseno);
   EXPECT_EQ(boton.geometry(), sitio);
-}
-
-TEST_F(Lista, ClosingItEndsTheProgram) {
-  QTimer::singleShot(0, lista_.get(), [this] { Pulsa(*lista_, "CmdSalir"); });
-  EXPECT_EQ(QApplication::exec(), 0);
 }
 
 // From the innermost loop, the pick, out through viewer, dialog and catalogue.
@@ -136,9 +110,12 @@ TEST_F(Lista, LeavingDuringAPickEndsAllWindows) {
   usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdDesplegado"); });
   usuario_.CierraMensaje(Texto(63));
   usuario_.Cuando("pick", [](QWidget& visor) { Pulsa(visor, "CmdExit"); });
-  QTimer::singleShot(0, lista_.get(), [this] { Pulsa(*lista_, "CmdContinuar"); });
+  QTimer::singleShot(0, &lista_, [this] { Pulsa(lista_, "CmdContinuar"); });
   EXPECT_EQ(QApplication::exec(), 0);
-  EXPECT_FALSE(lista_->isVisible());
+  EXPECT_FALSE(lista_.isVisible());
+  lista_.show();
+  QTimer::singleShot(0, &lista_, [this] { Pulsa(lista_, "CmdSalir"); });
+  EXPECT_EQ(QApplication::exec(), 0) << "or when nothing is open";
 }
 
 }  // namespace

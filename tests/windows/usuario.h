@@ -31,6 +31,17 @@ T& Hijo(QWidget& ventana, const char* nombre) {
 /// Only an enabled button answers.
 inline void Pulsa(QWidget& ventana, const char* boton) { QTest::mouseClick(&Hijo(ventana, boton), Qt::LeftButton); }
 
+inline void Arrastra(QWidget& sobre, Qt::MouseButton boton, QPoint desde, QPoint hasta) {
+  QTest::mousePress(&sobre, boton, {}, desde);
+  QMouseEvent mueve(QEvent::MouseMove, QPointF(hasta), sobre.mapToGlobal(QPointF(hasta)), Qt::NoButton, boton, {});
+  QApplication::sendEvent(&sobre, &mueve);
+  QTest::mouseRelease(&sobre, boton, {}, hasta);
+}
+inline void Rueda(QWidget& sobre, QPointF sitio, int giro) {
+  QWheelEvent rueda(sitio, sobre.mapToGlobal(sitio), {}, {0, giro}, {}, {}, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&sobre, &rueda);
+}
+
 /// Takes each step from within the event loop, when its window has come on top. "pick" is a viewer that waits for a
 /// point. A window that no step waits for fails the test and is closed.
 class Usuario : public QObject {
@@ -80,9 +91,8 @@ class Usuario : public QObject {
 
 class ConVentanas : public testing::Test {
  protected:
-  void SetUp() override {
+  ConVentanas() {
     namespace fs = std::filesystem;
-    ASSERT_TRUE(carpeta_.isValid());
     const fs::path duct = Ruta("Duct"), raiz = DUKTORES_RAIZ;
     fs::create_directories(duct / "Template");
     fs::copy_file(raiz / "Template/Template.dxf", duct / "Template/Template.dxf");
@@ -94,7 +104,7 @@ class ConVentanas : public testing::Test {
     estado.dEspesor = 2;
     estado.plataforma = &plataforma_;
   }
-  void TearDown() override {
+  ~ConVentanas() override {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     estado = {};
   }

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QPainter>
 
+#include "dialogs/rectangulares.h"
 #include "dxf/dibujo.h"
 #include "shell/visor.h"
 #include "state/fichero.h"
@@ -14,7 +15,6 @@ namespace {
 
 // Answers the picks without a window.
 struct Puntos : VistaEWdraw {
-  explicit Puntos(std::vector<Punto3> lista) : puntos(std::move(lista)) {}
   std::optional<Punto3> EligePunto(EWdraw&) override { return puntos.at(siguiente++); }
   std::vector<Punto3> puntos;
   std::size_t siguiente = 0;
@@ -29,42 +29,24 @@ QImage Pintado(const EWdraw& axew, const QImage& como) {
   return imagen;
 }
 
-void Arrastra(QWidget& sobre, Qt::MouseButton boton, QPoint desde, QPoint hasta) {
-  QTest::mousePress(&sobre, boton, {}, desde);
-  QMouseEvent mueve(QEvent::MouseMove, QPointF(hasta), sobre.mapToGlobal(QPointF(hasta)), Qt::NoButton, boton, {});
-  QApplication::sendEvent(&sobre, &mueve);
-  QTest::mouseRelease(&sobre, boton, {}, hasta);
-}
+struct ConPieza : ConVentanas {
+  ConPieza() {
+    Dialogo dialogo(kFrTransfCR);
+    int campo = 0;
+    for (const char* texto : {"300", "100", "400", "300", "30", "20", "10", "12", "1"}) {
+      dialogo.CampoDe(campo++).texto = texto;
+    }
+    EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado);
+  }
+};
 
-void Pieza() {
-  estado.sTipoPieza = "TransCR";
-  estado.dAltura = 300;
-  estado.dL1Base = 400;
-  estado.dL2Base = 300;
-  estado.dRadioAlto = 100;
-  estado.dAx = 30;
-  estado.dAy = 20;
-  estado.dAlfa = 10;
-  estado.iDivisiones = 12;
-  estado.iPosIni = 1;
-  estado.bDosPiezas = true;
-}
-
-class Visor : public ConVentanas {
+class Visor : public ConPieza {
  protected:
-  void SetUp() override {
-    ConVentanas::SetUp();
-    Pieza();
-    visor_ = std::make_unique<FrmViewUnfold>(nullptr);
-    lienzo_ = visor_->findChild<Lienzo*>();
+  Visor() {
     QObject::connect(lienzo_, &Lienzo::apunta, [this](QPointF punto) { apuntado_ = punto; });
   }
-  void TearDown() override {
-    visor_.reset();
-    ConVentanas::TearDown();
-  }
   QImage Imagen() { return lienzo_->grab().toImage(); }
-  bool Habilitado(const char* nombre) { return Hijo(*visor_, nombre).isEnabled(); }
+  bool Habilitado(const char* nombre) { return Hijo(visor_, nombre).isEnabled(); }
   void ExpectVista(const Punto3& desde, const std::string& orden) {
     EWdraw propio;
     Dibuja3D(propio);
@@ -73,27 +55,25 @@ class Visor : public ConVentanas {
     EXPECT_EQ(imagen, Pintado(propio, imagen)) << orden;
   }
 
+  void Responde(int mensaje, std::function<void()> hace) {
+    usuario_.CierraMensaje(Texto(mensaje));
+    usuario_.Cuando("pick", [hace](QWidget&) { hace(); });
+  }
   /// Answers a pick by a click; `elegidos_` gets what the status line has said of its place.
   void Elige(int mensaje, QPoint sitio) {
-    usuario_.CierraMensaje(Texto(mensaje));
-    usuario_.Cuando("pick", [this, sitio](QWidget&) {
+    Responde(mensaje, [this, sitio] {
       EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-      QTest::mouseMove(lienzo_, sitio);
       Arrastra(*lienzo_, Qt::NoButton, {}, sitio);
       elegidos_.push_back({apuntado_.x(), apuntado_.y(), 0});
       QTest::mouseClick(lienzo_, Qt::LeftButton, {}, sitio);
     });
   }
-  void Responde(int mensaje, std::function<void()> hace) {
-    usuario_.CierraMensaje(Texto(mensaje));
-    usuario_.Cuando("pick", [hace](QWidget&) { hace(); });
-  }
   void AlAbrir(std::function<void()> hace) {
-    QTimer::singleShot(0, visor_.get(), [&] {
-      EXPECT_TRUE(QTest::qWaitForWindowActive(visor_.get()));
+    QTimer::singleShot(0, &visor_, [&] {
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&visor_));
       hace();
     });
-    visor_->exec();
+    visor_.exec();
   }
   /// Saves through the save dialog under the name typed.
   void Guarda(const std::string& nombre) {
@@ -104,8 +84,8 @@ class Visor : public ConVentanas {
     });
   }
 
-  std::unique_ptr<FrmViewUnfold> visor_;
-  Lienzo* lienzo_ = nullptr;
+  FrmViewUnfold visor_{nullptr};
+  Lienzo* lienzo_ = visor_.findChild<Lienzo*>();
   QPointF apuntado_;
   std::vector<Punto3> elegidos_;
 };
@@ -123,15 +103,15 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
     EXPECT_FALSE(Habilitado("CmdSave"));
     ExpectVista({0, -1, 0}, "at first");
     for (std::size_t i = 0; i < std::size(vistas); ++i) {
-      Pulsa(*visor_, vistas[i].boton);
+      Pulsa(visor_, vistas[i].boton);
       ExpectVista(vistas[i].desde, vistas[i].boton);
       const std::size_t otra = (i + 5) % std::size(vistas);
-      QTest::keyClick(visor_.get(), static_cast<Qt::Key>(Qt::Key_F1 + otra));
+      QTest::keyClick(&visor_, static_cast<Qt::Key>(Qt::Key_F1 + otra));
       ExpectVista(vistas[otra].desde, "F" + std::to_string(otra + 1));
     }
-    QTest::keyClick(visor_.get(), Qt::Key_Escape);
+    QTest::keyClick(&visor_, Qt::Key_Escape);
   });
-  EXPECT_FALSE(visor_->isVisible());
+  EXPECT_FALSE(visor_.isVisible());
 }
 
 TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
@@ -140,18 +120,19 @@ TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
     Elige(63, sitio);
     Elige(64, sitio + QPoint(290, 40));
     AlAbrir([&] {
-      Pulsa(*visor_, "CmdDesplegado");
+      Pulsa(visor_, "CmdDesplegado");
       const QImage desarrollo = Imagen();
       EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado"));
       EXPECT_FALSE(Habilitado("FrmView"));
-      QTest::keyClick(visor_.get(), Qt::Key_F7);
+      QTest::keyClick(&visor_, Qt::Key_F7);
       Arrastra(*lienzo_, Qt::RightButton, {300, 300}, {340, 250});
       EXPECT_EQ(Imagen(), desarrollo) << "a flat pattern stays as seen from above";
-      visor_->close();
+      visor_.close();
 
       const auto dibujo = estado.oDrawing;
       EWdraw propio;
-      Puntos vista(elegidos_);
+      Puntos vista;
+      vista.puntos = elegidos_;
       propio.PonVista(&vista);
       usuario_.CierraMensaje(Texto(63));
       usuario_.CierraMensaje(Texto(64));
@@ -163,41 +144,35 @@ TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
 }
 
 TEST_F(Visor, EscapeEndsAPickAndKeepsWhatIsDrawn) {
-  const auto escape = [this] { QTest::keyClick(lienzo_, Qt::Key_Escape); };
+  const auto escape = [this] {
+    const QImage antes = Imagen();
+    const QSize tamano = visor_.size();
+    visor_.resize(1200, 900);
+    visor_.resize(tamano);
+    EXPECT_EQ(Imagen(), antes) << "the hanging shape is in view at any size";
+    QTest::keyClick(lienzo_, Qt::Key_Escape);
+  };
   Elige(63, {310, 200});
   Responde(64, escape);
   AlAbrir([&] {
-    Pulsa(*visor_, "CmdDesplegado");
+    Pulsa(visor_, "CmdDesplegado");
     EXPECT_GT(estado.oDrawing->Count(), 0);
-    EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado") && visor_->isVisible());
+    EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado") && visor_.isVisible());
     Responde(63, escape);
-    Pulsa(*visor_, "CmdDesplegado");
+    Pulsa(visor_, "CmdDesplegado");
     EXPECT_EQ(estado.oDrawing->Count(), 0);
     EXPECT_FALSE(Habilitado("CmdSave"));
-    visor_->close();
+    visor_.close();
   });
 }
 
 TEST_F(Visor, ClosingItEndsAPick) {
-  const std::function<void()> cierres[]{[this] { visor_->close(); }, [this] { Pulsa(*visor_, "CmdCancelar"); }};
-  for (const auto& cierra : cierres) {
-    Responde(63, cierra);
-    AlAbrir([&] { Pulsa(*visor_, "CmdDesplegado"); });
-    EXPECT_FALSE(visor_->isVisible() || lienzo_->Eligiendo());
+  for (const bool conBoton : {false, true}) {
+    Responde(63, [&] { conBoton ? Pulsa(visor_, "CmdCancelar") : void(visor_.close()); });
+    AlAbrir([&] { Pulsa(visor_, "CmdDesplegado"); });
+    EXPECT_FALSE(visor_.isVisible() || lienzo_->Eligiendo());
     EXPECT_EQ(estado.oDrawing->Count(), 0);
   }
-}
-
-TEST_F(Visor, ResizingDuringAPickKeepsTheShapeInView) {
-  Responde(63, [this] {
-    const QImage antes = Imagen();
-    const QSize tamano = visor_->size();
-    visor_->resize(1200, 900);
-    visor_->resize(tamano);
-    EXPECT_EQ(Imagen(), antes);
-    visor_->close();
-  });
-  AlAbrir([&] { Pulsa(*visor_, "CmdDesplegado"); });
 }
 
 TEST_F(Visor, SavesTheDrawing) {
@@ -206,37 +181,36 @@ TEST_F(Visor, SavesTheDrawing) {
   estado.bDosPiezas = false;
   estado.sRutaDuct = carpeta_.path().toStdString();
   AlAbrir([&] {
-    Pulsa(*visor_, "CmdDesplegado");
+    Pulsa(visor_, "CmdDesplegado");
     usuario_.Cuando("QFileDialog", [](QWidget& dialogo) { dialogo.close(); });
-    Pulsa(*visor_, "CmdSave");  // given up: no message
+    Pulsa(visor_, "CmdSave");  // given up: no message
     Guarda("pieza");
     usuario_.CierraMensaje("OK");
-    Pulsa(*visor_, "CmdSave");
+    Pulsa(visor_, "CmdSave");
     const std::string guardado = LeeFichero(fichero).value_or("");
     EXPECT_NE(guardado.find(estado.oDrawing->GetEntities()), std::string::npos);
 
     Guarda(dentro);
     usuario_.CierraMensaje(Texto(80) + " " + dentro);
-    Pulsa(*visor_, "CmdSave");
+    Pulsa(visor_, "CmdSave");
     std::filesystem::remove(plantilla);
     Guarda("sin plantilla");
     usuario_.CierraMensaje(Texto(81) + " " + plantilla);
-    Pulsa(*visor_, "CmdSave");
+    Pulsa(visor_, "CmdSave");
     EXPECT_EQ(LeeFichero(fichero), guardado);
     EXPECT_FALSE(std::filesystem::exists(Ruta("sin plantilla.dxf")));
-    visor_->close();
+    visor_.close();
   });
 }
 
 class UnLienzo : public ConVentanas {
  protected:
-  void SetUp() override {
-    ConVentanas::SetUp();
+  UnLienzo() {
     lienzo_.resize(400, 400);
     axew_.EwAddLine({0, 0, 0}, {100, 50, 0});
     axew_.EwAddLine({0, 0, 0}, {0, 0, 70});
     lienzo_.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&lienzo_));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&lienzo_));
   }
   /// The model's coordinates at a place of the widget, as a pick there gives them.
   QPointF En(QPoint sitio) {
@@ -252,16 +226,17 @@ class UnLienzo : public ConVentanas {
   Lienzo lienzo_{axew_, nullptr};
 };
 
-TEST_F(UnLienzo, WheelAndMiddleButtonMoveTheView) {
+TEST_F(UnLienzo, PicksWhereWheelAndMiddleButtonHaveMovedTheView) {
   ExpectIguales(En({123, 45}), Ajusta(axew_, {400, 400}).DelDispositivo({123, 45}, {400, 400}));
   const QPointF fijo = En({100, 300}), otro = En({300, 100});
-  QWheelEvent rueda({100, 300}, lienzo_.mapToGlobal(QPointF(100, 300)), {}, {0, 240}, Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&lienzo_, &rueda);
+  Rueda(lienzo_, {100, 300}, 240);
   ExpectIguales(En({100, 300}), fijo);
   EXPECT_LT((En({300, 100}) - fijo).manhattanLength(), 0.9 * (otro - fijo).manhattanLength());
   Arrastra(lienzo_, Qt::MiddleButton, {200, 200}, {170, 260});
   ExpectIguales(En({70, 360}), fijo);
+  lienzo_.hide();
+  Punto3 p;
+  EXPECT_THROW(axew_.EwPickPoint(p.x, p.y, p.z), EleccionRechazada) << "nobody could answer";
 }
 
 TEST_F(UnLienzo, TheRightButtonTurnsTheSolid) {
@@ -276,12 +251,6 @@ TEST_F(UnLienzo, TheRightButtonTurnsTheSolid) {
   Arrastra(lienzo_, Qt::RightButton, {150, 260}, {200, 200});
   EXPECT_LT(std::hypot(axew_.DireccionVista().x, axew_.DireccionVista().z), 1e-9);
   EXPECT_EQ(lienzo_.grab().toImage(), antes);
-}
-
-TEST_F(UnLienzo, AnUnseenOneRefusesAPick) {
-  lienzo_.hide();
-  Punto3 p;
-  EXPECT_THROW(axew_.EwPickPoint(p.x, p.y, p.z), EleccionRechazada);
 }
 
 }  // namespace
