@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <random>
 #include <sstream>
+#include <tuple>
 
 #include "dxf/dibujo.h"
 #include "engines/marcas.h"
@@ -21,8 +21,9 @@ struct Linea {
   int color;
 };
 struct Numero {
-  int valor;
+  int valor, color;
   Punto2 sitio;
+  double altura, angulo;
 };
 struct Dibujado {
   std::vector<std::vector<Punto2>> contornos;
@@ -53,8 +54,10 @@ Dibujado Lee(const std::string& dxf) {
       d.lineas.back().color = std::stoi(valor);
     } else if (tipo == "TEXT" && (c == 10 || c == 20)) {
       (c == 10 ? d.numeros.back().sitio.x : d.numeros.back().sitio.y) = std::stod(valor);
-    } else if (tipo == "TEXT" && c == 1) {
-      d.numeros.back().valor = std::stoi(valor);
+    } else if (tipo == "TEXT" && (c == 40 || c == 50)) {
+      (c == 40 ? d.numeros.back().altura : d.numeros.back().angulo) = std::stod(valor);
+    } else if (tipo == "TEXT" && (c == 1 || c == 62)) {
+      (c == 1 ? d.numeros.back().valor : d.numeros.back().color) = std::stoi(valor);
     }
   }
   return d;
@@ -83,33 +86,61 @@ Dibujado Desarrolla(bool dosPiezas, std::int16_t N, std::int16_t inicio, double 
   return Lee(estado.oDrawing->GetEntities());
 }
 
-// Each piece: numbers from 1 without a gap, one on the middle of each line, the others on the middle of an edge or of
-// the part of an edge up to where a side line or the cut ends.
-void CompruebaMarcas(const Dibujado& d, int N) {
-  const int porPieza = d.contornos.size() == 1 ? 2 * N + 17 : N + 9;
-  ASSERT_EQ(d.numeros.size(), porPieza * d.contornos.size());
-  std::vector<Punto2> nudos;
-  for (const auto& contorno : d.contornos) nudos.insert(nudos.end(), contorno.begin(), contorno.end());
-  for (const Linea& linea : d.lineas) nudos.insert(nudos.end(), {linea.p, linea.q});
-  std::size_t enLinea = 0;
-  for (std::size_t i = 0; i < d.numeros.size(); ++i) {
-    const Numero& n = d.numeros[i];
-    ASSERT_EQ(n.valor, static_cast<int>(i) % porPieza + 1);
-    const auto enMedio = [&](Punto2 p, Punto2 q) { return Distancia(0.5 * (p + q), n.sitio) < 1e-9; };
-    enLinea += static_cast<std::size_t>(
-        std::ranges::count_if(d.lineas, [&](const Linea& l) { return enMedio(l.p, l.q); }) > 0);
-    const bool medio = std::ranges::any_of(
-        nudos, [&](Punto2 p) { return std::ranges::any_of(nudos, [&](Punto2 q) { return enMedio(p, q); }); });
-    ASSERT_TRUE(medio) << "number " << n.valor << " sits on the middle of nothing";
+bool Juntos(Punto2 a, Punto2 b) { return Distancia(a, b) < 1e-6; }
+
+// One piece, whose outline runs along the circle, back along the corners, and to its first point twice. Fans on all
+// corners but the outer two, side lines between them; the numbers follow these lines, then the edges: corners and feet
+// of the side lines from left to right, the circle, the left and the right end.
+void CompruebaPieza(const std::vector<Punto2>& contorno, const Linea*& linea, const Numero*& numero, std::size_t q,
+                    std::size_t abanicos) {
+  const std::size_t nF = abanicos * q + 1;
+  ASSERT_EQ(contorno.size(), nF + abanicos + (abanicos == 4 ? 5 : 4));
+  std::vector<Punto2> F(contorno.begin(), contorno.begin() + static_cast<std::ptrdiff_t>(nF));
+  std::vector<Punto2> C(contorno.rbegin() + 2, contorno.rend() - static_cast<std::ptrdiff_t>(nF));
+  EXPECT_EQ(contorno[contorno.size() - 2], F[0]);
+  std::vector<Punto2> medios, cadena{C[0], C[1]};
+  const auto lado = [&](Punto2 a, Punto2 b) { medios.push_back(0.5 * (a + b)); };
+  const auto dibujada = [&](Punto2 p, int color) {
+    EXPECT_TRUE(Juntos(linea->p, p)) << "line " << medios.size() + 1;
+    EXPECT_EQ(linea->color, color) << "line " << medios.size() + 1;
+    lado(linea->p, linea->q);
+    return linea++;
+  };
+  for (std::size_t abanico = 0; abanico < abanicos; ++abanico) {
+    if (abanico > 0) {
+      const Linea* costado = dibujada(F[abanico * q], 6);
+      cadena.insert(cadena.end(), {costado->p.y < costado->q.y ? costado->p : costado->q, C[abanico + 1]});
+    }
+    for (std::size_t k = abanico * q; k <= (abanico + 1) * q; ++k) {
+      EXPECT_TRUE(Juntos(dibujada(F[k], 3)->q, C[abanico + 1]));
+    }
   }
-  EXPECT_EQ(enLinea, d.lineas.size());
+  cadena.push_back(C[abanicos + 1]);
+  for (std::size_t i = 1; i < cadena.size(); ++i) lado(cadena[i - 1], cadena[i]);
+  for (std::size_t k = 1; k < nF; ++k) lado(F[k - 1], F[k]);
+  lado(F[0], C[0]);
+  lado(F.back(), C[abanicos + 1]);
+  for (std::size_t i = 0; i < medios.size(); ++i, ++numero) {
+    EXPECT_TRUE(Juntos(numero->sitio, medios[i])) << "number " << i + 1;
+    EXPECT_EQ(numero->valor, static_cast<int>(i) + 1);
+    EXPECT_EQ(std::tuple(numero->color, numero->altura, numero->angulo), std::tuple(1, 10, 0));
+  }
+}
+
+void CompruebaMarcas(const Dibujado& d, int N) {
+  const auto q = static_cast<std::size_t>(N / 4), piezas = d.contornos.size();
+  ASSERT_EQ(d.lineas.size(), piezas == 1 ? 4 * q + 7 : 2 * (2 * q + 3));
+  ASSERT_EQ(d.numeros.size(), piezas == 1 ? 8 * q + 17 : 2 * (4 * q + 9));
+  const Linea* linea = d.lineas.data();
+  const Numero* numero = d.numeros.data();
+  for (const auto& contorno : d.contornos) CompruebaPieza(contorno, linea, numero, q, 4 / piezas);
 }
 
 TEST(Marcas, OneNumberForEachLineAndEdge) {
   const auto semilla = std::random_device{}();
   std::mt19937 azar(semilla);
   std::uniform_real_distribution<double> u(0, 1);
-  for (int i = 0; i < 120; ++i) {
+  for (int i = 0; i < 60; ++i) {
     SCOPED_TRACE("seed " + std::to_string(semilla) + " piece " + std::to_string(i));
     const auto N = static_cast<std::int16_t>(12 * (1 + azar() % 3)), inicio = static_cast<std::int16_t>(1 + azar() % 4);
     const bool dos = azar() % 2 == 0;
@@ -120,41 +151,45 @@ TEST(Marcas, OneNumberForEachLineAndEdge) {
     CompruebaMarcas(
         Desarrolla<clTransBaRectBoElip>(dos, N, inicio, -tilt, desvio, L1, L2, 250 + 99 * u(azar), 200 + 40 * u(azar)),
         N);
-    if (HasFatalFailure()) return;
+    if (HasFailure()) return;
   }
 }
 
-TEST(Marcas, NumbersOfTheSideLines) {
-  const Dibujado d = Desarrolla<clTransCR>(false, 12, 1, 0, {}, 400, 300, 100.0);
-  ASSERT_EQ(d.lineas.size(), 12U + 4 + 3);
-  for (std::size_t i = 0; i < d.lineas.size(); ++i) {
-    EXPECT_EQ(d.lineas[i].color, i == 4 || i == 9 || i == 14 ? 6 : 3) << i;
-    EXPECT_LT(Distancia(0.5 * (d.lineas[i].p + d.lineas[i].q), d.numeros[i].sitio), 1e-9) << i;
+// A flat pattern made by hand, of one point for each fan, and each side line at its foot or in the middle.
+TEST(Marcas, SideLinesAndTheirRecords) {
+  for (const bool fueraLado : {false, true}) {
+    estado = {};
+    EWdraw axew;
+    Transicion t;
+    t.dPuntosPlano = {{-2, 3}, {-1, 4}, {0.5, 3}, {1, -5}, {2, 3}};
+    t.dVerticesPlano = {{-6, 0}, {-5, 0}, {-2, 0}, {2, 0}, {5, 0}, {6, 0}};
+    t.bFueraLado = fueraLado;
+    t.bFueraCierre = !fueraLado;
+    const Punto2 pie1{fueraLado ? -3.5 : -1, 0}, pie2{fueraLado ? 0.5 : 0, 0}, alto2{0.5, 3}, bajo3{1, -5};
+    const double largo1 = fueraLado ? std::hypot(2.5, 4) : 4, largo2 = fueraLado ? 3 : std::hypot(0.5, 3),
+                 largo3 = fueraLado ? std::hypot(2.5, 5) : 5;
+    CortePieza1(t);
+    EXPECT_TRUE(Juntos(t.dPieLado1P1, pie1));
+    EXPECT_DOUBLE_EQ(t.dLongLado1P1, largo1);
+    EXPECT_TRUE(Juntos(t.dCorteAlto, alto2));
+    EXPECT_TRUE(Juntos(t.dCorteBajo, pie2));
+    EXPECT_TRUE(Juntos(t.dCorteBajo2, fueraLado ? Punto2{} : pie2));
+    EXPECT_DOUBLE_EQ(t.dLongCorte, fueraLado ? 0 : largo2);
+    GeneraDoblados(t, axew, Parte::entera);
+    EXPECT_TRUE(Juntos(t.dPieLado1, pie1));
+    EXPECT_TRUE(Juntos(t.dPieInicio, pie2));
+    EXPECT_TRUE(Juntos(t.dPieLado2, bajo3)) << "the circle's end hangs lower";
+    EXPECT_DOUBLE_EQ(t.dLongLado1, largo1);
+    EXPECT_DOUBLE_EQ(t.dLongInicio, largo2);
+    EXPECT_DOUBLE_EQ(t.dLongLado2, largo3);
+    t.dPtoBase = {1000, 70};
+    GeneraDoblados(t, axew, Parte::segunda);
+    EXPECT_TRUE(Juntos(t.dPieLado1, bajo3 + t.dPtoBase));
+    EXPECT_NEAR(t.dLongLado1, largo3, 1e-9);
+    GeneraDoblados(t, axew, Parte::primera);
+    EXPECT_TRUE(Juntos(t.dPieLado1, pie1 + t.dPtoBase));
+    EXPECT_NEAR(t.dLongLado1, largo1, 1e-9);
   }
-  // The seam comes last, the sides of the rectangle from left to right before the circle.
-  EXPECT_LT(d.numeros[19].sitio.x, d.numeros[26].sitio.x);
-  EXPECT_LT(d.numeros[39].sitio.x, 0);
-  EXPECT_GT(d.numeros[40].sitio.x, 0);
-}
-
-TEST(Marcas, RecordsForTheTable) {
-  estado = {};
-  estado.oDrawing = std::make_shared<cDrawing>();
-  estado.iHandleDxf = 500;
-  EWdraw axew;
-  clTransCR motor;
-  motor.GeneraPuntos(axew, 400, 300, 100, 12, 10, 20, 300, 0, 1);
-  Transicion t = motor.Modelo();
-  GeneraDoblados(t, axew, Parte::entera);
-  EXPECT_DOUBLE_EQ(t.dLongInicio, Distancia(t.dPtoInicio, t.dPuntos3D(1)));
-  EXPECT_NEAR(Distancia(t.dPieLado1, t.dPuntosPlano(4)), t.dLongLado1, 1e-9);
-  EXPECT_NEAR(Distancia(t.dPieLado2, t.dPuntosPlano(10)), t.dLongLado2, 1e-9);
-  const Punto2 suelta = t.dPieLado2;
-  const double larga = t.dLongLado2;
-  t.dPtoBase = {1000, 0};
-  GeneraDoblados(t, axew, Parte::segunda);
-  EXPECT_NEAR(Distancia(t.dPieLado1, suelta + t.dPtoBase), 0, 1e-9);
-  EXPECT_DOUBLE_EQ(t.dLongLado1, larga);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "dxf/dibujo.h"
 #include "state/estado.h"
+#include "state/textos.h"
 
 namespace duktores {
 namespace {
@@ -90,63 +91,19 @@ TEST(ClTransCR, TheLimitOfTheSidesCountsAsOutside) {
   EXPECT_TRUE(Coloca({400, 300, 80, 12, 0, 150, 300, 0, 2}).bFueraLado);
 }
 
-// Each choice with the corner above the previous point (m = 4, k = 1) and below it (m = 5, k = 1). The pairs: A above
-// and left of B, the mirror of that, and a tie in both coordinates, told apart by the other one.
-TEST(ClTransCR, ChoicesAndTheirTies) {
-  Transicion t;
-  t.dPuntosPlano = Puntos2(1);
-  t.dVerticesPlano = Puntos2(6);
-  t.dVerticesPlano(4) = {0, 1};
-  t.dVerticesPlano(5) = {0, -1};
-  const ParPuntos altaA{{0, 9}, {1, 2}}, altaB{{1, 2}, {0, 9}}, empateY{{0, 5}, {1, 5}}, empateX{{3, 1}, {3, 0}};
-  const struct {
-    Eleccion elige;
-    int m;
-    const ParPuntos* pares;
-    bool daA;
-  } casos[]{
-      {kReglasCR.circuloDerecha, 4, &altaA, true},
-      {kReglasCR.circuloDerecha, 4, &altaB, false},
-      {kReglasCR.circuloDerecha, 4, &empateY, true},
-      {kReglasCR.circuloDerecha, 5, &altaA, false},
-      {kReglasCR.circuloDerecha, 5, &altaB, true},
-      {kReglasCR.circuloDerecha, 5, &empateX, false},
-      {kReglasCR.esquinaDerecha, 4, &altaA, false},
-      {kReglasCR.esquinaDerecha, 4, &empateX, false},
-      {kReglasCR.circuloIzquierda, 4, &altaA, true},
-      {kReglasCR.circuloIzquierda, 4, &altaB, false},
-      {kReglasCR.circuloIzquierda, 4, &empateY, false},
-      {kReglasCR.circuloIzquierda, 5, &altaA, true},
-      {kReglasCR.circuloIzquierda, 5, &altaB, false},
-      {kReglasCR.circuloIzquierda, 5, &empateX, false},
-      {kReglasCR.esquinaIzquierda, 4, &altaA, true},
-      {kReglasCR.esquinaIzquierda, 4, &altaB, false},
-      {kReglasCR.esquinaIzquierda, 4, &empateY, true},
-      {kReglasCR.esquinaIzquierda, 5, &altaB, false},
-      {kReglasCR.esquinaIzquierda, 5, &empateX, false},
-      {kReglasCR.cierre, 4, &altaA, true},
-      {kReglasCR.cierre, 4, &altaB, true},
-      {kReglasCR.cierre, 5, &altaA, false},
-      {kReglasCR.cierre, 5, &altaB, true},
-      {kReglasCR.cierre, 5, &empateX, false},
-  };
-  for (std::size_t i = 0; i < std::size(casos); ++i) {
-    const auto& c = casos[i];
-    EXPECT_EQ(c.elige(*c.pares, t, c.m, 1), c.daA ? c.pares->A : c.pares->B) << "row " << i;
-  }
-}
-
-class Elige : public VistaEWdraw {
- public:
+struct Mesa : VistaEWdraw, Plataforma {
   std::optional<Punto3> EligePunto(EWdraw& axew) override {
     fantasmas.push_back(axew.Fantasma());
-    if (puntos.empty()) return std::nullopt;
-    const Punto3 p = puntos.front();
-    puntos.erase(puntos.begin());
-    return p;
+    return fantasmas.size() == 1 ? Punto3{1000, 200, 0} : Punto3{-3000, 50, 0};
   }
-  std::vector<Punto3> puntos;
+  void Regenera(EWdraw&) override { ++regenerados; }
+  void CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view) override {
+    EXPECT_EQ(estilo, EstiloMensaje::informacion);
+    textos.emplace_back(texto);
+  }
   std::vector<std::vector<Punto2>> fantasmas;
+  std::vector<std::string> textos;
+  int regenerados = 0;
 };
 
 class Desarrollo : public testing::Test {
@@ -156,79 +113,51 @@ class Desarrollo : public testing::Test {
     estado.oDrawing = std::make_shared<cDrawing>();
     estado.iHandleDxf = 500;
     estado.bDosPiezas = dosPiezas;
-    axew.PonVista(&vista);
+    estado.plataforma = &mesa;
+    axew.PonVista(&mesa);
     motor.GeneraPuntos(axew, 400, 300, 100, 24, 20, 10, 300, Radianes(10), 2);
   }
+  ~Desarrollo() override { estado = {}; }
+  // F(desde) to F(hasta), the vertices given, and the first point again.
+  std::vector<Punto2> Contorno(int desde, int hasta, std::initializer_list<Punto2> resto) {
+    std::vector<Punto2> puntos;
+    for (int k = desde; k <= hasta; ++k) puntos.push_back(motor.Modelo().dPuntosPlano(k));
+    puntos.insert(puntos.end(), resto);
+    puntos.push_back(puntos.front());
+    return puntos;
+  }
   EWdraw axew;
-  Elige vista;
+  Mesa mesa;
   clTransCR motor;
 };
 
 TEST_F(Desarrollo, OnePieceIsOneClosedOutline) {
   Prepara(false);
   motor.GeneraDesarrollo(axew, 24);
-  EXPECT_EQ(estado.PoliContorno.size(), 24U + 9);
-  EXPECT_EQ(estado.PoliContorno.front(), estado.PoliContorno.back());
+  const auto& C = motor.Modelo().dVerticesPlano;
+  EXPECT_EQ(estado.PoliContorno, Contorno(1, 25, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)}));
+  EXPECT_EQ(mesa.regenerados, 1);
   EXPECT_EQ(estado.oDrawing->Count(), 1 + 31 + 65);
-  EXPECT_NE(estado.oDrawing->GetEntities().find(" 90\r\n34\r\n"), std::string::npos);
-  EXPECT_TRUE(vista.fantasmas.empty());
+  EXPECT_TRUE(mesa.fantasmas.empty());
 }
 
 TEST_F(Desarrollo, TwoPiecesLieWhereTheyArePicked) {
   Prepara(true);
-  vista.puntos = {{1000, 200, 0}, {-3000, 50, 0}};
   motor.GeneraDesarrollo(axew, 24);
   ASSERT_EQ(estado.oDrawing->Count(), 2 * (1 + 15 + 33));
-  ASSERT_EQ(vista.fantasmas.size(), 2U);
+  ASSERT_EQ(mesa.fantasmas.size(), 2U);
   const auto& [F, C] = std::pair(motor.Modelo().dPuntosPlano, motor.Modelo().dVerticesPlano);
   const auto& primera = axew.Entidades()[0].puntos;
   const auto& segunda = axew.Entidades()[49].puntos;
-  EXPECT_EQ(estado.PoliContorno.size(), 12U + 6);
   EXPECT_EQ((Punto2{primera[0].x, primera[0].y}), F(1) + (Punto2{1000, 200}));
   EXPECT_EQ((Punto2{segunda[0].x, segunda[0].y}), F(13) + (Punto2{-3000, 50}));
-  // The cut has the same length on both pieces and ends on the start side.
-  const Punto2 base = motor.Modelo().dCorteBajo;
-  EXPECT_NEAR(base.x, 0, 1e-9);
-  EXPECT_NEAR(base.y, 0, 1e-9);
-  EXPECT_EQ(vista.fantasmas[0][13], base);
-  EXPECT_EQ(vista.fantasmas[1][16], Punto2{});
-}
-
-TEST_F(Desarrollo, TheCutGoesToTheMiddleWhenTheCentreIsOutside) {
-  Prepara(true);
-  motor.GeneraPuntos(axew, 400, 300, 80, 24, 0, 160, 300, 0, 1);
-  vista.puntos = {{0, 0, 0}, {500, 0, 0}};
-  motor.GeneraDesarrollo(axew, 24);
-  const Transicion& t = motor.Modelo();
-  const Punto2 medio{(t.dVerticesPlano(3).x + t.dVerticesPlano(4).x) / 2, 0};
-  EXPECT_NEAR(Distancia(vista.fantasmas[0][13], medio), 0, 1e-9);
-  EXPECT_NEAR(Distancia(vista.fantasmas[1][16], medio), 0, 1e-9);
-}
-
-TEST_F(Desarrollo, ARefusedPickKeepsTheFirstPiece) {
-  Prepara(true);
-  vista.puntos = {{0, 0, 0}};
-  EXPECT_THROW(motor.GeneraDesarrollo(axew, 24), EleccionRechazada);
-  EXPECT_EQ(estado.oDrawing->Count(), 1 + 15 + 33);
-}
-
-TEST(ClTransCRDibujo, SolidOnTheControl) {
-  EWdraw axew;
-  clTransCR motor;
-  motor.GeneraDibujo(400, 300, 100, 12, -50, -20, 300, -30, axew);
-  ASSERT_EQ(axew.EwEntityCount(), 1 + 4 + 12 + 1 + 3);
-  Caja caja;
-  for (const Entidad& e : axew.Entidades()) {
-    EXPECT_EQ(e.color, 120);
-    const Caja propia = CajaDe(e);
-    caja.Incluye(propia.minimo);
-    caja.Incluye(propia.maximo);
-  }
-  // Tilted by +30 degrees: the side of +X goes down.
-  EXPECT_NEAR(caja.maximo.z, 300 + 100 * std::sin(Radianes(30)), 1e-9);
-  const Entidad& primera = axew.Entidades()[5];
-  EXPECT_NEAR(primera.puntos[1].x, 50 + 100 * std::cos(Radianes(30)), 1e-9);
-  EXPECT_NEAR(primera.puntos[1].z, 300 - 100 * std::sin(Radianes(30)), 1e-9);
+  // The cut goes straight down to the start side.
+  const Punto2 pie = motor.Modelo().dCorteBajo;
+  EXPECT_NEAR(Distancia(pie, {}), 0, 1e-9);
+  EXPECT_EQ(mesa.fantasmas[0], Contorno(1, 13, {pie, C(3), C(2), C(1)}));
+  EXPECT_EQ(mesa.fantasmas[1], Contorno(13, 25, {C(6), C(5), C(4), {}}));
+  EXPECT_EQ(mesa.textos, (std::vector{Texto(63), Texto(64)}));
+  EXPECT_EQ(mesa.regenerados, 2);
 }
 
 TEST(CalculaGiro, EveryQuarter) {
