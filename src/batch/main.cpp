@@ -166,7 +166,7 @@ int main(int argc, char** argv) {
   std::unique_ptr<QGuiApplication> qt;
   if (!ordenes.opciones.imagenes.empty()) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the session
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the desktop
     qt = std::make_unique<QGuiApplication>(argc, argv);
   }
   return Ejecuta(ordenes);

@@ -14,8 +14,8 @@ class cAddString {
   /// Capacity in characters of two bytes. What was held becomes as many NULs. Nothing happens for v <= 0.
   void MaxBytes(std::int32_t v);
 
-  bool BeginAdd();              ///< empties the buffer and keeps its capacity; true
-  std::int32_t Length() const;  ///< characters held, in UTF-16 units
+  bool BeginAdd();                           ///< empties the buffer and keeps its capacity; true
+  std::int32_t Length() const;               ///< characters held, in UTF-16 units
   bool AddString(std::string_view sString);  ///< sString must not lie in the buffer itself
   bool Add2Strings(std::string_view sString1, std::string_view sString2);
   const std::string& CurString() const { return texto_; }
