@@ -16,16 +16,18 @@ prepara() {
   "${como[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends "${faltan[@]}" >/dev/null
 }
 
-# construye PRESET TARGET...: configures once and builds; silent unless something fails or is built.
+# construye PRESET TESTS TARGET...: configures where it must and builds; silent unless something fails or is built. TESTS
+# is ON or OFF: the program alone needs no test libraries; tests once switched on stay on.
 construye() {
-  local preset=$1 registro=build/$1/build.log
-  shift
-  mkdir -p "build/$preset"
+  local preset=$1 tests=$2 carpeta=build/$1
+  shift 2
+  mkdir -p "$carpeta"
   {
-    { [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
-      { ninja -C "build/$preset" -n "$@" | grep -q 'no work to do' || { echo "Building build/$preset" >&2 && cmake --build --preset "$preset" --target "$@"; }; }
-  } >"$registro" || {
-    cat "$registro" >&2
+    { grep -Eqs "^DUKTORES_TESTS:BOOL=(ON|$tests)$" "$carpeta/CMakeCache.txt" && [ -f "$carpeta/build.ninja" ]; } ||
+      cmake --preset "$preset" -DDUKTORES_TESTS="$tests" -DDUKTORES_BENCH="$tests"
+  } >"$carpeta/build.log" 2>&1 &&
+    { ninja -C "$carpeta" -n "$@" | grep -q 'no work to do' || { echo "Building $carpeta" && cmake --build --preset "$preset" --target "$@" >>"$carpeta/build.log" 2>&1; }; } || {
+    cat "$carpeta/build.log" >&2
     return 1
   }
 }

@@ -63,12 +63,13 @@ void SeparaRadios4(Cuatro& r1, Cuatro& r2) {
 void SeparaRadios23(double& r, double& r2) {
   if (std::abs(r2 - r) < kCerca) r2 = r + kSepara;
   const double alto1 = estado.dLY1 / 2, alto2 = estado.dLY2 / 2, ancho1 = estado.dLX1 / 2, ancho2 = estado.dLX2 / 2;
-  if (alto2 == r2 && alto1 != r) {
+  // The first that holds of: base by its height, mouth by its height or width, base by its width.
+  const bool boca = (alto2 != r2 && alto1 == r) || (ancho2 != r2 && ancho1 == r);
+  const bool base = (alto2 == r2 && alto1 != r) || (!boca && ancho2 == r2 && ancho1 != r);
+  if (base) {
     r2 -= kRoce;
-  } else if ((alto2 != r2 && alto1 == r) || (ancho2 != r2 && ancho1 == r)) {
+  } else if (boca) {
     r -= kRoce;
-  } else if (ancho2 == r2 && ancho1 != r) {
-    r2 -= kRoce;
   }
 }
 

@@ -48,18 +48,17 @@ EsquinaEspecial Esquina(const PiezaEspecial& pieza, int c) {
 }
 
 PlanoCorte PlanoDeCorte(const PiezaEspecial& pieza) {
-  const auto& [r1, r2, LX, LY, LX2, LY2, H, AX, AY, Alfa, Beta] = pieza;
   // The shop's drawings stand on this value of pi.
   constexpr double kPiCorto = 3.141592;
-  const auto grados = [](double g) { return Grados(g * kPiCorto / 180); };
-  const auto inclina = [&](Punto3 p) {
-    p = Rota(p, {AX - LX / 2, AY, H}, {0, 1, 0}, -grados(Alfa));
-    return Rota(p, {AX, AY + LY / 2, H}, {1, 0, 0}, -grados(Beta));
+  const double A = Grados(pieza.Alfa * kPiCorto / 180), B = Grados(pieza.Beta * kPiCorto / 180);
+  const double oeste = pieza.AX - pieza.LX1 / 2, este = pieza.AX + pieza.LX1 / 2;
+  const double norte = pieza.AY + pieza.LY1 / 2, sur = pieza.AY - pieza.LY1 / 2;
+  const auto inclina = [&](double x, double y) {
+    const Punto3 p = Rota({x, y, pieza.H}, {oeste, pieza.AY, pieza.H}, {0, 1, 0}, -A);
+    return Rota(p, {pieza.AX, norte, pieza.H}, {1, 0, 0}, -B);
   };
   // The 2 keeps the third point off the line through the others, whatever the sides.
-  const Punto3 P = inclina({AX - LX / 2, AY + LY / 2, H});
-  const Punto3 u = inclina({AX + LX / 2, AY + LY / 2, H}) - P;
-  const Punto3 v = inclina({AX + LX / 2 + 2, AY - LY / 2, H}) - P;
+  const Punto3 P = inclina(oeste, norte), u = inclina(este, norte) - P, v = inclina(este + 2, sur) - P;
   PlanoCorte plano{u.x * (u.z * v.y - u.y * v.z), u.x * (u.x * v.z - u.z * v.x), u.x * (u.y * v.x - u.x * v.y), 0};
   plano.d = -(plano.a * P.x + plano.b * P.y + plano.c * P.z);
   return plano;
