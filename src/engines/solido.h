@@ -10,8 +10,6 @@
 
 namespace duktores {
 
-inline constexpr std::int32_t kColorSolido = 120;
-
 /// The point of a level circle at an angle.
 Punto3 EnCirculo(Punto3 centro, double R, double angulo);
 

@@ -9,7 +9,6 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int32_t kColorSolido = 120;
 constexpr int kPasosPorDivision = 36;
 
 struct Borde {

@@ -147,6 +147,9 @@ class EWdraw {
   VistaEWdraw* vista_ = nullptr;
 };
 
+/// Colour index of the solids.
+inline constexpr std::int32_t kColorSolido = 120;
+
 /// A colour from red, green and blue, 0..256; 256 counts as full intensity. Never a small index.
 std::int32_t EwRgb(int r, int g, int b);
 

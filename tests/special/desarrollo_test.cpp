@@ -83,7 +83,7 @@ void ComparaEsquina(const std::vector<Punto2>& plano, const EnElEspacio& pieza, 
 TEST_P(Desarrollos, KeepTheLengthsOfThePieceInSpace) {
   const std::string_view tipo = GetParam();
   int formas = 0;
-  for (int vez = 0; vez < 400; ++vez) {
+  for (int vez = 0; vez < 2000; ++vez) {
     const std::string textos = AlAzar(tipo);
     Corrida corrida(GetParam(), textos);
     if (!corrida.aceptada || !Sensata({})) continue;
