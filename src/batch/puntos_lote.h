@@ -1,5 +1,5 @@
 #pragma once
-// Answers the picks of a run without a window: from a list, or by placing each shape to the right of what is drawn.
+// Answers the picks of a run without a window from a list of points, and makes that list where a job has none.
 
 #include <optional>
 #include <vector>
@@ -8,17 +8,21 @@
 
 namespace duktores {
 
+/// Each pick takes the next point; one beyond the list is refused.
 class PuntosLote : public VistaEWdraw {
  public:
-  /// With a list, each pick takes the next point, and one beyond the list is refused. Without one each shape's lower
-  /// left corner goes to the bottom line y = 0, with a gap to what is drawn.
-  explicit PuntosLote(std::optional<std::vector<Punto2>> puntos) : puntos_(std::move(puntos)) {}
+  explicit PuntosLote(std::vector<Punto2> puntos) : puntos_(std::move(puntos)) {}
 
   std::optional<Punto3> EligePunto(EWdraw& axew) override;
 
  private:
-  std::optional<std::vector<Punto2>> puntos_;
+  std::vector<Punto2> puntos_;
   std::size_t siguiente_ = 0;
 };
+
+/// Places for all that the unfolding of `estado` will ask a place for: side by side from the left, right of what lies
+/// where it is, each with its annotation on the bottom line y = 0. It unfolds the piece once to see how large they are;
+/// `estado` stays as it was.
+std::vector<Punto2> SitiosLibres();
 
 }  // namespace duktores

@@ -79,7 +79,8 @@ std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, co
 }
 
 std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, PlataformaLote& plataforma) {
-  PuntosLote puntos(trabajo.puntos);
+  const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : SitiosLibres();
+  PuntosLote puntos(sitios);
   axew.PonVista(&puntos);
   plataforma.mensaje.clear();
   const FinCorrida fin = Desplegado(axew);
@@ -88,7 +89,7 @@ std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, Platafor
     case FinCorrida::completo:
       return std::nullopt;
     case FinCorrida::eleccionRechazada:
-      return Rechazo{"picks", "pick " + std::to_string(trabajo.puntos->size() + 1) + " is missing in picks."};
+      return Rechazo{"picks", "pick " + std::to_string(sitios.size() + 1) + " is missing in picks."};
     case FinCorrida::error:
       break;
   }

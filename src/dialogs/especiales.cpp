@@ -5,10 +5,10 @@
 #include <cmath>
 #include <tuple>
 
-#include "dialogs/fibra.h"
 #include "special/pieza.h"
 #include "special/solido_especial.h"
 #include "state/estado.h"
+#include "state/fibra.h"
 #include "state/numeros.h"
 
 namespace duktores {

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "dialogs/combos.h"
-#include "dialogs/fibra.h"
 #include "state/estado.h"
+#include "state/fibra.h"
 #include "state/numeros.h"
 
 namespace duktores {

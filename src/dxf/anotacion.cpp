@@ -141,22 +141,4 @@ void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices) {
   axew.EwSetColor(axew.EwEndPolyline(true), 7);
 }
 
-void DibujaMarcoDatos(EWdraw& axew, std::int16_t inumDoblado, Punto3 dblPoint3) {
-  constexpr std::int16_t kColor = 7;
-  const int columnas = (2 * inumDoblado + 2 + 29) / 30;  // of 30 rows each
-  const double ancho = 670.0 + 200.0 * std::max(columnas - 3, 0);
-  const double x = dblPoint3.x, y = dblPoint3.y;
-  ExigeFinitos({x, y});
-  const Punto2 a{x, y}, b{x + ancho, y};
-  const Punto2 c{x, y - 450}, d{x + ancho, y - 450};
-  const Punto2 e{x, y - 1200}, f{x + ancho, y - 1200};
-  DibujaLinea(axew, a, b, kColor);
-  DibujaLinea(axew, b, d, kColor);
-  DibujaLinea(axew, d, c, kColor);
-  DibujaLinea(axew, c, a, kColor);
-  DibujaLinea(axew, c, e, kColor);
-  DibujaLinea(axew, e, f, kColor);
-  DibujaLinea(axew, f, d, kColor);
-}
-
 }  // namespace duktores

@@ -30,11 +30,15 @@ void DibujaTexto(EWdraw& axew, double x, double y, std::string& texto, double al
 /// "E": the line and its length at the first or second point. Any other type draws nothing.
 void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double xp, double yp, double altura,
                 std::int16_t color, std::string_view tipo);
+/// Whether the configuration asks for dimensions.
+bool HayCotas();
+/// The dimensions that surround a pattern, all of one colour and of the annotation's height: an "M" by its three
+/// points, and an extension line. Nothing is drawn for what has no length.
+void Acota(EWdraw& axew, Punto2 p, Punto2 q, Punto2 paso);
+void Extiende(EWdraw& axew, Punto2 p, Punto2 q);
 /// A closed outline, colour 7 on the control; in the file its first vertex stands again at the end. Nothing is drawn
 /// without a vertex.
 void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices);
-/// The frame around the data table, from its upper left corner.
-void DibujaMarcoDatos(EWdraw& axew, std::int16_t inumDoblado, Punto3 dblPoint3);
 
 /// Measures of the `iPieza`-th closed outline on the control; the outputs stay as they are if there are fewer.
 void MidePieza(EWdraw& axew, std::int16_t iPieza, double& dAreaPieza, double& dAreaRect, double& dPerimetro);

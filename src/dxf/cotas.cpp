@@ -12,12 +12,15 @@
 #include "geometry/planas.h"
 #include "geometry/redondeo.h"
 #include "state/estado.h"
+#include "state/numeros.h"
 
 namespace duktores {
 namespace {
 
 constexpr double kLadoFlecha = 3;  // drawing units, in inches too
 constexpr double kAnguloFlecha = 9;
+constexpr std::int16_t kColorCota = 4;
+constexpr double kSinLargo = 1e-6;
 
 std::string TextoMedida(double v) {
   const bool milimetros = estado.iUnidad == 1;
@@ -98,6 +101,17 @@ void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double
   if (tipo == "M") CotaEntrePuntos(axew, p1, p2, {xp, yp}, altura, color);
   if (tipo == "S") CotaEnPunto(axew, p1, p2, p1, altura, color);
   if (tipo == "E") CotaEnPunto(axew, p1, p2, p2, altura, color);
+}
+
+bool HayCotas() { return EnteroCorto(NumeroDeTexto(estado.sDimensiones)) == 1; }
+
+void Acota(EWdraw& axew, Punto2 p, Punto2 q, Punto2 paso) {
+  if (Distancia(p, q) <= kSinLargo) return;
+  DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
+}
+
+void Extiende(EWdraw& axew, Punto2 p, Punto2 q) {
+  if (!(Distancia(p, q) <= kSinLargo)) DibujaLinea(axew, p, q, kColorCota);
 }
 
 }  // namespace duktores

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "dxf/anotacion.h"
-#include "engines/marcas.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -38,38 +37,37 @@ void ColocaPieza(Transicion& t, EWdraw& axew, int texto, std::vector<Punto2> con
   DibujaPolilinea(axew, estado.PoliContorno);
 }
 
-void DesarrollaUnaPieza(Transicion& t, EWdraw& axew, int N) {
-  const auto& C = t.dVerticesPlano;
-  t.dPtoBase = {};
-  estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
-  DibujaPolilinea(axew, estado.PoliContorno);
-  GeneraDoblados(t, axew, Parte::entera);
-  GeneraRestoNumeros(t, axew);
+// All that stands on the outline of a pattern, or of one piece of two.
+void Anota(const Transicion& t, EWdraw& axew, int N, Parte parte, const EstiloDesarrollo& estilo) {
+  const std::vector<LineaNumerada> lineas = LineasNumeradas(t, parte);
+  const bool cotas = HayCotas(), primero = parte != Parte::entera || estilo.cotasPrimero;
+  GeneraDoblados(axew, lineas, t.dPtoBase);
+  if (cotas && primero) GeneraCotas(axew, t, parte, estilo.cotas);
+  GeneraRestoNumeros(axew, lineas, t.dPtoBase);
+  if (cotas && !primero) GeneraCotas(axew, t, parte, estilo.cotas);
   axew.EwRegen();
-}
-
-void DesarrollaDosPiezas(Transicion& t, EWdraw& axew, int N) {
-  const auto& C = t.dVerticesPlano;
-  const int h = N / 2;
-  CortePieza1(t);
-  ColocaPieza(t, axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
-  GeneraDoblados(t, axew, Parte::primera);
-  GeneraRestoNumerosPieza1(t, axew);
-  axew.EwRegen();
-  ColocaPieza(t, axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
-  GeneraDoblados(t, axew, Parte::segunda);
-  GeneraRestoNumerosPieza2(t, axew);
+  if (estilo.soloCaja1 ? estado.iBox != 1 : estado.iBox == 0) return;
+  ColocaCajetin(axew, estilo.cajetin, static_cast<std::int16_t>(N), parte, lineas);
   axew.EwRegen();
 }
 
 }  // namespace
 
-void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos) {
-  if (estado.bDosPiezas) {
-    DesarrollaDosPiezas(t, axew, inumPuntos);
-  } else {
-    DesarrollaUnaPieza(t, axew, inumPuntos);
+void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos, const EstiloDesarrollo& estilo) {
+  const auto& C = t.dVerticesPlano;
+  const int N = inumPuntos, h = N / 2;
+  t.dPtoBase = {};
+  if (!estado.bDosPiezas) {
+    estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
+    DibujaPolilinea(axew, estado.PoliContorno);
+    Anota(t, axew, N, Parte::entera, estilo);
+    return;
   }
+  CortePieza1(t);
+  ColocaPieza(t, axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  Anota(t, axew, N, Parte::primera, estilo);
+  ColocaPieza(t, axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  Anota(t, axew, N, Parte::segunda, estilo);
 }
 
 }  // namespace duktores

@@ -1,9 +1,11 @@
 #pragma once
-// The marks of a pattern: bend lines, side lines, and the running numbers at the middle of every line and edge. A
-// reader of the sheet matches the numbers with the rows of the table.
+// The marks of a pattern: bend lines, side lines, and a running number at the middle of every line and edge. The same
+// list of lines gives the numbers on the sheet and the rows of the table, so that they agree.
 //
 // Four fans of bend lines: F(1)..F(q+1) on C(2), F(q+1)..F(2q+1) on C(3), F(2q+1)..F(3q+1) on C(4), F(3q+1)..F(N+1) on
-// C(5), and a side line wherever two of them meet. All is drawn translated by `dPtoBase`.
+// C(5), and a side line wherever two of them meet.
+
+#include <vector>
 
 #include "engines/transicion.h"
 #include "viewer/ewdraw.h"
@@ -13,13 +15,20 @@ namespace duktores {
 /// Which fans a pattern holds: all, or those of one piece of two.
 enum class Parte { entera, primera, segunda };
 
-/// Bend lines and side lines with their numbers, from 1. Leaves the records of the side lines; each piece has one, in
-/// `dPieLado1` and `dLongLado1`.
-void GeneraDoblados(Transicion& t, EWdraw& axew, Parte parte);
+enum class Clase { doblez, lado, borde };
 
-// The numbers of the outline's edges, going on from those of GeneraDoblados. The pieces need CortePieza1.
-void GeneraRestoNumeros(Transicion& t, EWdraw& axew);
-void GeneraRestoNumerosPieza1(Transicion& t, EWdraw& axew);
-void GeneraRestoNumerosPieza2(Transicion& t, EWdraw& axew);
+/// A line that bears a number: its ends, in flat coordinates.
+struct LineaNumerada {
+  Punto2 p, q;
+  Clase clase;
+};
+
+/// All lines in the order of their numbers, from 1: bend and side lines, then the edges. The pieces need CortePieza1.
+std::vector<LineaNumerada> LineasNumeradas(const Transicion& t, Parte parte);
+
+/// Draws bend lines and side lines with their numbers, translated by `base`.
+void GeneraDoblados(EWdraw& axew, const std::vector<LineaNumerada>& lineas, Punto2 base);
+/// The numbers of the edges, which the outline has drawn already.
+void GeneraRestoNumeros(EWdraw& axew, const std::vector<LineaNumerada>& lineas, Punto2 base);
 
 }  // namespace duktores

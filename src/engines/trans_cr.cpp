@@ -76,7 +76,7 @@ void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
 }
 
 void clTransCR::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos);
+  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseRectangular, false, kCajetinCR, false});
 }
 
 }  // namespace duktores

@@ -65,7 +65,7 @@ void clTransBaRectBoElip::GeneraPuntos(EWdraw& axew, double L1Base, double L2Bas
 }
 
 void clTransBaRectBoElip::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos);
+  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseRectangular, false, kCajetinElip, true});
 }
 
 }  // namespace duktores

@@ -102,7 +102,7 @@ void clTransRC::ColocaInicio(const PosicionInicio& inicio, double L1Base, double
 }
 
 void clTransRC::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos);
+  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseCircular, true, kCajetinRC, false});
 }
 
 }  // namespace duktores

@@ -117,13 +117,10 @@ LineaLado LineaDeLado(const Transicion& t, int turno) {
 }
 
 void CortePieza1(Transicion& t) {
-  const LineaLado lado = LineaDeLado(t, 1), corte = LineaDeLado(t, 2);
-  t.dPieLado1P1 = lado.Pie();
-  t.dLongLado1P1 = lado.Largo();
+  const LineaLado corte = LineaDeLado(t, 2);
   t.dCorteAlto = corte.alto;
   t.dCorteBajo = corte.bajo;
   t.dCorteBajo2 = t.bFueraCierre ? corte.Pie() : Punto2{};
-  t.dLongCorte = t.bFueraCierre ? corte.Largo() : 0;
 }
 
 double CalculaDistCentro(double Angulo, double Altura) { return Altura / std::tan(Radianes(Angulo)); }

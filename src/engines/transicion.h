@@ -28,20 +28,11 @@ struct Transicion {
   bool bFueraLado = false;    ///< the same for the two sides next to the start side
 
   // Two pieces: the line that splits the start side, in flat coordinates.
-  Punto2 dCorteAlto;      ///< its end on the circle, F(h+1)
-  Punto2 dCorteBajo;      ///< its end on the rectangle, for the first piece
-  Punto2 dCorteBajo2;     ///< the same end for the second piece; the flat origin when the end is a foot
-  double dLongCorte = 0;  ///< its length; 0 when the end is a foot
+  Punto2 dCorteAlto;   ///< its end on the circle, F(h+1)
+  Punto2 dCorteBajo;   ///< its end on the rectangle, for the first piece
+  Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot
 
   Punto2 dPtoBase;  ///< the point picked for the piece at work, its translation; the origin for a pattern in one piece
-
-  // Marks. The side lines in turn, from left to right, as GeneraDoblados leaves them: lower end, translated, and
-  // length.
-  std::int16_t iNumSoldadura = 1;  ///< the next number
-  Punto2 dPieLado1, dPieInicio, dPieLado2;
-  double dLongLado1 = 0, dLongInicio = 0, dLongLado2 = 0;
-  Punto2 dPieLado1P1;  ///< that of the first piece, as CortePieza1 leaves it: in flat coordinates
-  double dLongLado1P1 = 0;
 };
 
 /// What a start position means: `a0` is the angle of Q(1), `esquinas` are P(1) to P(4) in units of the sides, and the
@@ -94,12 +85,11 @@ struct LineaLado {
   Punto2 alto, bajo;  ///< on the circle, on the side
   /// The end with the smaller y.
   Punto2 Pie() const { return alto.y < bajo.y ? alto : bajo; }
-  double Largo() const { return Distancia(alto, bajo); }
 };
 /// `turno` 1 to 3 from left to right, at k = turno*q + 1; 2 is that of the start side.
 LineaLado LineaDeLado(const Transicion& t, int turno);
 
-/// Leaves the line that splits a pattern in two pieces, and the first piece's side line.
+/// Leaves the line that splits a pattern in two pieces.
 void CortePieza1(Transicion& t);
 
 /// A height's horizontal run at a slope of `Angulo` degrees.

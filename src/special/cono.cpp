@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "dxf/anotacion.h"
+#include "special/cajetin_especial.h"
 #include "special/coloca.h"
 #include "state/estado.h"
 
@@ -46,6 +48,13 @@ std::size_t Cuadrante(double Ax, double Ay) {
 double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
   const double sx = iiTem <= 2 ? 1 : -1, sy = iiTem == 1 || iiTem == 4 ? 1 : -1, sentido = bCambio ? -1 : 1;
   return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
+}
+
+std::vector<Punto2> Contorno(const Sector& sector) {
+  std::vector<Punto2> contorno = sector.base;
+  contorno.insert(contorno.end(), sector.boca.rbegin(), sector.boca.rend());
+  contorno.push_back(sector.base.front());
+  return contorno;
 }
 
 }  // namespace
@@ -134,34 +143,36 @@ void clCono::CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, b
   }
 }
 
-std::vector<Punto2> clCono::Contorno() const {
+Sector clCono::SectorDe(Punto2 sitio) const {
+  Sector sector{{}, {}, sitio};
   const auto [iHasiera, iBukaera] = *tramo_;
-  std::vector<Punto2> contorno;
-  for (int i = iHasiera; i <= iBukaera; ++i) contorno.push_back(dDesBase_(i));
-  for (int i = iBukaera; i >= iHasiera; --i) contorno.push_back(dDesBoca_(i));
-  contorno.push_back(dDesBase_(iHasiera));
-  return contorno;
+  for (int i = iHasiera; i <= iBukaera; ++i) {
+    sector.base.push_back(dDesBase_(i) + sitio);
+    sector.boca.push_back(dDesBoca_(i) + sitio);
+  }
+  return sector;
 }
 
 void clCono::GeneraDesarrollo1(EWdraw& axew, const PiezaEspecial& pieza, double Ax, double Ay, int inumPuntos,
                                int iiTem, bool bCambio) {
   estado.PoliContorno.clear();
-  std::vector<Punto2> contorno;
+  Punto2 ancla;
   if (dDesBase_.Cuenta() == inumPuntos + 1) {
     const double psi = std::atan2(std::abs(Ay), std::abs(Ax));
     tramo_ = EligeTramo(psi * (bCambio ? pieza.r1(iiTem) : pieza.r2(iiTem)), Ax, Ay, iiTem, bCambio);
-  }
-  if (tramo_) {
     // The pick is where element 1 of the uncut cone would end.
-    const Punto2 ancla = dDesBoca_(1);
-    CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
-    contorno = Contorno();
-    for (Punto2& p : contorno) p = p - ancla;
+    ancla = dDesBoca_(1);
   }
+  if (tramo_) CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
+  std::vector<Punto2> contorno;
+  if (tramo_) contorno = Contorno(SectorDe(Punto2{} - ancla));
   const Punto2 base = PideSitio(axew, Forma::esquina, iiTem, contorno);
-  if (contorno.empty()) return;
-  for (Punto2& p : contorno) p = p + base;
-  DibujaForma(axew, std::move(contorno));
+  if (!tramo_) return;
+  const Sector sector = SectorDe(base - ancla);
+  DibujaForma(axew, Contorno(sector));
+  DibujaDoblados(axew, sector);
+  if (HayCotas()) GeneraCotaCono(axew, sector);
+  if (estado.iBox != 0) GeneraCajetinCono(axew, sector);
 }
 
 }  // namespace duktores

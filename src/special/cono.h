@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "geometry/puntos.h"
+#include "special/anotacion_cono.h"
 #include "special/pieza.h"
 #include "viewer/ewdraw.h"
 
@@ -24,8 +25,8 @@ class clCono {
   void GeneraPuntos(double Radiobase, double RadioAlto, double Altura, int inumPuntos, double DistCentrox,
                     double DistCentroy, int iiTem, bool bCambio);
 
-  /// Asks for the place of the corner and draws it; an empty object draws nothing after its prompt. `pieza` holds the
-  /// real radii.
+  /// Asks for the place of the corner and draws it with its annotation; an empty object draws nothing after its prompt.
+  /// `pieza` holds the real radii.
   void GeneraDesarrollo1(EWdraw& axew, const PiezaEspecial& pieza, double Ax, double Ay, int inumPuntos, int iiTem,
                          bool bCambio);
 
@@ -41,7 +42,7 @@ class clCono {
   int CalcPtoInicPtoFin(double s) const;
   std::optional<std::array<int, 2>> EligeTramo(double arco, double Ax, double Ay, int iiTem, bool bCambio) const;
   void CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, bool alDerecho);
-  std::vector<Punto2> Contorno() const;
+  Sector SectorDe(Punto2 sitio) const;  // `sitio` is that of the apex
 
   std::vector<double> dLongBase_;  // true lengths from the apex, from element 1
   Puntos2 dDesBase_, dDesBoca_;

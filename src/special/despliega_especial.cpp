@@ -4,6 +4,8 @@
 #include <tuple>
 #include <utility>
 
+#include "dxf/anotacion.h"
+#include "special/cajetin_especial.h"
 #include "special/cono.h"
 #include "special/pieza.h"
 #include "special/rectangulo.h"
@@ -174,7 +176,8 @@ void DesarrollaLado(EWdraw& axew, clRectangulo& panel, PiezaEspecial pieza, int 
   if (Iguales(lado[0], lado[1])) lado[0].x -= kRoce;
   if (!HayPanel(lado, c)) return;
   panel.GeneraDesarrollo(axew, lado, c);
-  if (EnteroCorto(NumeroDeTexto(estado.sDimensiones)) == 1) panel.GeneraCota(axew);
+  if (HayCotas()) panel.GeneraCota(axew);
+  if (estado.iBox != 0) GeneraCajetinPanel(axew, panel.Piezas());
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kColorNumero = 1, kColorCota = 4;
+constexpr std::int16_t kColorNumero = 1;
 constexpr double kNivel = 1e-6;  // nearer than this counts as level
 
 std::array<Punto2, 4> Aplana(const Lado& lado, Punto2 A) {
@@ -49,21 +49,14 @@ void clRectangulo::DibujaNumerosLados(EWdraw& axew) const {
 void clRectangulo::GeneraCota(EWdraw& axew) const {
   const auto& [A, B, C, D] = dPuntosPieza_;
   const double dx = estado.dPasoTablaX, dy = estado.dPasoTablaY;
-  const auto cota = [&](Punto2 p, Punto2 q, Punto2 paso) {
-    if (Distancia(p, q) > kNivel)
-      DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
-  };
-  const auto extension = [&](Punto2 pie, Punto2 punto) {
-    if (Distancia(pie, punto) > kNivel) DibujaLinea(axew, pie, punto, kColorCota);
-  };
   const double izquierda = std::min(B.x, C.x), abajo = std::min(C.y, D.y), derecha = std::max(A.x, D.x);
-  cota({A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
-  cota({izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
-  B.x > C.x + kNivel ? extension({C.x, B.y}, B) : extension({B.x, C.y}, C);
-  cota({C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
-  C.y > D.y + kNivel ? extension({C.x, D.y}, C) : extension({D.x, C.y}, D);
-  cota({derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
-  A.x > D.x + kNivel ? extension({A.x, D.y}, D) : extension({D.x, A.y}, A);
+  Acota(axew, {A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
+  Acota(axew, {izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
+  B.x > C.x + kNivel ? Extiende(axew, {C.x, B.y}, B) : Extiende(axew, {B.x, C.y}, C);
+  Acota(axew, {C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
+  C.y > D.y + kNivel ? Extiende(axew, {C.x, D.y}, C) : Extiende(axew, {D.x, C.y}, D);
+  Acota(axew, {derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
+  A.x > D.x + kNivel ? Extiende(axew, {A.x, D.y}, D) : Extiende(axew, {D.x, A.y}, A);
 }
 
 }  // namespace duktores

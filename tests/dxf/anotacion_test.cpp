@@ -98,18 +98,6 @@ TEST_F(Anotacion, DimensionsAtAPointAndOfAnArc) {
   }
 }
 
-TEST_F(Anotacion, FrameWidensWithTheDivisions) {
-  for (auto [divisiones, x] : {std::pair<std::int16_t, double>(44, 680), {45, 880}, {59, 880}, {60, 1080}}) {
-    axew_.EwClear();
-    DibujaMarcoDatos(axew_, divisiones, {10, 20, 3});
-    const double fines[7][2] = {{x, 20}, {x, -430}, {10, -430}, {10, 20}, {10, -1180}, {x, -1180}, {x, -430}};
-    ASSERT_EQ(axew_.EwEntityCount(), 7);
-    for (std::size_t i = 0; i < 7; ++i) {
-      EXPECT_EQ(axew_.Entidades()[i].puntos[1], (Punto3{fines[i][0], fines[i][1], 0})) << divisiones << " " << i;
-    }
-  }
-}
-
 TEST_F(Anotacion, ImpossibleMeasureDrawsNothing) {
   std::string texto = "12345";
   double fin = 90;
