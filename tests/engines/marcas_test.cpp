@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
+#include <iterator>
 #include <random>
 #include <sstream>
 #include <tuple>
@@ -20,20 +23,22 @@ struct Linea {
   Punto2 p, q;
   int color;
 };
-struct Numero {
-  int valor, color;
+struct Rotulo {
+  std::string texto;
+  int color;
   Punto2 sitio;
   double altura, angulo;
 };
 struct Dibujado {
   std::vector<std::vector<Punto2>> contornos;
   std::vector<Linea> lineas;
-  std::vector<Numero> numeros;
+  std::vector<Rotulo> numeros, filas, valores;  // filas: of the tables, valores: of the title blocks
 };
 
-// The pairs of the DXF text, entity by entity.
+// The pairs of the DXF text, entity by entity. Colour 7 is the title block: of its texts only the table's are kept.
 Dibujado Lee(const std::string& dxf) {
   Dibujado d;
+  std::vector<Rotulo> textos;
   std::istringstream entrada(dxf);
   std::string codigo, valor, tipo;
   while (std::getline(entrada, codigo) && std::getline(entrada, valor)) {
@@ -43,7 +48,7 @@ Dibujado Lee(const std::string& dxf) {
       tipo = valor;
       if (tipo == "LWPOLYLINE") d.contornos.emplace_back();
       if (tipo == "LINE") d.lineas.emplace_back();
-      if (tipo == "TEXT") d.numeros.emplace_back();
+      if (tipo == "TEXT") textos.emplace_back();
     } else if (tipo == "LWPOLYLINE" && (c == 10 || c == 20)) {
       if (c == 10) d.contornos.back().emplace_back();
       (c == 10 ? d.contornos.back().back().x : d.contornos.back().back().y) = std::stod(valor);
@@ -53,13 +58,20 @@ Dibujado Lee(const std::string& dxf) {
     } else if (tipo == "LINE" && c == 62) {
       d.lineas.back().color = std::stoi(valor);
     } else if (tipo == "TEXT" && (c == 10 || c == 20)) {
-      (c == 10 ? d.numeros.back().sitio.x : d.numeros.back().sitio.y) = std::stod(valor);
+      (c == 10 ? textos.back().sitio.x : textos.back().sitio.y) = std::stod(valor);
     } else if (tipo == "TEXT" && (c == 40 || c == 50)) {
-      (c == 40 ? d.numeros.back().altura : d.numeros.back().angulo) = std::stod(valor);
-    } else if (tipo == "TEXT" && (c == 1 || c == 62)) {
-      (c == 1 ? d.numeros.back().valor : d.numeros.back().color) = std::stoi(valor);
+      (c == 40 ? textos.back().altura : textos.back().angulo) = std::stod(valor);
+    } else if (tipo == "TEXT" && c == 1) {
+      textos.back().texto = valor;
+    } else if (tipo == "TEXT" && c == 62) {
+      textos.back().color = std::stoi(valor);
     }
   }
+  std::erase_if(d.lineas, [](const Linea& linea) { return linea.color == 7; });
+  std::ranges::copy_if(textos, std::back_inserter(d.numeros), [](const Rotulo& r) { return r.color == 1; });
+  std::ranges::copy_if(textos, std::back_inserter(d.valores), [](const Rotulo& r) { return r.color == 3; });
+  std::ranges::copy_if(textos, std::back_inserter(d.filas),
+                       [](const Rotulo& r) { return r.color == 7 && std::isdigit(r.texto[0]) != 0; });
   return d;
 }
 
@@ -76,6 +88,10 @@ Dibujado Desarrolla(bool dosPiezas, std::int16_t N, std::int16_t inicio, double 
   estado.iHandleDxf = 500;
   estado.dTamanoTexto = 10;
   estado.iColorDoblez = 3;
+  estado.iBox = 1;
+  estado.sDensidad = "7.85";
+  estado.dEspesor = 1.5;
+  estado.iUnidad = inicio == 1 ? 0 : 1;
   estado.bDosPiezas = dosPiezas;
   EWdraw axew;
   Sitio sitio;
@@ -88,18 +104,45 @@ Dibujado Desarrolla(bool dosPiezas, std::int16_t N, std::int16_t inicio, double 
 
 bool Juntos(Punto2 a, Punto2 b) { return Distancia(a, b) < 1e-6; }
 
+// A length cut to the decimals of the unit, but for a thousandth that the cut may have rounded up.
+void CompruebaTabla(const Rotulo* fila, const std::vector<double>& largos, std::size_t dobleces, std::size_t q) {
+  const bool mm = estado.iUnidad == 1;
+  const Punto2 esquina = fila->sitio;
+  Punto2 sitio = esquina;
+  for (std::size_t i = 0, enColumna = 0; i < largos.size(); ++i, ++enColumna, ++fila) {
+    // Side lines are the (q + 2)th and its multiples.
+    const bool pegada = i < dobleces ? (i + 1) % (q + 2) == 0 || (i > 0 && i % (q + 2) == 0) : i == dobleces;
+    if (enColumna > 0 && enColumna % 30 == 0 && !pegada) {
+      sitio = {sitio.x + 180, esquina.y};
+      enColumna = 0;
+    }
+    EXPECT_TRUE(Juntos(fila->sitio, sitio)) << "row " << i + 1;
+    sitio.y -= 22;
+    EXPECT_EQ(std::tuple(fila->altura, fila->angulo), std::tuple(11, 0));
+    const std::string cabeza = std::to_string(i + 1) + "  ", cola = i >= dobleces ? "" : mm ? " mm" : " in";
+    ASSERT_TRUE(fila->texto.starts_with(cabeza) && fila->texto.ends_with(cola)) << fila->texto;
+    const double paso = mm ? 0.01 : 0.001, largo = std::stod(fila->texto.substr(cabeza.size()));
+    EXPECT_TRUE(largo <= largos[i] + 0.00051 && largo > largos[i] - paso - 0.00051) << fila->texto << " " << largos[i];
+    EXPECT_NEAR(largo, paso * std::nearbyint(largo / paso), 1e-9) << fila->texto;
+  }
+}
+
 // One piece, whose outline runs along the circle, back along the corners, and to its first point twice. Fans on all
 // corners but the outer two, side lines between them; the numbers follow these lines, then the edges: corners and feet
 // of the side lines from left to right, the circle, the left and the right end.
-void CompruebaPieza(const std::vector<Punto2>& contorno, const Linea*& linea, const Numero*& numero, std::size_t q,
-                    std::size_t abanicos) {
+void CompruebaPieza(const std::vector<Punto2>& contorno, const Linea*& linea, const Rotulo*& numero,
+                    const Rotulo*& fila, std::size_t q, std::size_t abanicos) {
   const std::size_t nF = abanicos * q + 1;
   ASSERT_EQ(contorno.size(), nF + abanicos + (abanicos == 4 ? 5 : 4));
   std::vector<Punto2> F(contorno.begin(), contorno.begin() + static_cast<std::ptrdiff_t>(nF));
   std::vector<Punto2> C(contorno.rbegin() + 2, contorno.rend() - static_cast<std::ptrdiff_t>(nF));
   EXPECT_EQ(contorno[contorno.size() - 2], F[0]);
   std::vector<Punto2> medios, cadena{C[0], C[1]};
-  const auto lado = [&](Punto2 a, Punto2 b) { medios.push_back(0.5 * (a + b)); };
+  std::vector<double> largos;
+  const auto lado = [&](Punto2 a, Punto2 b) {
+    medios.push_back(0.5 * (a + b));
+    largos.push_back(Distancia(a, b));
+  };
   const auto dibujada = [&](Punto2 p, int color) {
     EXPECT_TRUE(Juntos(linea->p, p)) << "line " << medios.size() + 1;
     EXPECT_EQ(linea->color, color) << "line " << medios.size() + 1;
@@ -115,6 +158,7 @@ void CompruebaPieza(const std::vector<Punto2>& contorno, const Linea*& linea, co
       EXPECT_TRUE(Juntos(dibujada(F[k], 3)->q, C[abanico + 1]));
     }
   }
+  const std::size_t dobleces = medios.size();
   cadena.push_back(C[abanicos + 1]);
   for (std::size_t i = 1; i < cadena.size(); ++i) lado(cadena[i - 1], cadena[i]);
   for (std::size_t k = 1; k < nF; ++k) lado(F[k - 1], F[k]);
@@ -122,8 +166,39 @@ void CompruebaPieza(const std::vector<Punto2>& contorno, const Linea*& linea, co
   lado(F.back(), C[abanicos + 1]);
   for (std::size_t i = 0; i < medios.size(); ++i, ++numero) {
     EXPECT_TRUE(Juntos(numero->sitio, medios[i])) << "number " << i + 1;
-    EXPECT_EQ(numero->valor, static_cast<int>(i) + 1);
+    EXPECT_EQ(numero->texto, std::to_string(i + 1));
     EXPECT_EQ(std::tuple(numero->color, numero->altura, numero->angulo), std::tuple(1, 10, 0));
+  }
+  CompruebaTabla(fila, largos, dobleces, q);
+  fila += largos.size();
+}
+
+// The sheet figures, the last eight values: of the first outline, in both blocks.
+void CompruebaChapa(const Dibujado& d) {
+  const auto& contorno = d.contornos[0];
+  double area = 0, perimetro = 0;
+  Caja caja;
+  for (std::size_t i = 1; i < contorno.size(); ++i) {
+    const Punto2 p = contorno[i - 1], q = contorno[i];
+    area += (p.x * q.y - q.x * p.y) / 2;
+    perimetro += Distancia(p, q);
+    caja.Incluye({p.x, p.y, 0});
+  }
+  area = std::abs(area);
+  const bool mm = estado.iUnidad == 1;
+  const double rectangulo = (caja.maximo.x - caja.minimo.x) * (caja.maximo.y - caja.minimo.y);
+  const double peso = 7.85 * 1.5 * (mm ? 0.001 : 1), cm = mm ? 0.1 : 1, cm2 = mm ? 0.01 : 1;
+  const double figuras[]{7.85,
+                         perimetro * cm,
+                         area * cm2,
+                         rectangulo * cm2,
+                         area * peso,
+                         rectangulo * peso,
+                         (rectangulo - area) * cm2,
+                         100 - 100 * area / rectangulo};
+  for (std::size_t i = 0; i < 8; ++i) {
+    const double escrita = std::stod(d.valores[d.valores.size() - 8 + i].texto);
+    EXPECT_NEAR(escrita, figuras[i] - 0.005, 0.0056 + 1e-9 * figuras[i]) << "figure " << i;
   }
 }
 
@@ -131,9 +206,11 @@ void CompruebaMarcas(const Dibujado& d, int N) {
   const auto q = static_cast<std::size_t>(N / 4), piezas = d.contornos.size();
   ASSERT_EQ(d.lineas.size(), piezas == 1 ? 4 * q + 7 : 2 * (2 * q + 3));
   ASSERT_EQ(d.numeros.size(), piezas == 1 ? 8 * q + 17 : 2 * (4 * q + 9));
+  ASSERT_EQ(d.filas.size(), d.numeros.size());
   const Linea* linea = d.lineas.data();
-  const Numero* numero = d.numeros.data();
-  for (const auto& contorno : d.contornos) CompruebaPieza(contorno, linea, numero, q, 4 / piezas);
+  const Rotulo *numero = d.numeros.data(), *fila = d.filas.data();
+  for (const auto& contorno : d.contornos) CompruebaPieza(contorno, linea, numero, fila, q, 4 / piezas);
+  CompruebaChapa(d);
 }
 
 TEST(Marcas, OneNumberForEachLineAndEdge) {
@@ -156,39 +233,24 @@ TEST(Marcas, OneNumberForEachLineAndEdge) {
 }
 
 // A flat pattern made by hand, of one point for each fan, and each side line at its foot or in the middle.
-TEST(Marcas, SideLinesAndTheirRecords) {
+TEST(Marcas, SideLinesAndTheSplit) {
   for (const bool fueraLado : {false, true}) {
-    estado = {};
-    EWdraw axew;
     Transicion t;
     t.dPuntosPlano = {{-2, 3}, {-1, 4}, {0.5, 3}, {1, -5}, {2, 3}};
     t.dVerticesPlano = {{-6, 0}, {-5, 0}, {-2, 0}, {2, 0}, {5, 0}, {6, 0}};
     t.bFueraLado = fueraLado;
     t.bFueraCierre = !fueraLado;
-    const Punto2 pie1{fueraLado ? -3.5 : -1, 0}, pie2{fueraLado ? 0.5 : 0, 0}, alto2{0.5, 3}, bajo3{1, -5};
-    const double largo1 = fueraLado ? std::hypot(2.5, 4) : 4, largo2 = fueraLado ? 3 : std::hypot(0.5, 3),
-                 largo3 = fueraLado ? std::hypot(2.5, 5) : 5;
+    const Punto2 pie1{fueraLado ? -3.5 : -1, 0}, pie2{fueraLado ? 0.5 : 0, 0}, pie3{fueraLado ? 3.5 : 1, 0};
     CortePieza1(t);
-    EXPECT_TRUE(Juntos(t.dPieLado1P1, pie1));
-    EXPECT_DOUBLE_EQ(t.dLongLado1P1, largo1);
-    EXPECT_TRUE(Juntos(t.dCorteAlto, alto2));
-    EXPECT_TRUE(Juntos(t.dCorteBajo, pie2));
+    EXPECT_TRUE(Juntos(t.dCorteAlto, {0.5, 3}) && Juntos(t.dCorteBajo, pie2));
     EXPECT_TRUE(Juntos(t.dCorteBajo2, fueraLado ? Punto2{} : pie2));
-    EXPECT_DOUBLE_EQ(t.dLongCorte, fueraLado ? 0 : largo2);
-    GeneraDoblados(t, axew, Parte::entera);
-    EXPECT_TRUE(Juntos(t.dPieLado1, pie1));
-    EXPECT_TRUE(Juntos(t.dPieInicio, pie2));
-    EXPECT_TRUE(Juntos(t.dPieLado2, bajo3)) << "the circle's end hangs lower";
-    EXPECT_DOUBLE_EQ(t.dLongLado1, largo1);
-    EXPECT_DOUBLE_EQ(t.dLongInicio, largo2);
-    EXPECT_DOUBLE_EQ(t.dLongLado2, largo3);
-    t.dPtoBase = {1000, 70};
-    GeneraDoblados(t, axew, Parte::segunda);
-    EXPECT_TRUE(Juntos(t.dPieLado1, bajo3 + t.dPtoBase));
-    EXPECT_NEAR(t.dLongLado1, largo3, 1e-9);
-    GeneraDoblados(t, axew, Parte::primera);
-    EXPECT_TRUE(Juntos(t.dPieLado1, pie1 + t.dPtoBase));
-    EXPECT_NEAR(t.dLongLado1, largo1, 1e-9);
+    const auto entera = LineasNumeradas(t, Parte::entera);
+    const auto es = [](const LineaNumerada& l, Punto2 p, Punto2 q) { return Juntos(l.p, p) && Juntos(l.q, q); };
+    EXPECT_TRUE(es(entera[2], {-1, 4}, pie1) && es(entera[5], {0.5, 3}, pie2) && es(entera[8], {1, -5}, pie3));
+    EXPECT_TRUE(es(entera[12], {-5, 0}, pie1) && es(entera[15], pie2, {2, 0}));
+    EXPECT_TRUE(es(entera[16], {2, 0}, {1, -5}) && es(entera[17], {1, -5}, {5, 0})) << "the circle's end hangs lower";
+    EXPECT_TRUE(es(LineasNumeradas(t, Parte::primera)[8], {-2, 0}, t.dCorteBajo2));
+    EXPECT_TRUE(es(LineasNumeradas(t, Parte::segunda)[5], t.dCorteBajo2, {2, 0}));
   }
 }
 

@@ -18,7 +18,7 @@
 
 namespace duktores {
 
-inline constexpr int kEsquina = 103, kLado = 104;
+inline constexpr int kEsquina = 103, kLado = 104, kCajetin = 106;
 
 /// A piece typed into the dialog of its type, the texts of the fields apart by spaces. Places the shapes in a row and
 /// notes what it was asked for; refuses the pick after `limite` ones.

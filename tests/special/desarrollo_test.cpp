@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <random>
+#include <span>
 
 #include "ayudas.h"
 
@@ -118,6 +119,56 @@ TEST_P(Desarrollos, KeepTheLengthsOfThePieceInSpace) {
     }
   }
   EXPECT_GT(formas, 1500);
+}
+// Each shape is followed by its title block, with a row for each number: on every 36th element and the last one of a
+// sector, or at the sides of a panel.
+TEST_P(Desarrollos, RowsOfTheBlockAreTheNumberedLines) {
+  int bloques = 0;
+  for (int vez = 0; vez < 100; ++vez) {
+    const std::string textos = AlAzar(GetParam());
+    Corrida corrida(GetParam(), textos);
+    if (!corrida.aceptada || !Sensata({})) continue;
+    SCOPED_TRACE(textos);
+    estado.iBox = 1;
+    estado.iUnidad = static_cast<std::int16_t>(vez % 2);
+    DesarrollaEspecial(corrida.axew);
+    corrida.dibujado.push_back(corrida.axew.Entidades().size());
+    for (std::size_t i = 0; i + 1 < corrida.rotulos.size(); ++i) {
+      if (corrida.rotulos[i + 1] != Texto(kCajetin)) continue;
+      ++bloques;
+      const bool cono = corrida.rotulos[i].starts_with(Texto(kEsquina));
+      const std::span<const Entidad> todo(corrida.axew.Entidades());
+      const auto forma = todo.subspan(corrida.dibujado[i], corrida.dibujado[i + 1] - corrida.dibujado[i]);
+      const auto bloque = todo.subspan(corrida.dibujado[i + 1], corrida.dibujado[i + 2] - corrida.dibujado[i + 1]);
+      const auto& p = forma[0].puntos;
+      const std::size_t ultimo = (p.size() - 3) / 2;
+      std::vector<std::array<Punto3, 2>> lineas{{p[0], p[3]}, {p[1], p[2]}, {p[2], p[3]}, {p[0], p[1]}};
+      if (cono) lineas.clear();
+      for (std::size_t j = 0; cono && j < ultimo + 36; j += 36) {
+        lineas.push_back({p[std::min(j, ultimo)], p[2 * ultimo + 1 - std::min(j, ultimo)]});
+      }
+      std::size_t numeros = 0, filas = 0;
+      for (const Entidad& e : forma) {
+        if (e.tipo != TipoEntidad::texto) continue;
+        ASSERT_LT(numeros, lineas.size());
+        const auto& [a, b] = lineas[numeros];
+        EXPECT_LT(Distancia(e.puntos[0], 0.5 * (a + b) + Punto3{cono ? 0.0 : 1.0, 0, 0}), 1e-6);
+        EXPECT_EQ(e.texto, std::to_string(++numeros));
+      }
+      const bool mm = cono || estado.iUnidad == 1;
+      for (const Entidad& e : bloque) {
+        const std::string cabeza = std::to_string(filas + 1) + "  ";
+        if (e.tipo != TipoEntidad::texto || !e.texto.starts_with(cabeza)) continue;
+        const double largo = Distancia(lineas.at(filas)[0], lineas.at(filas)[1]);
+        const double escrito = std::stod(e.texto.substr(cabeza.size())), paso = mm ? 0.01 : 0.001;
+        EXPECT_TRUE(escrito < largo + 0.00051 && escrito > largo - paso - 0.00051) << e.texto << " " << largo;
+        EXPECT_TRUE(e.texto.ends_with(cono ? "" : mm ? " mm" : " in"));
+        ++filas;
+      }
+      EXPECT_TRUE(numeros == lineas.size() && filas == numeros) << corrida.rotulos[i];
+    }
+  }
+  EXPECT_GT(bloques, 150);
 }
 INSTANTIATE_TEST_SUITE_P(Tipos, Desarrollos,
                          testing::Values("TransEsp1", "TransEsp2", "TransEsp3", "TransEsp4", "TransEsp5"));

@@ -149,7 +149,7 @@ TEST(Desarrollo, ARefusedPickKeepsWhatIsDrawn) {
   const std::vector<std::string> rotulos{Texto(kEsquina) + " 1", Texto(kEsquina) + " 2", Texto(kLado) + " 2"};
   EXPECT_EQ(corrida.rotulos, rotulos) << "ring order, without side 1";
   EXPECT_EQ(corrida.Cuantas(TipoEntidad::contorno), 3);
-  EXPECT_EQ(estado.oDrawing->Count(), 3 + 4) << "and the panel's numbers";
+  EXPECT_EQ(estado.oDrawing->Count(), 3 + 4 + 2 * (3 + 1)) << "and the panel's numbers, the corners' marks";
 }
 
 TEST(Solido, CountsItsLinesAndLeavesOutThoseWithoutLength) {
