@@ -67,36 +67,38 @@ Chapa MideChapa(EWdraw& axew) {
   return chapa;
 }
 
-// In millimetres a block shows centimetres and grams, with a density per cubic centimetre.
+// In millimetres a block shows centimetres and grams, with a density per cubic centimetre: `escala` is what brings a
+// figure there.
 struct Magnitud {
-  double factor;  // of a figure in millimetres
+  double escala;
   std::string_view milimetros, pulgadas;
 };
-constexpr Magnitud kDensidad{1, "gr/(cm^3)", "oz/(in^3)"}, kLongitud{0.1, " cm", " in"},
+constexpr Magnitud kDensidad{1, "gr/(cm^3)", "oz/(in^3)"}, kLongitud{10, " cm", " in"},
     kArea{0.01, " (cm^2)", " (in^2)"}, kPeso{0.001, " gr", " oz"}, kParte{1, "", ""};
 
 struct FilaChapa {
   int texto;
   const Magnitud& magnitud;
-  double (*valor)(const Chapa&);
+  double (*valor)(const Chapa&, double escala);
 };
+double Desperdicio(const Chapa& c, double) { return c.rectangulo == 0 ? 0 : 100 - c.area * 100 / c.rectangulo; }
 // clang-format off
 constexpr int kTextoRectangulo = 31;
 constexpr FilaChapa kFilasChapa[]{
-    {28,               kDensidad, [](const Chapa& c) { return c.densidad; }},
-    {29,               kLongitud, [](const Chapa& c) { return c.perimetro; }},
-    {30,               kArea,     [](const Chapa& c) { return c.area; }},
-    {kTextoRectangulo, kArea,     [](const Chapa& c) { return c.rectangulo; }},
-    {32,               kPeso,     [](const Chapa& c) { return c.densidad * c.area * c.espesor; }},
-    {33,               kPeso,     [](const Chapa& c) { return c.densidad * c.rectangulo * c.espesor; }},
-    {34,               kArea,     [](const Chapa& c) { return c.rectangulo - c.area; }},
-    {35,               kParte,    [](const Chapa& c) { return c.rectangulo == 0 ? 0 : 100 - c.area * 100 / c.rectangulo; }},
+    {28,               kDensidad, [](const Chapa& c, double)   { return c.densidad; }},
+    {29,               kLongitud, [](const Chapa& c, double e) { return c.perimetro / e; }},
+    {30,               kArea,     [](const Chapa& c, double e) { return c.area * e; }},
+    {kTextoRectangulo, kArea,     [](const Chapa& c, double e) { return c.rectangulo * e; }},
+    {32,               kPeso,     [](const Chapa& c, double e) { return c.densidad * c.area * e * c.espesor; }},
+    {33,               kPeso,     [](const Chapa& c, double e) { return c.densidad * c.rectangulo * e * c.espesor; }},
+    {34,               kArea,     [](const Chapa& c, double e) { return (c.rectangulo - c.area) * e; }},
+    {35,               kParte,    Desperdicio},
 };
 // clang-format on
 
 std::string ValorChapa(const FilaChapa& fila, const Chapa& chapa, const EstiloCajetin& estilo) {
   const bool milimetros = estilo.siempreMilimetros || estado.iUnidad == 1;
-  const double valor = fila.valor(chapa) * (milimetros ? fila.magnitud.factor : 1);
+  const double valor = fila.valor(chapa, milimetros ? fila.magnitud.escala : 1);
   const int enPulgadas = fila.texto == kTextoRectangulo ? estilo.decimalesRectangulo : 3;
   return TextoCortado(valor, milimetros ? 2 : enPulgadas) +
          std::string(milimetros ? fila.magnitud.milimetros : fila.magnitud.pulgadas);
@@ -136,8 +138,8 @@ ListaLargos::ListaLargos(EWdraw& axew, const EstiloCajetin& estilo, Punto2 esqui
       sitio_(primera_),
       milimetros_(estilo.siempreMilimetros || estado.iUnidad == 1) {}
 
-void ListaLargos::Fila(double largo, bool conUnidad, bool salta) {
-  if (salta && enColumna_ > 0 && enColumna_ % kFilasColumna == 0) {
+void ListaLargos::Fila(double largo, bool conUnidad, Salto salto) {
+  if (salto == Salto::siLlena && enColumna_ > 0 && enColumna_ % kFilasColumna == 0) {
     sitio_ = {sitio_.x + 180, primera_.y};
     enColumna_ = 0;
   }

@@ -40,12 +40,15 @@ struct Renglon {
 /// column, which measures the first closed outline on the control. Returns the corner.
 Punto2 DibujaCajetin(EWdraw& axew, const EstiloCajetin& estilo, FilasCajetin filas, const std::vector<Renglon>& pieza);
 
+/// Whether a column of the list may end before a row.
+enum class Salto { siLlena, nunca };
+
 /// The lengths in the foot: rows of running number and length, 30 to a column.
 class ListaLargos {
  public:
   ListaLargos(EWdraw& axew, const EstiloCajetin& estilo, Punto2 esquina);
-  /// The next row. `conUnidad` writes the unit behind the length; a full column ends here only if `salta`.
-  void Fila(double largo, bool conUnidad, bool salta = true);
+  /// The next row; `conUnidad` writes the unit behind the length.
+  void Fila(double largo, bool conUnidad, Salto salto = Salto::siLlena);
 
  private:
   EWdraw& axew_;

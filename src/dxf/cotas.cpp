@@ -20,7 +20,6 @@ namespace {
 constexpr double kLadoFlecha = 3;  // drawing units, in inches too
 constexpr double kAnguloFlecha = 9;
 constexpr std::int16_t kColorCota = 4;
-constexpr double kSinLargo = 1e-6;
 
 std::string TextoMedida(double v) {
   const bool milimetros = estado.iUnidad == 1;
@@ -36,7 +35,7 @@ std::string TextoMedida(double v) {
 }
 
 /// From a measured point to one of its candidates for E; the other lies as far on the opposite side. On a slope the
-/// distance is not d: the dimension lines of the workshop's drawings stand there.
+/// distance is not d: its step along x is the root of d*d - 1, as in all drawings of the workshops.
 Punto2 HaciaCandidato(Punto2 M1, Punto2 M2, Punto2 P) {
   if (std::abs(M2.x - M1.x) <= 0.1) return {std::abs(M2.x - P.x), 0};
   const double m = (M2.y - M1.y) / (M2.x - M1.x);
@@ -92,6 +91,8 @@ void CotaEnPunto(EWdraw& axew, Punto2 p1, Punto2 p2, Punto2 enPunto, double altu
   DibujaTexto(axew, enPunto.x, enPunto.y, texto, altura, color, 0);
 }
 
+bool Coinciden(Punto2 p, Punto2 q) { return Distancia(p, q) <= 1e-6; }
+
 }  // namespace
 
 void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double xp, double yp, double altura,
@@ -106,12 +107,12 @@ void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double
 bool HayCotas() { return EnteroCorto(NumeroDeTexto(estado.sDimensiones)) == 1; }
 
 void Acota(EWdraw& axew, Punto2 p, Punto2 q, Punto2 paso) {
-  if (Distancia(p, q) <= kSinLargo) return;
+  if (Coinciden(p, q)) return;
   DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
 }
 
 void Extiende(EWdraw& axew, Punto2 p, Punto2 q) {
-  if (!(Distancia(p, q) <= kSinLargo)) DibujaLinea(axew, p, q, kColorCota);
+  if (!Coinciden(p, q)) DibujaLinea(axew, p, q, kColorCota);
 }
 
 }  // namespace duktores

@@ -49,53 +49,53 @@ Valor Entero() {
   return std::to_string(estado.*dato);
 }
 
-constexpr FilaPieza T(int texto, Valor (*valor)()) { return {nullptr, texto, false, valor}; }
-constexpr FilaPieza C(int texto, Valor (*valor)()) { return {nullptr, texto, true, valor}; }
-constexpr FilaPieza R(const char* rotulo, Valor (*valor)()) { return {rotulo, 0, false, valor}; }
+constexpr FilaPieza PorNumero(int texto, Valor (*valor)()) { return {nullptr, texto, false, valor}; }
+constexpr FilaPieza Comun(int texto, Valor (*valor)()) { return {nullptr, texto, true, valor}; }
+constexpr FilaPieza Literal(const char* rotulo, Valor (*valor)()) { return {rotulo, 0, false, valor}; }
 
 using E = EstadoPrograma;
 constexpr FilaPieza kFilasCR[]{
-    T(26, Nombre<11>),
-    T(24, Fibra),
-    T(25, Longitud<&E::dEspesor>),
-    R("H:", Longitud<&E::dAltura>),
-    R("RS:", Radio<&E::dRadioAlto>),
-    R("LI:", Lado<&E::dL1Base>),
-    R("AI:", Lado<&E::dL2Base>),
-    R("Alfa:", Angulo<&E::dAlfa>),
-    R("AX:", Desvio<&E::dAx>),
-    R("AY:", Desvio<&E::dAy>),
-    T(19, Entero<&E::iDivisiones>),
-    T(27, Entero<&E::iPosIni>),
+    PorNumero(26, Nombre<11>),
+    PorNumero(24, Fibra),
+    PorNumero(25, Longitud<&E::dEspesor>),
+    Literal("H:", Longitud<&E::dAltura>),
+    Literal("RS:", Radio<&E::dRadioAlto>),
+    Literal("LI:", Lado<&E::dL1Base>),
+    Literal("AI:", Lado<&E::dL2Base>),
+    Literal("Alfa:", Angulo<&E::dAlfa>),
+    Literal("AX:", Desvio<&E::dAx>),
+    Literal("AY:", Desvio<&E::dAy>),
+    PorNumero(19, Entero<&E::iDivisiones>),
+    PorNumero(27, Entero<&E::iPosIni>),
 };
 constexpr FilaPieza kFilasRC[]{
-    T(26, Nombre<12>),
-    T(24, Fibra),
-    T(25, Longitud<&E::dEspesor>),
-    R("H:", Longitud<&E::dAltura>),
-    R("LS:", Lado<&E::dL1BaseRC>),
-    R("AS:", Lado<&E::dL2BaseRC>),
-    R("Alfa:", Angulo<&E::dAlfa>),
-    R("RI:", RadioSiHay<&E::dRadioRC>),
-    R("AX:", Desvio<&E::dAx>),
-    R("AY:", Desvio<&E::dAy>),
-    T(19, Entero<&E::iDivisiones>),
-    T(27, Entero<&E::iPosIni>),
+    PorNumero(26, Nombre<12>),
+    PorNumero(24, Fibra),
+    PorNumero(25, Longitud<&E::dEspesor>),
+    Literal("H:", Longitud<&E::dAltura>),
+    Literal("LS:", Lado<&E::dL1BaseRC>),
+    Literal("AS:", Lado<&E::dL2BaseRC>),
+    Literal("Alfa:", Angulo<&E::dAlfa>),
+    Literal("RI:", RadioSiHay<&E::dRadioRC>),
+    Literal("AX:", Desvio<&E::dAx>),
+    Literal("AY:", Desvio<&E::dAy>),
+    PorNumero(19, Entero<&E::iDivisiones>),
+    PorNumero(27, Entero<&E::iPosIni>),
 };
 constexpr FilaPieza kFilasElip[]{
-    T(26, Nombre<50>),
-    T(24, Fibra),
-    T(25, Longitud<&E::dEspesor>),
-    C(51, Longitud<&E::dAltura>),
-    C(52, Radio<&E::dEjeMayorElip>),
-    C(53, Radio<&E::dEjeMenorElip>),
-    C(59, Lado<&E::dL1Elip>),
-    C(60, Lado<&E::dL2Elip>),
-    C(56, Angulo<&E::dAlfa>),
-    C(54, Desvio<&E::dAx>),
-    C(55, Desvio<&E::dAyElip>),
-    T(57, Entero<&E::inumDoblado>),
-    T(58, Entero<&E::iPosIniElip>),
+    PorNumero(26, Nombre<50>),
+    PorNumero(24, Fibra),
+    PorNumero(25, Longitud<&E::dEspesor>),
+    Comun(51, Longitud<&E::dAltura>),
+    Comun(52, Radio<&E::dEjeMayorElip>),
+    Comun(53, Radio<&E::dEjeMenorElip>),
+    Comun(59, Lado<&E::dL1Elip>),
+    Comun(60, Lado<&E::dL2Elip>),
+    Comun(56, Angulo<&E::dAlfa>),
+    Comun(54, Desvio<&E::dAx>),
+    Comun(55, Desvio<&E::dAyElip>),
+    PorNumero(57, Entero<&E::inumDoblado>),
+    PorNumero(58, Entero<&E::iPosIniElip>),
 };
 
 constexpr EstiloCajetin Estilo(double letraPrimera) {
@@ -120,7 +120,7 @@ void DibujaTabla(EWdraw& axew, const EstiloCajetin& estilo, Punto2 esquina, cons
   Clase anterior = Clase::doblez;
   for (const auto& [p, q, clase] : lineas) {
     const bool sigue = clase == Clase::lado || anterior == Clase::lado || (clase == Clase::borde && anterior != clase);
-    lista.Fila(Distancia(p, q), clase != Clase::borde, !sigue);
+    lista.Fila(Distancia(p, q), clase != Clase::borde, sigue ? Salto::nunca : Salto::siLlena);
     anterior = clase;
   }
 }

@@ -25,26 +25,27 @@ std::vector<Punto2> Contorno(const Transicion& t, int desde, int hasta, std::ini
 }
 
 // The outline hangs on the pointer until the pick has placed it.
-void ColocaPieza(Transicion& t, EWdraw& axew, int texto, std::vector<Punto2> contorno) {
+Punto2 ColocaPieza(EWdraw& axew, int texto, std::vector<Punto2> contorno) {
   estado.PoliContorno.clear();
   MuestraMensaje(Texto(texto), EstiloMensaje::informacion, "");
   axew.EwGhost(contorno);
-  Punto3 base;
-  axew.EwPickPoint(base.x, base.y, base.z);
-  t.dPtoBase = {base.x, base.y};
-  for (Punto2& p : contorno) p = p + t.dPtoBase;
+  Punto3 sitio;
+  axew.EwPickPoint(sitio.x, sitio.y, sitio.z);
+  const Punto2 base{sitio.x, sitio.y};
+  for (Punto2& p : contorno) p = p + base;
   estado.PoliContorno = std::move(contorno);
   DibujaPolilinea(axew, estado.PoliContorno);
+  return base;
 }
 
-// All that stands on the outline of a pattern, or of one piece of two.
-void Anota(const Transicion& t, EWdraw& axew, int N, Parte parte, const EstiloDesarrollo& estilo) {
+// All that stands on the outline of a pattern, or of one piece of two, which lies at `base`.
+void Anota(const Transicion& t, EWdraw& axew, int N, Parte parte, Punto2 base, const EstiloDesarrollo& estilo) {
   const std::vector<LineaNumerada> lineas = LineasNumeradas(t, parte);
   const bool cotas = HayCotas(), primero = parte != Parte::entera || estilo.cotasPrimero;
-  GeneraDoblados(axew, lineas, t.dPtoBase);
-  if (cotas && primero) GeneraCotas(axew, t, parte, estilo.cotas);
-  GeneraRestoNumeros(axew, lineas, t.dPtoBase);
-  if (cotas && !primero) GeneraCotas(axew, t, parte, estilo.cotas);
+  GeneraDoblados(axew, lineas, base);
+  if (cotas && primero) GeneraCotas(axew, t, parte, estilo.cotas, base);
+  GeneraRestoNumeros(axew, lineas, base);
+  if (cotas && !primero) GeneraCotas(axew, t, parte, estilo.cotas, base);
   axew.EwRegen();
   if (estilo.soloCaja1 ? estado.iBox != 1 : estado.iBox == 0) return;
   ColocaCajetin(axew, estilo.cajetin, static_cast<std::int16_t>(N), parte, lineas);
@@ -56,18 +57,18 @@ void Anota(const Transicion& t, EWdraw& axew, int N, Parte parte, const EstiloDe
 void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos, const EstiloDesarrollo& estilo) {
   const auto& C = t.dVerticesPlano;
   const int N = inumPuntos, h = N / 2;
-  t.dPtoBase = {};
   if (!estado.bDosPiezas) {
     estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
     DibujaPolilinea(axew, estado.PoliContorno);
-    Anota(t, axew, N, Parte::entera, estilo);
+    Anota(t, axew, N, Parte::entera, {}, estilo);
     return;
   }
   CortePieza1(t);
-  ColocaPieza(t, axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
-  Anota(t, axew, N, Parte::primera, estilo);
-  ColocaPieza(t, axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
-  Anota(t, axew, N, Parte::segunda, estilo);
+  const Punto2 base1 = ColocaPieza(axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  Anota(t, axew, N, Parte::primera, base1, estilo);
+  const Punto2 base2 =
+      ColocaPieza(axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  Anota(t, axew, N, Parte::segunda, base2, estilo);
 }
 
 }  // namespace duktores

@@ -121,7 +121,7 @@ void PonNiveles(Nombrados& puntos, const Transicion& t, Parte parte) {
   puntos[Max] = maximo;
 }
 
-Nombrados PuntosDe(const Transicion& t, Parte parte) {
+Nombrados PuntosDe(const Transicion& t, Parte parte, Punto2 base) {
   const auto& F = t.dPuntosPlano;
   const auto& C = t.dVerticesPlano;
   const int N = F.Cuenta() - 1;
@@ -133,14 +133,14 @@ Nombrados PuntosDe(const Transicion& t, Parte parte) {
   puntos[Der] = F(N + 1);
   puntos[DerOtro] = C(6);
   if (C(6).x > F(N + 1).x) std::swap(puntos[Der], puntos[DerOtro]);
-  for (Punto2& p : puntos) p = p + t.dPtoBase;
+  for (Punto2& p : puntos) p = p + base;
   return puntos;
 }
 
 }  // namespace
 
-void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista) {
-  const Nombrados p = PuntosDe(t, parte);
+void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista, Punto2 base) {
+  const Nombrados p = PuntosDe(t, parte, base);
   for (const Fila& fila : Filas(parte, lista)) {
     const double pasos = lista == ListaCotas::baseCircular ? fila.pasosCircular.value_or(fila.pasos) : fila.pasos;
     if (pasos == 0) continue;

@@ -12,7 +12,7 @@ namespace duktores {
 /// Which list of dimensions a pattern gets.
 enum class ListaCotas { baseRectangular, baseCircular };
 
-/// Draws the dimensions of a pattern, or of a piece of it, translated by `dPtoBase`. The pieces need CortePieza1.
-void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista);
+/// Draws the dimensions of a pattern, or of a piece of it, translated by `base`. The pieces need CortePieza1.
+void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista, Punto2 base);
 
 }  // namespace duktores

@@ -46,8 +46,16 @@ std::vector<LineaNumerada> LineasNumeradas(const Transicion& t, Parte parte) {
   const auto borde = [&](Punto2 a, Punto2 b) { lineas.push_back({a, b, Clase::borde}); };
   for (std::size_t i = 1; i < cadena.size(); ++i) borde(cadena[i - 1], cadena[i]);
   for (int k = primero * q + 1; k <= (ultimo + 1) * q; ++k) borde(F(k), F(k + 1));
-  segunda ? borde(t.dCorteBajo2, F(h + 1)) : borde(F(1), C(1));
-  primera ? borde(t.dCorteAlto, t.dCorteBajo) : borde(F(N + 1), C(6));
+  if (segunda) {
+    borde(t.dCorteBajo2, F(h + 1));
+  } else {
+    borde(F(1), C(1));
+  }
+  if (primera) {
+    borde(F(h + 1), t.dCorteBajo);
+  } else {
+    borde(F(N + 1), C(6));
+  }
   return lineas;
 }
 

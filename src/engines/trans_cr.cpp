@@ -76,7 +76,9 @@ void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double Radio
 }
 
 void clTransCR::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseRectangular, false, kCajetinCR, false});
+  duktores::GeneraDesarrollo(
+      modelo_, axew, inumPuntos,
+      {.cotas = ListaCotas::baseRectangular, .cotasPrimero = false, .cajetin = kCajetinCR, .soloCaja1 = false});
 }
 
 }  // namespace duktores

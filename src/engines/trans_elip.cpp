@@ -65,7 +65,9 @@ void clTransBaRectBoElip::GeneraPuntos(EWdraw& axew, double L1Base, double L2Bas
 }
 
 void clTransBaRectBoElip::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseRectangular, false, kCajetinElip, true});
+  duktores::GeneraDesarrollo(
+      modelo_, axew, inumPuntos,
+      {.cotas = ListaCotas::baseRectangular, .cotasPrimero = false, .cajetin = kCajetinElip, .soloCaja1 = true});
 }
 
 }  // namespace duktores

@@ -102,7 +102,9 @@ void clTransRC::ColocaInicio(const PosicionInicio& inicio, double L1Base, double
 }
 
 void clTransRC::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(modelo_, axew, inumPuntos, {ListaCotas::baseCircular, true, kCajetinRC, false});
+  duktores::GeneraDesarrollo(
+      modelo_, axew, inumPuntos,
+      {.cotas = ListaCotas::baseCircular, .cotasPrimero = true, .cajetin = kCajetinRC, .soloCaja1 = false});
 }
 
 }  // namespace duktores

@@ -118,7 +118,6 @@ LineaLado LineaDeLado(const Transicion& t, int turno) {
 
 void CortePieza1(Transicion& t) {
   const LineaLado corte = LineaDeLado(t, 2);
-  t.dCorteAlto = corte.alto;
   t.dCorteBajo = corte.bajo;
   t.dCorteBajo2 = t.bFueraCierre ? corte.Pie() : Punto2{};
 }

@@ -27,12 +27,9 @@ struct Transicion {
   bool bFueraCierre = false;  ///< the circle's centre projects at or beyond the half-length of the closing side
   bool bFueraLado = false;    ///< the same for the two sides next to the start side
 
-  // Two pieces: the line that splits the start side, in flat coordinates.
-  Punto2 dCorteAlto;   ///< its end on the circle, F(h+1)
+  // Two pieces: the line from F(h+1) that splits the start side, in flat coordinates.
   Punto2 dCorteBajo;   ///< its end on the rectangle, for the first piece
   Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot
-
-  Punto2 dPtoBase;  ///< the point picked for the piece at work, its translation; the origin for a pattern in one piece
 };
 
 /// What a start position means: `a0` is the angle of Q(1), `esquinas` are P(1) to P(4) in units of the sides, and the

@@ -111,14 +111,14 @@ TEST(Cotas, ListsOfThePatternAndItsPieces) {
   t.dPuntosPlano = {{-300, 250}, {-120, 310}, {0, 320}, {130, 300}, {330, 200}};
   t.dVerticesPlano = {{-310, 120}, {-260, 60}, {-90, 0}, {110, 0}, {270, 40}, {320, 100}};
   t.dCorteBajo2 = {5, -10};
-  const auto cotas = [&](Parte parte, ListaCotas lista) {
-    EWdraw axew;
-    t.dPtoBase = parte == Parte::entera ? Punto2{} : Punto2{1000, 0};
-    GeneraCotas(axew, t, parte, lista);
-    return std::to_string(axew.EwEntityCount()) + ":" + Textos(axew, t.dPtoBase);
-  };
   using enum Parte;
   using enum ListaCotas;
+  const auto cotas = [&](Parte parte, ListaCotas lista) {
+    EWdraw axew;
+    const Punto2 base = parte == entera ? Punto2{} : Punto2{1000, 0};
+    GeneraCotas(axew, t, parte, lista, base);
+    return std::to_string(axew.EwEntityCount()) + ":" + Textos(axew, base);
+  };
   EXPECT_EQ(cotas(entera, baseRectangular),
             "146:15,350=630.00|-285,-60=50.00|-370,90=60.00|-175,-30=170.00|-370,30=60.00|-430,185=130.00|"
             "10,-30=200.00|5,-90=630.00|190,-30=160.00|390,20=40.00|450,150=100.00|295,-60=50.00|390,70=60.00|");

@@ -242,7 +242,7 @@ TEST(Marcas, SideLinesAndTheSplit) {
     t.bFueraCierre = !fueraLado;
     const Punto2 pie1{fueraLado ? -3.5 : -1, 0}, pie2{fueraLado ? 0.5 : 0, 0}, pie3{fueraLado ? 3.5 : 1, 0};
     CortePieza1(t);
-    EXPECT_TRUE(Juntos(t.dCorteAlto, {0.5, 3}) && Juntos(t.dCorteBajo, pie2));
+    EXPECT_TRUE(Juntos(t.dCorteBajo, pie2));
     EXPECT_TRUE(Juntos(t.dCorteBajo2, fueraLado ? Punto2{} : pie2));
     const auto entera = LineasNumeradas(t, Parte::entera);
     const auto es = [](const LineaNumerada& l, Punto2 p, Punto2 q) { return Juntos(l.p, p) && Juntos(l.q, q); };
