@@ -14,6 +14,10 @@
 
 namespace duktores {
 
+inline constexpr std::int16_t kColorNumero = 1, kColorCota = 4;
+/// Lengths and differences up to this are noise: the points coincide, the heights are level.
+inline constexpr double kNivel = 1e-6;
+
 void DibujaLinea(EWdraw& axew, double x1, double y1, double x2, double y2, std::int16_t color);
 inline void DibujaLinea(EWdraw& axew, Punto2 p, Punto2 q, std::int16_t color) {
   DibujaLinea(axew, p.x, p.y, q.x, q.y, color);

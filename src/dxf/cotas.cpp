@@ -19,7 +19,6 @@ namespace {
 
 constexpr double kLadoFlecha = 3;  // drawing units, in inches too
 constexpr double kAnguloFlecha = 9;
-constexpr std::int16_t kColorCota = 4;
 
 std::string TextoMedida(double v) {
   const bool milimetros = estado.iUnidad == 1;
@@ -91,7 +90,7 @@ void CotaEnPunto(EWdraw& axew, Punto2 p1, Punto2 p2, Punto2 enPunto, double altu
   DibujaTexto(axew, enPunto.x, enPunto.y, texto, altura, color, 0);
 }
 
-bool Coinciden(Punto2 p, Punto2 q) { return Distancia(p, q) <= 1e-6; }
+bool Coinciden(Punto2 p, Punto2 q) { return Distancia(p, q) <= kNivel; }
 
 }  // namespace
 

@@ -11,7 +11,7 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kColorNumero = 1, kColorLado = 6;
+constexpr std::int16_t kColorLado = 6;
 
 // A number at the middle of the line p-q.
 void NumerosSoldadura(EWdraw& axew, std::size_t numero, Punto2 p, Punto2 q) {

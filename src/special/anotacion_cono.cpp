@@ -12,9 +12,6 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kColorNumero = 1, kColorCota = 4;
-constexpr double kNivel = 1e-6;  // nearer than this counts as level
-
 bool EstaSobre(Punto2 p, Punto2 q) { return p.y > q.y + kNivel; }
 
 // Glossary. I, F: the border elements, B their ends on the base rim, M on the other.
@@ -70,6 +67,7 @@ void AcotaApertura(EWdraw& axew, const Bordes& b, Punto2 A) {
   DibujaArcoCota(axew, A.x, A.y, R / 2, desde, hasta, estado.dTamanoTexto, kColorCota);
 }
 
+// Each element's length stands on a line of its own over the element's.
 void AcotaElementos(EWdraw& axew, const Sector& sector, Punto2 A) {
   for (std::size_t i = 0; i < sector.boca.size(); i += static_cast<std::size_t>(estado.MultinumDoblado)) {
     const Punto2 M = sector.boca[i];
@@ -80,13 +78,16 @@ void AcotaElementos(EWdraw& axew, const Sector& sector, Punto2 A) {
 }
 
 void AcotaBoca(EWdraw& axew, const Bordes& b, Punto2 A) {
-  const bool sobreI = EstaSobre(A, b.MI);
+  const bool sobreI = EstaSobre(A, b.MI), sobreF = EstaSobre(A, b.MF);
   const double nivel = sobreI ? A.y : std::max(b.MI.y, b.MF.y);
   const Punto2 pieI{b.MI.x, nivel}, pieF{b.MF.x, nivel};
   Acota(axew, pieI, pieF, {pieI.x, nivel + estado.dPasoTablaY});
-  if (!sobreI) b.MI.y < b.MF.y ? Extiende(axew, pieI, b.MI) : Extiende(axew, pieF, b.MF);
-  if (sobreI) Extiende(axew, {b.MI.x, A.y}, b.MI);
-  if (EstaSobre(A, b.MF)) Extiende(axew, {b.MF.x, A.y}, b.MF);
+  if (sobreI || b.MI.y < b.MF.y) {
+    Extiende(axew, pieI, b.MI);
+  } else {
+    Extiende(axew, pieF, b.MF);
+  }
+  if (sobreF) Extiende(axew, {b.MF.x, A.y}, b.MF);
 }
 
 }  // namespace

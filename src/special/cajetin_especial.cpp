@@ -18,7 +18,8 @@ using E = EstadoPrograma;
 
 enum class Bloque { cono, panel };
 
-// Entered radii and sides were corrected for the fibre; heights, offsets and the sides of TransEsp5 were not.
+// Entered radii were corrected for the fibre, and sides like radii, by half a thickness; heights, offsets and the sides
+// of TransEsp5 were not.
 struct FilaMedida {
   const char* rotulo;
   double E::*dato;

@@ -10,7 +10,8 @@
 
 namespace duktores {
 
-/// Asks for the place of a sector's block and draws it: all in millimetres, with the lengths of the marked elements.
+/// Asks for the place of a sector's block and draws it: in the forms of millimetres, whatever the unit, with the
+/// lengths of the marked elements.
 void GeneraCajetinCono(EWdraw& axew, const Sector& sector);
 
 /// The same for a panel A, B, C, D: in the configured unit, with the lengths of its sides in the order of their

@@ -12,9 +12,6 @@ namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kColorNumero = 1;
-constexpr double kNivel = 1e-6;  // nearer than this counts as level
-
 std::array<Punto2, 4> Aplana(const Lado& lado, Punto2 A) {
   const auto& [P11, P12, P21, P22] = lado;
   const Punto2 B = A - Punto2{Distancia(P11, P12), 0};
