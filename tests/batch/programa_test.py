@@ -1,9 +1,11 @@
 """Runs the installed duktores-batch as a user would. Usage: programa_test.py PROGRAM SAMPLES"""
 
 import collections
+import itertools
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -11,10 +13,42 @@ import tempfile
 import unittest
 
 import ezdxf
+import ezdxf.bbox
 
 PROGRAM, SAMPLES = (pathlib.Path(p).resolve() for p in sys.argv[1:3])
 GOOD = {"name": "good", "piece": "TransCR", "H": 300, "RS": 100, "LI": 400, "AI": "400", "AX": 0, "AY": 0,
         "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 1}
+CONFIG = ("[LANGUAGE]\nLanguage={3}\n[UNIT]\nUnit={2[0]}\n[DUCT]\nThickness={2[1]}\nSizetxt=10\nFiber={4}\n"
+          "BendColour=3\nDimensions={0}\nBox={1}\nDensity=7.85\n")
+CASES = list(itertools.product((0, 1), (0, 1), ((0, 1, "mm"), (1, 0.04, "in")), (
+    "SPANISH", "ENGLISH", "GERMAN", "FRENCH", "PORTUGUESE", "BASQUE", "CHINESE"), (1, 2, 3)))
+
+
+def sizes(job):
+    """Vertices, numbers and inner lines of the outlines of a job."""
+    n = job["Divisions"]
+    if "Pieces" not in job:
+        panels = {"TransEsp2": 2, "TransEsp3": 3}.get(job["piece"], 4)
+        return 4 * [(18 * n + 4, n // 4 + 1, n // 4 - 1)] + panels * [(6, 4, 0)]
+    return [(n + 10, 2 * n + 17, n + 7)] if job["Pieces"] == 1 else 2 * [(n // 2 + 7, n + 9, n // 2 + 3)]
+
+
+def in_inches(job):
+    """The same shape at about the same size."""
+    return {key: value if key in ("name", "piece", "Divisions", "Start", "Pieces", "Alfa", "Beta") else value / 25
+            for key, value in job.items()}
+
+
+def kind(entity):
+    return entity.dxftype(), entity.dxf.color
+
+
+def shapes(entities):
+    """Outlines and frames of title blocks, each with what is drawn after it."""
+    frame = "LINE", 7
+    starts = [i for i, e in enumerate(entities)
+              if e.dxftype() == "LWPOLYLINE" or kind(e) == frame != kind(entities[i - 1])]
+    return [entities[i:j] for i, j in itertools.pairwise([*starts, None])]
 
 
 class Batch(unittest.TestCase):
@@ -47,23 +81,48 @@ class Batch(unittest.TestCase):
         self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
         self.assertEqual([line.split(":")[0] for line in result.stdout.decode().splitlines()], [j["name"] for j in jobs])
         for job in jobs:
-            document = ezdxf.readfile(self.folder / "out" / (job["name"] + ".dxf"))
-            auditor = document.audit()
-            self.assertEqual((auditor.errors, auditor.fixes), ([], []), job["name"])
-            counts = collections.Counter(e.dxftype() for e in document.modelspace())
-            for outline in document.modelspace().query("LWPOLYLINE"):
-                self.assertEqual(outline[0], outline[-1], job["name"])
-            if "Pieces" not in job:  # a special piece: four corners, and a panel with four numbers and four dimensions a side
-                panels = counts["LWPOLYLINE"] - 4
-                self.assertEqual((0 <= panels <= 4, counts["TEXT"]), (True, 8 * panels), job["name"])
-                continue
-            whole, N = job["Pieces"] == 1, job["Divisions"]
-            self.assertEqual([len(outline) for outline in document.modelspace().query("LWPOLYLINE")],
-                             [N + 10] if whole else 2 * [N // 2 + 7], job["name"])
-            self.assertEqual((counts["TEXT"], counts["LINE"]), (2 * N + 17, N + 7) if whole else (2 * N + 18, N + 6))
-        hood = ezdxf.readfile(self.folder / "out/hood-400.dxf").modelspace()
-        boxes = [[v[0] for v in p] for p in hood.query("LWPOLYLINE")]
-        self.assertLess(max(boxes[0]), min(boxes[1]), "two pieces placed by the program lie apart")
+            self.expect_sound(job)
+
+    def expect_sound(self, job, dimensions=1, box=1, unit="mm"):
+        """Without fault to an outside reader, side by side, and with a row in its title block for every number."""
+        document = ezdxf.readfile(self.folder / "out" / (job["name"] + ".dxf"))
+        auditor = document.audit()
+        self.assertEqual((auditor.errors, auditor.fixes), ([], []), job)
+        drawn = shapes(list(document.modelspace()))
+        boxes = [ezdxf.bbox.extents([e for e in shape if e.dxftype() != "TEXT"], fast=True) for shape in drawn]
+        for left, right in itertools.pairwise(boxes):
+            self.assertLess(left.extmax.x, right.extmin.x, job)
+        found = []
+        for piece, block in zip(drawn[::1 + box], drawn[1::2] if box else itertools.repeat([])):
+            outline, kinds, block_kinds = piece[0], *(collections.Counter(map(kind, s)) for s in (piece, block))
+            numbers = [int(e.dxf.text) for e in piece if kind(e) == ("TEXT", 1)]
+            rows = [re.fullmatch(rf"(\d+)  \d+(\.\d+)?( {unit})?", e.dxf.text) for e in block if kind(e) == ("TEXT", 7)]
+            self.assertEqual(outline[0], outline[-1], job)
+            self.assertEqual(numbers, list(range(1, len(numbers) + 1)), job)
+            self.assertEqual([int(row[1]) for row in rows if row], box * numbers, job)
+            self.assertEqual((kinds["LINE", 7], block_kinds["LINE", 7], block_kinds["LINE", 4]), (0, 7 * box, 0), job)
+            self.assertEqual(min(kinds["LINE", 4], kinds["TEXT", 4], 1), dimensions, job)
+            found.append((len(outline), len(numbers), kinds["LINE", 3] + kinds["LINE", 6]))
+        self.assertEqual(sorted(found), sorted(sizes(job)), job)
+
+    def test_every_configuration(self):
+        """Draws every piece. The outside reader takes each with every mix of dimensions, block and unit."""
+        jobs = {job["piece"]: job for job in reversed(json.loads(SAMPLES.read_bytes()))}.values()
+        jobs = {"mm": list(jobs), "in": [in_inches(job) for job in jobs]}
+        ini, drawings = self.folder / "any.ini", set()
+        for i, (dimensions, box, unit, *words) in enumerate(CASES):
+            ini.write_text(CONFIG.format(dimensions, box, unit, *words))
+            result = self.run_batch(jobs[unit[2]], "--config", ini)
+            self.assertEqual(result.returncode, 0, (CASES[i], result.stdout))
+            for k, job in enumerate(jobs[unit[2]]):
+                text = (self.folder / "out" / (job["name"] + ".dxf")).read_bytes()
+                drawings |= {text} if box else set()
+                counts = [text.count(mark) for mark in (b"AcDbPolyline", b" 62\r\n7\r\n100\r\nAcDbLine")]
+                self.assertEqual(counts, [len(sizes(job)), 7 * box * len(sizes(job))], (CASES[i], job))
+                self.assertEqual(b" 62\r\n4\r\n" in text, dimensions == 1, (CASES[i], job))
+                if (i + k) % 16 == 0:
+                    self.expect_sound(job, dimensions, box, unit[2])
+        self.assertEqual(len(drawings), 8 * len(CASES) // 2, "every setting shows where there is a title block")
 
     def test_same_bytes_from_one_thread_and_from_many(self):
         jobs = json.loads(SAMPLES.read_bytes())
@@ -74,11 +133,14 @@ class Batch(unittest.TestCase):
             self.assertEqual(first, second, job["name"])
 
     def test_picks_place_the_pieces(self):
-        self.run_batch([{**GOOD, "Pieces": 2, "picks": [[1000, 0], [0, 2000]]}])
-        first, second = ezdxf.readfile(self.folder / "out/good.dxf").modelspace().query("LWPOLYLINE")
+        self.run_batch([{**GOOD, "Pieces": 2, "picks": [[1000, 0], [3000, 40], [0, 2000], [4000, 50]]}])
+        drawing = ezdxf.readfile(self.folder / "out/good.dxf").modelspace()
+        first, second = drawing.query("LWPOLYLINE")
         self.assertAlmostEqual(first[6][0], 1000)  # the top of the cut stands above the picked point
         self.assertAlmostEqual(second[0][0], 0)
         self.assertAlmostEqual(second[-3][1], 2000)
+        frames = drawing.query("LINE[color==7]")[::7]
+        self.assertEqual([tuple(line.dxf.start) for line in frames], [(3000, 40, 0), (4000, 50, 0)])
 
     def test_refused_jobs_say_why_and_the_others_are_written(self):
         cases = [({"RS": -5}, 'RS: "-5" can'), ({"RS": 1.234}, 'RS: "1.234"'), ({"H": "3x"}, 'H: "3x"'),

@@ -16,11 +16,12 @@ import ezdxf
 TOOLS = ("setpriv", "Xvfb", "openbox", "xdotool")
 FIELDS = {"H": 300, "RS": 95.5, "LI": 400, "AI": 300, "AX": 0, "AY": 25, "Alfa": -10}
 JOB = {"name": "pieza", "piece": "TransCR", **FIELDS, "Divisions": 24, "Start": 2, "Pieces": 2}
-CONFIG = "[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickness=2\nSizetxt=10\nFiber=2\nDensity=7.85\n"
+CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickness=2\nSizetxt=10\nFiber=2\n"
+          "BendColour=3\nDimensions=1\nDensity=7.85\nBox=1\n")
 # Places in the windows at their design sizes.
 UNFOLD, SAVE, LEAVE = (818, 35), (866, 35), (962, 35)
 MESSAGE = "duktores"  # what window managers show for an empty title
-PICKS = (300, 400), (700, 430)
+PICKS = (300, 400), (500, 150), (700, 430), (800, 200)  # each piece and its title block
 
 
 def until(what, condition, seconds=15):
@@ -136,10 +137,11 @@ def road(screen, program, file):
     fill(screen)
     viewer = screen.window("Rect. Circ. Transf.", but=dialog)
     screen.click(viewer, UNFOLD)
+    for place in PICKS[:-1]:
+        screen.answer(MESSAGE)
+        screen.click_until(MESSAGE, viewer, place)
     screen.answer(MESSAGE)
-    screen.click_until(MESSAGE, viewer, PICKS[0])
-    screen.answer(MESSAGE)
-    screen.click_until("Save the DXF", viewer, PICKS[1], then=SAVE)
+    screen.click_until("Save the DXF", viewer, PICKS[-1], then=SAVE)
     screen.xdotool("type", "--delay", 2, file.stem)
     screen.xdotool("key", "Return")
     screen.answer(MESSAGE)
@@ -156,9 +158,13 @@ def batch(program, folder, picks):
 
 
 def picks(placed, unplaced):
-    """Where the outlines of a file were placed, by the same ones at the origin."""
-    corners = [[p[0][:2] for p in ezdxf.readfile(f).modelspace().query("LWPOLYLINE")] for f in (placed, unplaced)]
-    return [[p[axis] - o[axis] for axis in (0, 1)] for p, o in zip(*corners, strict=True)]
+    """Where the outlines and title blocks of a file were placed, by the same ones at the origin."""
+    def corners(file):
+        drawing = ezdxf.readfile(file).modelspace()
+        frames = drawing.query("LINE[color==7]")[::7]
+        pieces = drawing.query("LWPOLYLINE")
+        return [p for piece, line in zip(pieces, frames, strict=True) for p in (piece[0], line.dxf.start)]
+    return [[p[axis] - o[axis] for axis in (0, 1)] for p, o in zip(corners(placed), corners(unplaced), strict=True)]
 
 
 def same_line(a, b):
@@ -186,7 +192,7 @@ def main():
             screen.log.seek(0)
             print(screen.log.read())
             raise
-        origin = batch(duct / "duktores-batch", folder / "origin", [[0, 0], [0, 0]])
+        origin = batch(duct / "duktores-batch", folder / "origin", [[0, 0]] * len(PICKS))
         places = picks(file, origin)
         again = batch(duct / "duktores-batch", folder / "again", places)
         lines = [f.read_bytes().split(b"\r\n") for f in (file, again, origin)]

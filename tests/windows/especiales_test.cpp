@@ -12,12 +12,22 @@ namespace {
 
 class VentanasEspeciales : public ConVentanas {
  protected:
-  // Types the values field by field, accepts, unfolds, places each shape by a click, and goes all the way back.
+  // Places what hangs on the pointer under the name `rotulo`.
+  void Coloca(int mensaje, const std::string& rotulo) {
+    usuario_.CierraMensaje(Texto(mensaje));
+    usuario_.Cuando("pick", [rotulo](QWidget& visor) {
+      const auto estadoVisor = Hijo<QLabel>(visor, "LblEstado").text().toStdString();
+      EXPECT_TRUE(estadoVisor.starts_with(rotulo + ": ")) << estadoVisor;
+      QTest::mouseClick(visor.findChild<Lienzo*>(), Qt::LeftButton, {}, {300, 200});
+    });
+  }
+  // Types the values field by field, accepts, unfolds, places each shape and its block, and goes all the way back.
   void Recorre(const DefDialogo& def, const std::vector<const char*>& valores, const std::vector<std::string>& formas) {
     estado.iDivisiones = 16;
     const std::string nombre(def.nombre);
     FrDialogo dialogo(def, "", nullptr);
     usuario_.Cuando(nombre, [&](QWidget& ventana) {
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana));
       EXPECT_EQ(Hijo<QLineEdit>(ventana, "TxtDivisiones").text(), "16");
       for (const char* valor : valores) {
         QTest::keyClicks(ventana.focusWidget(), valor);
@@ -25,15 +35,12 @@ class VentanasEspeciales : public ConVentanas {
       }
       Pulsa(ventana, "CmdAceptar");
       EXPECT_EQ(Hijo<QLabel>(ventana, "lblerror").text(), "");
+      EXPECT_EQ(estado.iDivisiones, 8) << "typed over what stood there";
     });
     usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdDesplegado"); });
     for (const std::string& forma : formas) {
-      usuario_.CierraMensaje(Texto(63));
-      usuario_.Cuando("pick", [forma](QWidget& visor) {
-        const auto estadoVisor = Hijo<QLabel>(visor, "LblEstado").text().toStdString();
-        EXPECT_TRUE(estadoVisor.starts_with(forma + ": ")) << estadoVisor;
-        QTest::mouseClick(visor.findChild<Lienzo*>(), Qt::LeftButton, {}, {300, 200});
-      });
+      Coloca(63, forma);
+      Coloca(65, Texto(106));
     }
     usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
       EXPECT_TRUE(Hijo(visor, "CmdSave").isEnabled());
@@ -48,7 +55,7 @@ class VentanasEspeciales : public ConVentanas {
   }
 };
 
-TEST_F(VentanasEspeciales, EightClicksPlaceThePieceOfRoundedCorners) {
+TEST_F(VentanasEspeciales, SixteenClicksPlaceThePieceOfRoundedCorners) {
   Recorre(
       kFrTransfEsp1,
       {"300", "40", "50", "60", "45", "80", "90", "100", "85", "300", "250", "500", "400", "30", "20", "10", "5", "8"},

@@ -102,6 +102,9 @@ class ConVentanas : public testing::Test {
     estado.iUnidad = 1;
     estado.iFibra = 3;
     estado.dEspesor = 2;
+    estado.dTamanoTexto = 10;
+    estado.sDimensiones = "1";
+    estado.iBox = 1;
     estado.plataforma = &plataforma_;
   }
   ~ConVentanas() override {

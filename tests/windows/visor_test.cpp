@@ -1,10 +1,12 @@
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 
 #include "dialogs/rectangulares.h"
 #include "dxf/dibujo.h"
 #include "shell/visor.h"
+#include "state/caracteres.h"
 #include "state/fichero.h"
 #include "state/textos.h"
 #include "windows/frm_view_unfold.h"
@@ -61,9 +63,11 @@ class Visor : public ConPieza {
   }
   /// Answers a pick by a click; `elegidos_` gets what the status line has said of its place.
   void Elige(int mensaje, QPoint sitio) {
-    Responde(mensaje, [this, sitio] {
+    Responde(mensaje, [this, mensaje, sitio] {
       EXPECT_EQ(QApplication::overrideCursor(), nullptr);
       Arrastra(*lienzo_, Qt::NoButton, {}, sitio);
+      const std::string rotulo = Hijo<QLabel>(visor_, "LblEstado").text().toStdString();
+      EXPECT_EQ(rotulo.starts_with(Texto(106) + ": "), mensaje == 65) << rotulo;
       elegidos_.push_back({apuntado_.x(), apuntado_.y(), 0});
       QTest::mouseClick(lienzo_, Qt::LeftButton, {}, sitio);
     });
@@ -115,10 +119,10 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
 }
 
 TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
+  constexpr int kMensajes[]{63, 65, 64, 65};
   for (const QPoint sitio : {QPoint(310, 200), QPoint(222, 133)}) {
     elegidos_.clear();
-    Elige(63, sitio);
-    Elige(64, sitio + QPoint(290, 40));
+    for (int i = 0; i < 4; ++i) Elige(kMensajes[i], sitio + i * QPoint(97, 13));
     AlAbrir([&] {
       Pulsa(visor_, "CmdDesplegado");
       const QImage desarrollo = Imagen();
@@ -134,8 +138,7 @@ TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
       Puntos vista;
       vista.puntos = elegidos_;
       propio.PonVista(&vista);
-      usuario_.CierraMensaje(Texto(63));
-      usuario_.CierraMensaje(Texto(64));
+      for (const int mensaje : kMensajes) usuario_.CierraMensaje(Texto(mensaje));
       EXPECT_EQ(Desplegado(propio), FinCorrida::completo);
       EXPECT_EQ(dibujo->GetEntities(), estado.oDrawing->GetEntities());
       EXPECT_EQ(desarrollo, Pintado(propio, desarrollo));
@@ -152,8 +155,18 @@ TEST_F(Visor, EscapeEndsAPickAndKeepsWhatIsDrawn) {
     EXPECT_EQ(Imagen(), antes) << "the hanging shape is in view at any size";
     QTest::keyClick(lienzo_, Qt::Key_Escape);
   };
+  // The block hangs by its upper left corner.
+  const auto expectCuelga = [this](QPoint sitio) {
+    Arrastra(*lienzo_, Qt::NoButton, {}, sitio);
+    const QImage imagen = Imagen();
+    EXPECT_NE(imagen.pixel(sitio + QPoint(5, 5)), imagen.pixel(1, 1));
+    EXPECT_EQ(imagen.pixel(sitio - QPoint(5, 5)), imagen.pixel(1, 1));
+  };
   Elige(63, {310, 200});
-  Responde(64, escape);
+  Responde(65, [&] {
+    for (const QPoint sitio : {QPoint(700, 50), QPoint(750, 80)}) expectCuelga(sitio);
+    escape();
+  });
   AlAbrir([&] {
     Pulsa(visor_, "CmdDesplegado");
     EXPECT_GT(estado.oDrawing->Count(), 0);
@@ -180,6 +193,7 @@ TEST_F(Visor, SavesTheDrawing) {
                     plantilla = estado.sRutaPrograma + "Template/Template.dxf";
   estado.bDosPiezas = false;
   estado.sRutaDuct = carpeta_.path().toStdString();
+  Elige(65, {500, 100});
   AlAbrir([&] {
     Pulsa(visor_, "CmdDesplegado");
     usuario_.Cuando("QFileDialog", [](QWidget& dialogo) { dialogo.close(); });
@@ -188,7 +202,7 @@ TEST_F(Visor, SavesTheDrawing) {
     usuario_.CierraMensaje("OK");
     Pulsa(visor_, "CmdSave");
     const std::string guardado = LeeFichero(fichero).value_or("");
-    EXPECT_NE(guardado.find(estado.oDrawing->GetEntities()), std::string::npos);
+    EXPECT_NE(Utf8DeCp1252(guardado).find(estado.oDrawing->GetEntities()), std::string::npos);
 
     Guarda(dentro);
     usuario_.CierraMensaje(Texto(80) + " " + dentro);
