@@ -5,7 +5,7 @@ import re
 import sys
 
 FLOORS = {"platform": 1, "geometry": 1, "state": 2, "viewer": 3, "dxf": 4, "engines": 5, "special": 5, "dialogs": 6,
-          "shell": 6, "paint": 7, "batch": 8, "windows": 8}
+          "check": 6, "shell": 7, "paint": 7, "batch": 8, "windows": 8}
 QT = ("paint", "batch", "windows")
 
 src = pathlib.Path(sys.argv[1])

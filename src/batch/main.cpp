@@ -46,7 +46,8 @@ std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
   if (resultado.rechazo) {
     return trabajo.nombre + ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
   }
-  return trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero);
+  return trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
+         (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso);
 }
 
 // Works the jobs on several threads and answers in the order of the list. Each thread has its own program state.
@@ -150,6 +151,7 @@ int main(int argc, char** argv) {
   app.add_flag("--pdf", ordenes.pdf, "the same as PDF");
   app.add_flag("--solid", ordenes.opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
   app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
+  app.add_flag("--strict", ordenes.opciones.estricto, "refuse a piece whose pattern isn't true to its solid");
   app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
       ->type_name("N")
       ->check(CLI::PositiveNumber);

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "batch/puntos_lote.h"
+#include "check/comprueba.h"
 #include "dialogs/dialogo.h"
 #include "dxf/escritor.h"
 #include "shell/visor.h"
@@ -130,9 +131,9 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
 }  // namespace
 
 Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
-  if (trabajo.rechazo) return {"", trabajo.rechazo};
+  if (trabajo.rechazo) return {"", "", trabajo.rechazo};
   const DefDialogo* def = DialogoDe(trabajo.pieza);
-  if (!def) return {"", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
+  if (!def) return {"", "", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
 
   PlataformaLote plataforma;
   estado.plataforma = &plataforma;
@@ -142,7 +143,13 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && !opciones.soloComprueba) {
     const std::string base = std::filesystem::path(opciones.carpeta) / trabajo.nombre;
+    const Solido solido = SolidoActual();
     resultado.rechazo = Desarrolla(axew, trabajo, plataforma);
+    if (!resultado.rechazo) {
+      const Veredicto veredicto = Comprueba(solido, axew);
+      if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
+      if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
+    }
     if (!resultado.rechazo) resultado.rechazo = Guarda(axew, base, opciones);
     if (!resultado.rechazo) resultado.fichero = base + ".dxf";
   }

@@ -16,11 +16,13 @@ struct Opciones {
   std::vector<Formato> imagenes;
   bool solido = false;  ///< pictures of the solid too
   bool soloComprueba = false;
+  bool estricto = false;  ///< a pattern that isn't true is refused
 };
 
-/// What was written (empty with `soloComprueba`), or why not.
+/// What was written (empty with `soloComprueba`), or why not; and what the check found wrong with the pattern.
 struct Resultado {
   std::string fichero;
+  std::string aviso;
   std::optional<Rechazo> rechazo;
 };
 

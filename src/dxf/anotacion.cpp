@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
@@ -139,6 +140,12 @@ void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices) {
   axew.EwBeginPolyline();
   for (const Punto2 p : vertices) axew.EwAddVertex(p.x, p.y, 0);
   axew.EwSetColor(axew.EwEndPolyline(true), 7);
+}
+
+void DibujaForma(EWdraw& axew, Forma forma, int numero, std::vector<Punto2> contorno) {
+  estado.PoliContorno = std::move(contorno);
+  DibujaPolilinea(axew, estado.PoliContorno);
+  estado.Formas.push_back({forma, numero, axew.EwEntityAt(axew.EwEntityCount() - 1)});
 }
 
 }  // namespace duktores

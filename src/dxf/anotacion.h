@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "geometry/puntos.h"
+#include "state/estado.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -43,6 +44,9 @@ void Extiende(EWdraw& axew, Punto2 p, Punto2 q);
 /// A closed outline, colour 7 on the control; in the file its first vertex stands again at the end. Nothing is drawn
 /// without a vertex.
 void DibujaPolilinea(EWdraw& axew, const std::vector<Punto2>& vertices);
+
+/// A shape of the pattern: its outline, by way of `estado.PoliContorno`, and its entry in `estado.Formas`.
+void DibujaForma(EWdraw& axew, Forma forma, int numero, std::vector<Punto2> contorno);
 
 /// Measures of the `iPieza`-th closed outline on the control; the outputs stay as they are if there are fewer.
 void MidePieza(EWdraw& axew, std::int16_t iPieza, double& dAreaPieza, double& dAreaRect, double& dPerimetro);

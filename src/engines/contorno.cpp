@@ -25,16 +25,15 @@ std::vector<Punto2> Contorno(const Transicion& t, int desde, int hasta, std::ini
 }
 
 // The outline hangs on the pointer until the pick has placed it.
-Punto2 ColocaPieza(EWdraw& axew, int texto, std::vector<Punto2> contorno) {
+Punto2 ColocaPieza(EWdraw& axew, int mitad, std::vector<Punto2> contorno) {
   estado.PoliContorno.clear();
-  MuestraMensaje(Texto(texto), EstiloMensaje::informacion, "");
+  MuestraMensaje(Texto(mitad == 1 ? kTextoColocar : kTextoColocarSegunda), EstiloMensaje::informacion, "");
   axew.EwGhost(contorno);
   Punto3 sitio;
   axew.EwPickPoint(sitio.x, sitio.y, sitio.z);
   const Punto2 base{sitio.x, sitio.y};
   for (Punto2& p : contorno) p = p + base;
-  estado.PoliContorno = std::move(contorno);
-  DibujaPolilinea(axew, estado.PoliContorno);
+  DibujaForma(axew, Forma::mitad, mitad, std::move(contorno));
   return base;
 }
 
@@ -58,16 +57,14 @@ void GeneraDesarrollo(Transicion& t, EWdraw& axew, std::int16_t inumPuntos, cons
   const auto& C = t.dVerticesPlano;
   const int N = inumPuntos, h = N / 2;
   if (!estado.bDosPiezas) {
-    estado.PoliContorno = Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)});
-    DibujaPolilinea(axew, estado.PoliContorno);
+    DibujaForma(axew, Forma::entera, 1, Contorno(t, 1, N + 1, {C(6), C(6), C(5), C(4), C(3), C(2), C(1)}));
     Anota(t, axew, N, Parte::entera, {}, estilo);
     return;
   }
   CortePieza1(t);
-  const Punto2 base1 = ColocaPieza(axew, kTextoColocar, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
+  const Punto2 base1 = ColocaPieza(axew, 1, Contorno(t, 1, h + 1, {t.dCorteBajo, C(3), C(2), C(1)}));
   Anota(t, axew, N, Parte::primera, base1, estilo);
-  const Punto2 base2 =
-      ColocaPieza(axew, kTextoColocarSegunda, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
+  const Punto2 base2 = ColocaPieza(axew, 2, Contorno(t, h + 1, N + 1, {C(6), C(5), C(4), t.dCorteBajo2}));
   Anota(t, axew, N, Parte::segunda, base2, estilo);
 }
 

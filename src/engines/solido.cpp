@@ -19,7 +19,8 @@ std::array<Punto3, 4> EsquinasCentradas(double L1, double L2, double z) {
   return {{{x, y, z}, {-x, y, z}, {-x, -y, z}, {x, -y, z}}};
 }
 
-void DibujaRectanguloYGeneratrices(EWdraw& axew, const std::array<Punto3, 4>& esquinas, const Puntos3& boca) {
+void DibujaRectanguloYGeneratrices(EWdraw& axew, const PuntosSolido& solido) {
+  const auto& [boca, esquinas] = solido;
   const auto linea = [&](Punto3 p, Punto3 q) { axew.EwSetColor(axew.EwAddLine(p, q), kColorSolido); };
   for (std::size_t lado = 4; lado > 0; --lado) linea(esquinas[lado % 4], esquinas[lado - 1]);
   const int q = (boca.Cuenta() - 1) / 4;

@@ -52,6 +52,14 @@ void ColocaSobreRectangulo(Transicion& t, const PosicionInicio& inicio, double L
 
 constexpr ReglasPlano kReglasCR{CirculoDerecha, EsquinaDerecha, CirculoIzquierda, EsquinaIzquierda, Cierre};
 
+PuntosSolido clTransCR::Solido(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
+                               double Ay, double Altura, double Inclinacion) {
+  const Punto3 centro{-Ax, -Ay, Altura};
+  return {
+      Boca(inumPuntos, [&](double a) { return Rota(EnCirculo(centro, RadioAlto, a), centro, kEjeY, -Inclinacion); }),
+      EsquinasCentradas(L1Base, L2Base, 0)};
+}
+
 void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
                              double Ay, double Altura, double Inclinacion, EWdraw& axew) {
   CursorEspera(true);
@@ -59,10 +67,7 @@ void clTransCR::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std
   const auto circulo = axew.EwAddCircle(centro, RadioAlto, {0, 0, 1});
   axew.EwRotate(circulo, centro, kEjeY, -Inclinacion);
   axew.EwSetColor(circulo, kColorSolido);
-
-  const Puntos3 boca =
-      Boca(inumPuntos, [&](double a) { return Rota(EnCirculo(centro, RadioAlto, a), centro, kEjeY, -Inclinacion); });
-  DibujaRectanguloYGeneratrices(axew, EsquinasCentradas(L1Base, L2Base, 0), boca);
+  DibujaRectanguloYGeneratrices(axew, Solido(L1Base, L2Base, RadioAlto, inumPuntos, Ax, Ay, Altura, Inclinacion));
 }
 
 void clTransCR::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double RadioTop, std::int16_t inumDoblado,

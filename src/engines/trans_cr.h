@@ -8,6 +8,7 @@
 
 #include <cstdint>
 
+#include "engines/solido.h"
 #include "engines/transicion.h"
 #include "viewer/ewdraw.h"
 
@@ -23,6 +24,10 @@ void ColocaSobreRectangulo(Transicion& modelo, const PosicionInicio& inicio, dou
 
 class clTransCR {
  public:
+  /// The solid's points, as GeneraDibujo shows them.
+  static PuntosSolido Solido(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
+                             double Ay, double Altura, double Inclinacion);
+
   /// Draws the solid on the control. `Inclinacion` in degrees.
   void GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax, double Ay,
                     double Altura, double Inclinacion, EWdraw& axew);

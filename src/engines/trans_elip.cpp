@@ -37,6 +37,15 @@ Punto3 EnElipse(Punto3 centro, double a, double b, double polar) {
 const ReglasPlano kReglasElip{CirculoDerecha, EsquinaDerecha, kReglasCR.circuloIzquierda, kReglasCR.esquinaIzquierda,
                               kReglasCR.cierre};
 
+PuntosSolido clTransBaRectBoElip::Solido(double L1Base, double L2Base, double RadioAlto, double RadioBajo,
+                                         std::int16_t inumPuntos, double Ax, double Ay, double Altura,
+                                         double Inclinacion) {
+  const Punto3 centro{-Ax, -Ay, Altura};
+  return {Boca(inumPuntos,
+               [&](double a) { return Rota(EnElipse(centro, RadioAlto, RadioBajo, a), centro, kEjeY, -Inclinacion); }),
+          EsquinasCentradas(L1Base, L2Base, 0)};
+}
+
 void clTransBaRectBoElip::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, double RadioBajo,
                                        std::int16_t inumPuntos, double Ax, double Ay, double Altura, double Inclinacion,
                                        EWdraw& axew) {
@@ -46,10 +55,8 @@ void clTransBaRectBoElip::GeneraDibujo(double L1Base, double L2Base, double Radi
   const auto elipse = axew.EwAddEllipse(centro, RadioAlto / 2, RadioBajo / 2, {0, 0, 1});
   axew.EwRotate(elipse, centro, kEjeY, -Inclinacion);
   axew.EwSetColor(elipse, kColorSolido);
-  const Puntos3 boca = Boca(inumPuntos, [&](double a) {
-    return Rota(EnElipse(centro, RadioAlto, RadioBajo, a), centro, kEjeY, -Inclinacion);
-  });
-  DibujaRectanguloYGeneratrices(axew, EsquinasCentradas(L1Base, L2Base, 0), boca);
+  DibujaRectanguloYGeneratrices(axew,
+                                Solido(L1Base, L2Base, RadioAlto, RadioBajo, inumPuntos, Ax, Ay, Altura, Inclinacion));
 }
 
 void clTransBaRectBoElip::GeneraPuntos(EWdraw& axew, double L1Base, double L2Base, double RadioTop, double RadioDown,

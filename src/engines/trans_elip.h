@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "engines/solido.h"
 #include "engines/transicion.h"
 #include "viewer/ewdraw.h"
 
@@ -17,6 +18,10 @@ extern const ReglasPlano kReglasElip;
 
 class clTransBaRectBoElip {
  public:
+  /// The solid's points, as GeneraDibujo shows them.
+  static PuntosSolido Solido(double L1Base, double L2Base, double RadioAlto, double RadioBajo, std::int16_t inumPuntos,
+                             double Ax, double Ay, double Altura, double Inclinacion);
+
   /// Draws the solid on the control.
   void GeneraDibujo(double L1Base, double L2Base, double RadioAlto, double RadioBajo, std::int16_t inumPuntos,
                     double Ax, double Ay, double Altura, double Inclinacion, EWdraw& axew);

@@ -47,16 +47,19 @@ Punto2 Cierre(const ParPuntos& AB, const Transicion& t, int m, int k) {
 
 constexpr ReglasPlano kReglasRC{CirculoDerecha, EsquinaDerecha, CirculoIzquierda, EsquinaIzquierda, Cierre};
 
+PuntosSolido clTransRC::Solido(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
+                               double Ay, double Altura, double Inclinacion) {
+  auto esquinas = EsquinasCentradas(L1Base, L2Base, Altura);
+  for (Punto3& esquina : esquinas) esquina = Rota(esquina, {0, 0, Altura}, kEjeY, -Inclinacion);
+  return {Boca(inumPuntos, [&](double a) { return EnCirculo({Ax, Ay, 0}, RadioAlto, a); }), esquinas};
+}
+
 void clTransRC::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, std::int16_t inumPuntos, double Ax,
                              double Ay, double Altura, double Inclinacion, EWdraw& axew) {
   CursorEspera(true);
   axew.EwClear();
   axew.EwSetColor(axew.EwAddCircle({Ax, Ay, 0}, RadioAlto, {0, 0, 1}), kColorSolido);
-  auto esquinas = EsquinasCentradas(L1Base, L2Base, Altura);
-  for (Punto3& esquina : esquinas) esquina = Rota(esquina, {0, 0, Altura}, kEjeY, -Inclinacion);
-  const Punto3 centro{Ax, Ay, 0};
-  const Puntos3 circulo = Boca(inumPuntos, [&](double a) { return EnCirculo(centro, RadioAlto, a); });
-  DibujaRectanguloYGeneratrices(axew, esquinas, circulo);
+  DibujaRectanguloYGeneratrices(axew, Solido(L1Base, L2Base, RadioAlto, inumPuntos, Ax, Ay, Altura, Inclinacion));
 }
 
 void clTransRC::GeneraPuntos(EWdraw&, double L1Base, double L2Base, double RadioTop, std::int16_t inumDoblado,

@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "state/estado.h"
+
 namespace duktores {
 
 const PosicionInicio& Inicio(std::int16_t iInicio) {
@@ -100,9 +102,77 @@ void ColocaCostura(Transicion& t, const ReglasPlano& reglas) {
   C(6) = reglas.cierre(AB, t, 5, N + 1);
 }
 
+// Where a height stands on the side a-b of the rectangle. The exact pattern takes the middle too where the foot would
+// fall beside the side.
+Punto2 PieDeLado(Punto2 alto, Punto2 a, Punto2 b, bool fuera) {
+  const Punto2 medio = PuntoMedio(b, a), pie = fuera ? medio : PieDePerpendicular(alto, a, b);
+  const bool aparte = Distancia(pie, medio) > Distancia(a, b) / 2;
+  return estado.iExacto != 0 && aparte ? medio : pie;
+}
+
+// The exact pattern: each triangle is a plane piece of the solid, and the frame of the edge that it shares with the one
+// before gives its third point. No root is chosen, so no facet can turn over.
+struct Arista {
+  Punto2 a, b;  // flat; the next point lies to the left of a-b
+  Punto3 A, B;  // in space
+
+  Punto2 Siguiente(Punto3 X) const {
+    const double largo = Distancia(A, B), largo2 = Distancia(a, b);
+    const Punto3 u = largo > 0 ? (1 / largo) * (B - A) : Punto3{1, 0, 0}, v = X - A;
+    const Punto2 u2 = largo2 > 0 ? (1 / largo2) * (b - a) : Punto2{1, 0};
+    const double adelante = Escalar(v, u), aparte = Norma(v - adelante * u);
+    return a + adelante * u2 + aparte * Punto2{-u2.y, u2.x};
+  }
+};
+
+// The start side and F(h+1) above it: from C(4) towards the F(h+1) that the engine gives, and along the X axis if that
+// isn't true.
+void PonPrimera(Transicion& t) {
+  constexpr double kCierto = 1e-6;
+  const auto &Q = t.dPuntos3D, &P = t.dVertices3D;
+  auto& C = t.dVerticesPlano;
+  Punto2& F = t.dPuntosPlano((t.dPuntosPlano.Cuenta() + 1) / 2);
+  const double largo = Distancia(P(1), Q(1)), dado = Distancia(C(4), F);
+  if (F.y > 0 && std::abs(dado - largo) < kCierto) {
+    F = C(4) + largo / dado * (F - C(4));
+    C(3) = Arista{C(4), F, P(1), Q(1)}.Siguiente(P(3));
+  } else {
+    C(3) = C(4) - Punto2{Distancia(P(1), P(3)), 0};
+    F = Arista{C(3), C(4), P(3), P(1)}.Siguiente(Q(1));
+  }
+}
+
+void ColocaTira(Transicion& t) {
+  const auto &Q = t.dPuntos3D, &P = t.dVertices3D;
+  auto &F = t.dPuntosPlano, &C = t.dVerticesPlano;
+  const int N = F.Cuenta() - 1, h = N / 2, q = N / 4;
+  PonPrimera(t);
+  for (int k = h + 2, m = 4; k <= N + 1; ++k) {
+    const int c = k - h;
+    F(k) = Arista{F(k - 1), C(m), Q(c - 1), P(m - 3)}.Siguiente(Q(c));
+    if (c == q + 1) {
+      C(5) = Arista{F(k), C(4), Q(c), P(1)}.Siguiente(P(2));
+      m = 5;
+    }
+  }
+  for (int k = h, m = 3; k >= 1; --k) {
+    const int c = N + 3 - k;
+    F(k) = Arista{C(m), F(k + 1), P(6 - m), Q(c - 1)}.Siguiente(Q(c));
+    if (k == q + 1 || k == 1) {
+      C(m - 1) = Arista{C(m), F(k), P(6 - m), Q(c)}.Siguiente(P(7 - m));
+      --m;
+    }
+  }
+  const Punto2 esquina = C(1);
+  C(1) = PieDeLado(F(1), esquina, C(2), t.bFueraCierre);
+  const Punto3 costura = P(5) + Distancia(C(1), esquina) / Distancia(C(2), esquina) * (P(4) - P(5));
+  C(6) = Arista{F(N + 1), C(5), Q(h + 1), P(2)}.Siguiente(costura);
+}
+
 }  // namespace
 
 void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas) {
+  if (estado.iExacto != 0) return ColocaTira(t);
   ColocaDerecha(t, ladoA, reglas);
   ColocaIzquierda(t, ladoA, ladoB, reglas);
   ColocaCostura(t, reglas);
@@ -112,14 +182,13 @@ LineaLado LineaDeLado(const Transicion& t, int turno) {
   const auto& C = t.dVerticesPlano;
   const Punto2 alto = t.dPuntosPlano(turno * (t.dPuntosPlano.Cuenta() - 1) / 4 + 1);
   const bool fuera = turno == 2 ? t.bFueraCierre : t.bFueraLado;
-  const Punto2 izquierda = C(turno + 1), derecha = C(turno + 2);
-  return {alto, fuera ? PuntoMedio(derecha, izquierda) : PieDePerpendicular(alto, izquierda, derecha)};
+  return {alto, PieDeLado(alto, C(turno + 1), C(turno + 2), fuera)};
 }
 
 void CortePieza1(Transicion& t) {
   const LineaLado corte = LineaDeLado(t, 2);
   t.dCorteBajo = corte.bajo;
-  t.dCorteBajo2 = t.bFueraCierre ? corte.Pie() : Punto2{};
+  t.dCorteBajo2 = t.bFueraCierre || estado.iExacto != 0 ? corte.Pie() : Punto2{};
 }
 
 double CalculaDistCentro(double Angulo, double Altura) { return Altura / std::tan(Radianes(Angulo)); }

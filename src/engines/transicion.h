@@ -71,13 +71,14 @@ Punto2 MasDerecha(const ParPuntos& AB);
 Punto2 MasIzquierda(const ParPuntos& AB);
 
 /// Lays the transition flat by true lengths. Needs Q, P, F(h+1), C(4), both flags, and the lists of F and C in their
-/// full size. `ladoA` is the length P(1)-P(2), `ladoB` that of P(1)-P(3). Circles that don't meet put their point at
+/// full size. With `estado.iExacto` the rules are not asked: the triangles are laid out as a strip, each beside the one
+/// before. `ladoA` is the length P(1)-P(2), `ladoB` that of P(1)-P(3). Circles that don't meet put their point at
 /// (0, 0).
 void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas);
 
 /// A side line: the height of the plane triangle between two fans, from F(k) to the side of the rectangle below it. It
 /// ends at the foot of the perpendicular, or at the middle of the side where the offset leaves the foot without
-/// meaning.
+/// meaning; with `estado.iExacto` also where the foot falls beside the side.
 struct LineaLado {
   Punto2 alto, bajo;  ///< on the circle, on the side
   /// The end with the smaller y.

@@ -34,8 +34,9 @@ inline double Escalar(Punto3 a, Punto3 b) { return a.x * b.x + a.y * b.y + a.z *
 inline Punto3 Vectorial(Punto3 a, Punto3 b) {
   return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
+inline double Norma(Punto3 p) { return std::sqrt(Escalar(p, p)); }
 inline double Distancia(Punto2 a, Punto2 b) { return std::hypot(b.x - a.x, b.y - a.y); }
-inline double Distancia(Punto3 a, Punto3 b) { return std::sqrt(Escalar(b - a, b - a)); }
+inline double Distancia(Punto3 a, Punto3 b) { return Norma(b - a); }
 
 /// A list of points that is indexed from 1, as the workshop numbers them: F(1), F(2), ... An index outside 1..n is a
 /// programming error and stops the program.

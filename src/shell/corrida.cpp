@@ -5,6 +5,7 @@
 #include <exception>
 #include <memory>
 #include <string_view>
+#include <tuple>
 
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
@@ -21,10 +22,25 @@ namespace duktores {
 
 namespace {
 
-void DibujaCR(EWdraw& axew) {
-  clTransCR motor;
-  motor.GeneraDibujo(estado.dL1Base, estado.dL2Base, estado.dRadioAlto, estado.iDivisiones, -estado.dAx, -estado.dAy,
-                     estado.dAltura, -estado.dAlfa, axew);
+constexpr std::int16_t kPasosEspecial = 36;  // steps round the circle to a division
+
+// What each engine's solid is made of; its view and the check take the same.
+auto ArgumentosCR() {
+  return std::tuple(estado.dL1Base, estado.dL2Base, estado.dRadioAlto, estado.iDivisiones, -estado.dAx, -estado.dAy,
+                    estado.dAltura, -estado.dAlfa);
+}
+auto ArgumentosRC() {
+  return std::tuple(estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.iDivisiones, -estado.dAx, -estado.dAy,
+                    estado.dAltura, -estado.dAlfa);
+}
+auto ArgumentosElip() {
+  return std::tuple(estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip, estado.iDivisiones,
+                    -estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa);
+}
+
+template <class Engine, auto argumentos>
+void Dibuja(EWdraw& axew) {
+  std::apply([&](auto... a) { Engine().GeneraDibujo(a..., axew); }, argumentos());
 }
 
 void DespliegaCR(EWdraw& axew) {
@@ -35,12 +51,6 @@ void DespliegaCR(EWdraw& axew) {
   motor.GeneraDesarrollo(axew, estado.inumDoblado);
 }
 
-void DibujaRC(EWdraw& axew) {
-  clTransRC motor;
-  motor.GeneraDibujo(estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.iDivisiones, -estado.dAx, -estado.dAy,
-                     estado.dAltura, -estado.dAlfa, axew);
-}
-
 void DespliegaRC(EWdraw& axew) {
   estado.inumDoblado = estado.iDivisiones;
   clTransRC motor;
@@ -49,47 +59,58 @@ void DespliegaRC(EWdraw& axew) {
   motor.GeneraDesarrollo(axew, estado.inumDoblado);
 }
 
-void DibujaElip(EWdraw& axew) {
-  clTransBaRectBoElip motor;
-  motor.GeneraDibujo(estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip, estado.iDivisiones,
-                     -estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa, axew);
-}
-
-// Unlike the other two this engine takes the tilt in degrees.
+// Unlike the other two this engine takes the tilt in degrees, and its usual pattern tilts against the solid's sense.
 void DespliegaElip(EWdraw& axew) {
   estado.inumDoblado = estado.iDivisiones;
   estado.MultinumDoblado = 20;
   clTransBaRectBoElip motor;
   motor.GeneraPuntos(axew, estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip,
-                     estado.inumDoblado, estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa,
-                     estado.iPosIniElip);
+                     estado.inumDoblado, estado.dAx, -estado.dAyElip, estado.dAltura,
+                     estado.iExacto != 0 ? estado.dAlfa : -estado.dAlfa, estado.iPosIniElip);
   motor.GeneraDesarrollo(axew, estado.inumDoblado);
 }
 
 void DibujaEspecial(EWdraw& axew) { GeneraDibujo3D(PiezaDeEstado(), estado.iDivisiones, axew); }
 
 void DespliegaEspecial(EWdraw& axew) {
-  estado.MultinumDoblado = 36;
+  estado.MultinumDoblado = kPasosEspecial;
   DesarrollaEspecial(axew);
+}
+
+Solido SolidoDeCR() { return EnOrden(std::apply(clTransCR::Solido, ArgumentosCR()), estado.iPosIni, 1); }
+Solido SolidoDeRC() { return EnOrden(std::apply(clTransRC::Solido, ArgumentosRC()), estado.iPosIni, -1); }
+
+// The usual pattern of an ellipse tilts against the solid's sense. Without an offset along X that is the solid seen
+// from its other end.
+Solido SolidoDeElip() {
+  auto argumentos = ArgumentosElip();
+  double &Ax = std::get<5>(argumentos), &Inclinacion = std::get<8>(argumentos);
+  if (estado.iExacto == 0 && Ax == 0) Inclinacion = -Inclinacion;
+  return EnOrden(std::apply(clTransBaRectBoElip::Solido, argumentos), estado.iPosIniElip, 1);
+}
+
+Solido SolidoDeEspecial() {
+  return SolidoEspecial{PiezaDeEstado(), kPasosEspecial * estado.iDivisiones, kPasosEspecial};
 }
 
 struct Motor {
   std::string_view clave;
   void (*dibuja)(EWdraw&);
+  Solido (*solido)();
   void (*despliega)(EWdraw&);
 };
 
 constexpr std::array kMotores{
-    Motor{"TransCR", DibujaCR, DespliegaCR},
-    Motor{"TransRC", DibujaRC, DespliegaRC},
-    Motor{"TransEsp1", DibujaEspecial, DespliegaEspecial},
-    Motor{"TransEsp2", DibujaEspecial, DespliegaEspecial},
-    Motor{"TransEsp3", DibujaEspecial, DespliegaEspecial},
-    Motor{"TransEsp4", DibujaEspecial, DespliegaEspecial},
-    Motor{"TransEsp5", DibujaEspecial, DespliegaEspecial},
+    Motor{"TransCR", Dibuja<clTransCR, ArgumentosCR>, SolidoDeCR, DespliegaCR},
+    Motor{"TransRC", Dibuja<clTransRC, ArgumentosRC>, SolidoDeRC, DespliegaRC},
+    Motor{"TransEsp1", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
+    Motor{"TransEsp2", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
+    Motor{"TransEsp3", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
+    Motor{"TransEsp4", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
+    Motor{"TransEsp5", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
 };
 // Any other key.
-constexpr Motor kMotorElip{"", DibujaElip, DespliegaElip};
+constexpr Motor kMotorElip{"", Dibuja<clTransBaRectBoElip, ArgumentosElip>, SolidoDeElip, DespliegaElip};
 
 const Motor& MotorActual() {
   const auto* motor = std::ranges::find(kMotores, estado.sTipoPieza, &Motor::clave);
@@ -103,9 +124,12 @@ void Dibuja3D(EWdraw& axew) {
   CursorEspera(false);
 }
 
+Solido SolidoActual() { return MotorActual().solido(); }
+
 FinCorrida Despliega(EWdraw& axew) {
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
+  estado.Formas.clear();
   try {
     MotorActual().despliega(axew);
     return FinCorrida::completo;

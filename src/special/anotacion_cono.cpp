@@ -28,7 +28,8 @@ void AcotaAltura(EWdraw& axew, double nivel, double paso, Punto2 p, Punto2 q) {
 }
 
 void AcotaAlturas(EWdraw& axew, const Sector& sector, const Bordes& b) {
-  double izquierda = sector.vertice.x, derecha = sector.vertice.x;
+  const double columna = sector.vertice.value_or(b.BI).x;
+  double izquierda = columna, derecha = columna;
   for (const auto* orilla : {&sector.base, &sector.boca}) {
     for (const Punto2 p : *orilla) {
       izquierda = std::min(izquierda, p.x);
@@ -77,9 +78,9 @@ void AcotaElementos(EWdraw& axew, const Sector& sector, Punto2 A) {
   }
 }
 
-void AcotaBoca(EWdraw& axew, const Bordes& b, Punto2 A) {
-  const bool sobreI = EstaSobre(A, b.MI), sobreF = EstaSobre(A, b.MF);
-  const double nivel = sobreI ? A.y : std::max(b.MI.y, b.MF.y);
+void AcotaBoca(EWdraw& axew, const Bordes& b, std::optional<Punto2> A) {
+  const bool sobreI = A && EstaSobre(*A, b.MI), sobreF = A && EstaSobre(*A, b.MF);
+  const double nivel = sobreI ? A->y : std::max(b.MI.y, b.MF.y);
   const Punto2 pieI{b.MI.x, nivel}, pieF{b.MF.x, nivel};
   Acota(axew, pieI, pieF, {pieI.x, nivel + estado.dPasoTablaY});
   if (sobreI || b.MI.y < b.MF.y) {
@@ -87,7 +88,7 @@ void AcotaBoca(EWdraw& axew, const Bordes& b, Punto2 A) {
   } else {
     Extiende(axew, pieF, b.MF);
   }
-  if (sobreF) Extiende(axew, {b.MF.x, A.y}, b.MF);
+  if (sobreF) Extiende(axew, {b.MF.x, A->y}, b.MF);
 }
 
 }  // namespace
@@ -112,6 +113,7 @@ void GeneraCotaCono(EWdraw& axew, const Sector& sector) {
   const Bordes b{sector.base.front(), sector.base.back(), sector.boca.front(), sector.boca.back()};
   AcotaAlturas(axew, sector, b);
   AcotaBase(axew, sector, b);
+  if (!sector.vertice) return AcotaBoca(axew, b, std::nullopt);
   const Punto2 A = Apice(b);
   AcotaApertura(axew, b, A);
   AcotaElementos(axew, sector, A);

@@ -2,6 +2,7 @@
 // The annotation of a cone sector as it lies on the sheet: bend lines, numbers, dimensions. A number stands on every
 // marked element; the list of lengths in the title block has a row for each.
 
+#include <optional>
 #include <vector>
 
 #include "geometry/puntos.h"
@@ -9,11 +10,10 @@
 
 namespace duktores {
 
-/// A sector in its place: both rims, element by element, and the origin of the development, where the uncut cone's
-/// elements met.
+/// A sector: both rims, element by element from left to right, and where the uncut cone's elements meet.
 struct Sector {
   std::vector<Punto2> base, boca;
-  Punto2 vertice;
+  std::optional<Punto2> vertice;  ///< none for a cylinder
 
   std::size_t Ultimo() const { return base.size() - 1; }
   /// Both border elements, and every `estado.MultinumDoblado`-th between them.
@@ -24,7 +24,8 @@ struct Sector {
 void DibujaDoblados(EWdraw& axew, const Sector& sector);
 
 /// Dimensions: heights at both sides, widths below and above, the opening at the point where the border elements meet,
-/// and the marked elements from there. Border elements that don't meet end them with ErrorCorrida.
+/// and the marked elements from there; a cylinder has none of the last two. Border elements that don't meet end them
+/// with ErrorCorrida.
 void GeneraCotaCono(EWdraw& axew, const Sector& sector);
 
 }  // namespace duktores

@@ -1,9 +1,7 @@
 #include "special/coloca.h"
 
 #include <string>
-#include <utility>
 
-#include "dxf/anotacion.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -16,11 +14,6 @@ Punto2 PideSitio(EWdraw& axew, Forma forma, int numero, const std::vector<Punto2
   Punto3 sitio;
   axew.EwPickPoint(sitio.x, sitio.y, sitio.z);
   return {sitio.x, sitio.y};
-}
-
-void DibujaForma(EWdraw& axew, std::vector<Punto2> contorno) {
-  estado.PoliContorno = std::move(contorno);
-  DibujaPolilinea(axew, estado.PoliContorno);
 }
 
 }  // namespace duktores

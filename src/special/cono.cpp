@@ -44,10 +44,12 @@ std::size_t Cuadrante(double Ax, double Ay) {
   return Ax < 0 ? 3 : 2;
 }
 
-// The rim starts on the side of the apex when the offset points across the corner, else opposite to it.
-double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
-  const double sx = iiTem <= 2 ? 1 : -1, sy = iiTem == 1 || iiTem == 4 ? 1 : -1, sentido = bCambio ? -1 : 1;
-  return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
+Sector Mueve(Sector sector, Punto2 v) {
+  for (auto* orilla : {&sector.base, &sector.boca}) {
+    for (Punto2& p : *orilla) p = p + v;
+  }
+  if (sector.vertice) sector.vertice = *sector.vertice + v;
+  return sector;
 }
 
 std::vector<Punto2> Contorno(const Sector& sector) {
@@ -58,6 +60,23 @@ std::vector<Punto2> Contorno(const Sector& sector) {
 }
 
 }  // namespace
+
+double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
+  const double sx = iiTem <= 2 ? 1 : -1, sy = iiTem == 1 || iiTem == 4 ? 1 : -1, sentido = bCambio ? -1 : 1;
+  return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
+}
+
+void ColocaSector(EWdraw& axew, int c, const std::optional<Sector>& sector, Punto2 ancla) {
+  estado.PoliContorno.clear();
+  const Punto2 sitio =
+      PideSitio(axew, Forma::esquina, c, sector ? Contorno(Mueve(*sector, Punto2{} - ancla)) : std::vector<Punto2>{});
+  if (!sector) return;
+  const Sector colocado = Mueve(*sector, sitio - ancla);
+  DibujaForma(axew, Forma::esquina, c, Contorno(colocado));
+  DibujaDoblados(axew, colocado);
+  if (HayCotas()) GeneraCotaCono(axew, colocado);
+  if (estado.iBox != 0) GeneraCajetinCono(axew, colocado);
+}
 
 void clCono::GeneraPuntos(double Radiobase, double RadioAlto, double Altura, int inumPuntos, double DistCentrox,
                           double DistCentroy, int iiTem, bool bCambio) {
@@ -143,36 +162,28 @@ void clCono::CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, b
   }
 }
 
-Sector clCono::SectorDe(Punto2 sitio) const {
-  Sector sector{{}, {}, sitio};
+// The development's apex is its origin.
+Sector clCono::SectorDelTramo() const {
+  Sector sector{{}, {}, Punto2{}};
   const auto [iHasiera, iBukaera] = *tramo_;
   for (int i = iHasiera; i <= iBukaera; ++i) {
-    sector.base.push_back(dDesBase_(i) + sitio);
-    sector.boca.push_back(dDesBoca_(i) + sitio);
+    sector.base.push_back(dDesBase_(i));
+    sector.boca.push_back(dDesBoca_(i));
   }
   return sector;
 }
 
 void clCono::GeneraDesarrollo1(EWdraw& axew, const PiezaEspecial& pieza, double Ax, double Ay, int inumPuntos,
                                int iiTem, bool bCambio) {
-  estado.PoliContorno.clear();
-  Punto2 ancla;
   if (dDesBase_.Cuenta() == inumPuntos + 1) {
     const double psi = std::atan2(std::abs(Ay), std::abs(Ax));
     tramo_ = EligeTramo(psi * (bCambio ? pieza.r1(iiTem) : pieza.r2(iiTem)), Ax, Ay, iiTem, bCambio);
-    // The pick is where element 1 of the uncut cone would end.
-    ancla = dDesBoca_(1);
   }
-  if (tramo_) CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
-  std::vector<Punto2> contorno;
-  if (tramo_) contorno = Contorno(SectorDe(Punto2{} - ancla));
-  const Punto2 base = PideSitio(axew, Forma::esquina, iiTem, contorno);
-  if (!tramo_) return;
-  const Sector sector = SectorDe(base - ancla);
-  DibujaForma(axew, Contorno(sector));
-  DibujaDoblados(axew, sector);
-  if (HayCotas()) GeneraCotaCono(axew, sector);
-  if (estado.iBox != 0) GeneraCajetinCono(axew, sector);
+  if (!tramo_) return ColocaSector(axew, iiTem, std::nullopt, {});
+  // The pick is where element 1 of the uncut cone would end.
+  const Punto2 ancla = dDesBoca_(1);
+  CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
+  ColocaSector(axew, iiTem, SectorDelTramo(), ancla);
 }
 
 }  // namespace duktores

@@ -17,6 +17,14 @@
 
 namespace duktores {
 
+/// Where the rim of a corner's cone starts: on the side of the apex (0) when the offset points across the corner, else
+/// opposite to it (pi). `x`, `y`: centre of the lower rim minus that of the upper one.
+double AnguloInicial(double x, double y, int iiTem, bool bCambio);
+
+/// Asks for the place of corner `c` and draws its sector there with its annotation; `ancla` is the point of the
+/// sector's frame that is placed. Without a sector nothing is drawn after the prompt.
+void ColocaSector(EWdraw& axew, int c, const std::optional<Sector>& sector, Punto2 ancla);
+
 class clCono {
  public:
   /// Lays the cone flat. `DistCentrox`, `DistCentroy`: centre of the lower rim minus that of the upper one; `iiTem`:
@@ -42,7 +50,7 @@ class clCono {
   int CalcPtoInicPtoFin(double s) const;
   std::optional<std::array<int, 2>> EligeTramo(double arco, double Ax, double Ay, int iiTem, bool bCambio) const;
   void CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, bool alDerecho);
-  Sector SectorDe(Punto2 sitio) const;  // `sitio` is that of the apex
+  Sector SectorDelTramo() const;
 
   std::vector<double> dLongBase_;  // true lengths from the apex, from element 1
   Puntos2 dDesBase_, dDesBoca_;

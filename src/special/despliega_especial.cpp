@@ -1,5 +1,6 @@
 #include "special/despliega_especial.h"
 
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "special/cono.h"
 #include "special/pieza.h"
 #include "special/rectangulo.h"
+#include "special/sector_exacto.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/numeros.h"
@@ -155,10 +157,14 @@ void SinParar(Trabajo trabajo) {
   }
 }
 
+bool BocaMasAncha(const PiezaEspecial& pieza, int c) {
+  const bool deUnRadio = Es("TransEsp2") || Es("TransEsp3");
+  return deUnRadio ? pieza.r2(c) <= pieza.r1(c) : pieza.r2(c) < pieza.r1(c);
+}
+
 void DesarrollaEsquina(EWdraw& axew, clCono& cono, PiezaEspecial pieza, int c, int n) {
-  const bool todasIguales = Es("TransEsp2") || Es("TransEsp3");
   const double r1 = pieza.r1(c), r2 = pieza.r2(c);
-  const bool bCambio = todasIguales ? r2 <= r1 : r2 < r1;
+  const bool bCambio = BocaMasAncha(pieza, c);
   const EsquinaEspecial esquina = Esquina(pieza, c);
   const double Dx = LejosDeCero(esquina.bajo.x - esquina.alto.x), Dy = LejosDeCero(esquina.bajo.y - esquina.alto.y);
   double mayor = bCambio ? r1 : r2;
@@ -170,14 +176,36 @@ void DesarrollaEsquina(EWdraw& axew, clCono& cono, PiezaEspecial pieza, int c, i
   cono.GeneraDesarrollo1(axew, pieza, Dx, Dy, n, c, bCambio);
 }
 
+void ColocaPanel(EWdraw& axew, clRectangulo& panel, const Lado& lado, int c) {
+  panel.GeneraDesarrollo(axew, lado, c);
+  if (HayCotas()) panel.GeneraCota(axew);
+  if (estado.iBox != 0) GeneraCajetinPanel(axew, panel.Piezas());
+}
+
 void DesarrollaLado(EWdraw& axew, clRectangulo& panel, PiezaEspecial pieza, int c) {
   if (Es("TransEsp3")) pieza.r2(1) = pieza.r2(2) = kRoce;
   Lado lado = LadoCortado(pieza, PlanoDeCorte(pieza), c);
   if (Iguales(lado[0], lado[1])) lado[0].x -= kRoce;
   if (!HayPanel(lado, c)) return;
-  panel.GeneraDesarrollo(axew, lado, c);
-  if (HayCotas()) panel.GeneraCota(axew);
-  if (estado.iBox != 0) GeneraCajetinPanel(axew, panel.Piezas());
+  ColocaPanel(axew, panel, lado, c);
+}
+
+// The exact pattern is that of the piece as its solid shows it. A corner without radii is an edge, a side without edges
+// a line: they have no shape.
+void DesarrollaExacto(EWdraw& axew, const PiezaEspecial& pieza, int n) {
+  const PlanoCorte plano = PlanoDeCorte(pieza);
+  clRectangulo panel;
+  for (int c = 1; c <= 4; ++c) {
+    SinParar([&] {
+      if (std::max(std::abs(pieza.r1(c)), std::abs(pieza.r2(c))) < kIgual) return;
+      const SectorAnclado exacto = SectorExacto(pieza, c, n, BocaMasAncha(pieza, c));
+      ColocaSector(axew, c, exacto.sector, exacto.ancla);
+    });
+    SinParar([&] {
+      const Lado lado = LadoCortado(pieza, plano, c);
+      if (!Iguales(lado[0], lado[1]) || !Iguales(lado[2], lado[3])) ColocaPanel(axew, panel, lado, c);
+    });
+  }
 }
 
 }  // namespace
@@ -185,9 +213,10 @@ void DesarrollaLado(EWdraw& axew, clRectangulo& panel, PiezaEspecial pieza, int 
 void DesarrollaEspecial(EWdraw& axew) {
   axew.EwClear();
   GuardaIniciales();
-  const PiezaEspecial pieza = Ajusta();
   const int n = estado.MultinumDoblado * estado.iDivisiones;
   estado.inumDoblado = EnteroCorto(n);
+  if (estado.iExacto != 0) return DesarrollaExacto(axew, PiezaDeEstado(), n);
+  const PiezaEspecial pieza = Ajusta();
   clCono cono;
   clRectangulo panel;
   for (int c = 1; c <= 4; ++c) {

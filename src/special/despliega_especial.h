@@ -6,8 +6,9 @@
 
 namespace duktores {
 
-/// Unfolds the special piece of `estado`. Its radii are adjusted there, so that every corner has a cone and every panel
-/// an edge, and stay so. A shape that can't be made draws nothing, and the next one follows.
+/// Unfolds the special piece of `estado`; with `estado.iExacto` as its solid shows it. Else its radii are adjusted
+/// there, so that every corner has a cone and every panel an edge, and stay so. A shape that can't be made draws
+/// nothing, and the next one follows.
 void DesarrollaEspecial(EWdraw& axew);
 
 }  // namespace duktores

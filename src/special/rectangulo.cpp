@@ -12,7 +12,20 @@ namespace duktores {
 
 namespace {
 
+// The exact panel lies in its own plane: along the upper edge, or along the lower one where the upper is a point.
+std::array<Punto2, 4> AplanaExacto(const Lado& lado, Punto2 A) {
+  const auto& [P11, P12, P21, P22] = lado;
+  const bool conBoca = Distancia(P11, P12) > 1e-9;
+  const Punto3 borde = conBoca ? P12 - P11 : P21 - P22, u = (1 / Norma(borde)) * borde;
+  const auto aparte = [&](Punto3 P) { return P - P11 - Escalar(P - P11, u) * u; };
+  const Punto3 abajo = Norma(aparte(P21)) > Norma(aparte(P22)) ? aparte(P21) : aparte(P22);
+  const Punto3 v = (1 / Norma(abajo)) * abajo;
+  const auto plano = [&](Punto3 P) { return A - Punto2{Escalar(P - P11, u), Escalar(P - P11, v)}; };
+  return {A, plano(P12), plano(P21), plano(P22)};
+}
+
 std::array<Punto2, 4> Aplana(const Lado& lado, Punto2 A) {
+  if (estado.iExacto != 0) return AplanaExacto(lado, A);
   const auto& [P11, P12, P21, P22] = lado;
   const Punto2 B = A - Punto2{Distancia(P11, P12), 0};
   const auto bajas = InterseccionCirculos(B, Distancia(P12, P21), A, Distancia(P11, P21));
@@ -30,7 +43,7 @@ void clRectangulo::GeneraDesarrollo(EWdraw& axew, const Lado& lado, int numero) 
   estado.PoliContorno.clear();
   const Punto2 sitio = PideSitio(axew, Forma::lado, numero, Contorno(Aplana(lado, {})));
   dPuntosPieza_ = Aplana(lado, sitio);
-  DibujaForma(axew, Contorno(dPuntosPieza_));
+  DibujaForma(axew, Forma::lado, numero, Contorno(dPuntosPieza_));
   DibujaNumerosLados(axew);
 }
 

@@ -39,6 +39,7 @@ void LeeConfiguracion() {
   estado.sDensidad = TextoDeNumero(LeeNumero("DUCT", "Density"));
   estado.iDivisiones = EnteroCorto(LeeNumero("DUCT", "NDivi"));
   estado.iBox = EnteroCorto(LeeNumero("DUCT", "Box"));
+  estado.iExacto = EnteroCorto(LeeNumero("DUCT", "Exact"));
 }
 
 }  // namespace

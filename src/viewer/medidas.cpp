@@ -13,8 +13,6 @@ namespace {
 /// Relative to the size of what is compared: far above the noise of turned coordinates, far below a workshop's eye.
 constexpr double kTolerancia = 1e-9;
 
-double Norma(Punto3 p) { return std::sqrt(Escalar(p, p)); }
-
 bool EsCurva(const Entidad& entidad) {
   return entidad.tipo == TipoEntidad::circulo || entidad.tipo == TipoEntidad::elipse ||
          entidad.tipo == TipoEntidad::arco;

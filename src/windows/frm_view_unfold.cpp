@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <array>
 
+#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "shell/corrida.h"
 #include "shell/visor.h"
@@ -45,6 +46,7 @@ QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 FrmViewUnfold::FrmViewUnfold(QWidget* padre)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
+      solido_(SolidoActual()),
       lienzo_(new Lienzo(EWdraw_, this)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
@@ -129,8 +131,9 @@ void FrmViewUnfold::CmdDesplegado() {
   FrmView_->setEnabled(false);
   FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
-  Desplegado(EWdraw_);
+  const FinCorrida fin = Desplegado(EWdraw_);
   if (!vivo) return;
+  if (fin == FinCorrida::completo) MuestraVeredicto();
   CmdDesplegado_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
 }
@@ -153,6 +156,8 @@ void FrmViewUnfold::MuestraEleccion(bool empieza) {
   CursorEspera(!empieza);
   FrmZoom_->setEnabled(!empieza);  // the left button places the shape; wheel and middle button still move the view
   LblEstado_->clear();
+  LblEstado_->setToolTip({});
+  LblEstado_->setStyleSheet({});
   if (empieza) lienzo_->setFocus();
 }
 
@@ -161,6 +166,14 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
   const std::string& rotulo = EWdraw_.RotuloFantasma();
   LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(kTextoElige)) +
                       QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
+}
+
+// A pattern that is not true is told in a colour that nobody overlooks; it never stops the work.
+void FrmViewUnfold::MuestraVeredicto() {
+  const Veredicto veredicto = Comprueba(solido_, EWdraw_);
+  LblEstado_->setText(Q(TextoVeredicto(veredicto)));
+  LblEstado_->setToolTip(LblEstado_->text());
+  if (!veredicto.Cierto()) LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
 }
 
 void FrmViewUnfold::done(int resultado) {

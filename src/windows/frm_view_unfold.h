@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "check/solido_mostrado.h"
 #include "viewer/ewdraw.h"
 #include "windows/lienzo.h"
 #include "windows/proporcion.h"
@@ -34,8 +35,10 @@ class FrmViewUnfold : public QDialog {
   void CmdSave();
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
+  void MuestraVeredicto();
 
   Proporcion proporcion_;
+  const Solido solido_;  // as it is shown: each unfolding changes the piece in `estado`
   EWdraw EWdraw_;
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;

@@ -22,7 +22,7 @@ TEST(Anotacion, DimensionsOfASector) {
   estado.iUnidad = estado.MultinumDoblado = 1;
   EWdraw axew;
   // The heights stand at the outermost point of both rims or the apex, the mouth's width at the apex.
-  Sector sector{{{-30, -100}, {0, -104}, {30, -100}}, {{-15, -50}, {0, -52}, {15, -50}}, {0, 0}};
+  Sector sector{{{-30, -100}, {0, -104}, {30, -100}}, {{-15, -50}, {0, -52}, {15, -50}}, Punto2{0, 0}};
   GeneraCotaCono(axew, sector);
   EXPECT_EQ(
       Textos(axew, 0, axew.Entidades().size()),
@@ -33,7 +33,7 @@ TEST(Anotacion, DimensionsOfASector) {
   for (auto* orilla : {&sector.base, &sector.boca}) {
     for (Punto2& p : *orilla) p = {p.x + 7, -p.y};
   }
-  sector.vertice = {-100, 0};
+  sector.vertice = Punto2{-100, 0};
   sector.boca[2].y = 40;
   sector.boca[2].x = 19;
   GeneraCotaCono(axew, sector);

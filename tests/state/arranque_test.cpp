@@ -36,7 +36,7 @@ class Arranque : public testing::Test {
     s.precision(16);
     s << e.dIdioma << ' ' << e.iUnidad << ' ' << e.sRutaDuct << ' ' << e.dEspesor << ' ' << e.dTamanoTexto << ' ';
     s << e.iFibra << ' ' << e.iColorDoblez << ' ' << e.sDimensiones << ' ' << e.sDensidad << ' ' << e.iDivisiones;
-    s << ' ' << e.iBox;
+    s << ' ' << e.iBox << ' ' << e.iExacto;
     return s.str();
   }
   fs::path raiz_ = fs::temp_directory_path() / ("duktores_state_" + std::to_string(getpid()));
@@ -51,8 +51,8 @@ TEST_F(Arranque, PlacesAndConfiguration) {
   estado.sTipoPieza = "TransCR";
   EXPECT_EQ(
       Lanza("[DUCT]\r\nPath=/cut/new\r\nThickness=1.25\r\nSizetxt=6\r\nFiber=3\r\nBendColour=2.5\r\nDimensions=1.0\r\n"
-            "Density=7.85\r\nNDivi=70000\r\nBox=-1\r\n[UNIT]\r\nUnit=0\r\n[LANGUAGE]\r\nLanguage=CHINESE\r\n"),
-      "60000 1 /cut/new 1.25 6 3 2 1 7.85 0 -1");
+            "Density=7.85\r\nNDivi=70000\r\nBox=-1\r\nExact=2\r\n[UNIT]\r\nUnit=0\r\n[LANGUAGE]\r\nLanguage=CHINESE\r\n"),
+      "60000 1 /cut/new 1.25 6 3 2 1 7.85 0 -1 2");
   EXPECT_EQ(estado.sRutaBase + " " + estado.sRutaPrograma, raiz_.string() + "/ " + raiz_.string() + "/Duct/");
   EXPECT_TRUE(estado.hVentanaHost == 7 && estado.plataforma == &plataforma && estado.sTipoPieza.empty());
 
@@ -80,15 +80,15 @@ TEST_F(Arranque, UnitLanguageAndThickness) {
 }
 
 TEST_F(Arranque, AFileThatIsNoneReadsAsEmpty) {
-  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0") << "missing";
+  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0 0") << "missing";
   ASSERT_EQ(mkfifo(ini_.c_str(), 0600), 0);
-  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0") << "a pipe, on which one could wait for ever";
+  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0 0") << "a pipe, on which one could wait for ever";
 }
 
 TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
   for (const char* local : {"C", "no_such_LOCALE"}) {
     setenv("LC_ALL", local, 1);
-    EXPECT_EQ(Lanza("[DUCT]\nThickness=1.5\nDensity=7.85\n"), "0 1  1.5 0 0 0 0 7.85 0 0") << local;
+    EXPECT_EQ(Lanza("[DUCT]\nThickness=1.5\nDensity=7.85\n"), "0 1  1.5 0 0 0 0 7.85 0 0 0") << local;
   }
   const std::string local = raiz_ / "es_ES";
   EscribeFichero(local + ".def", "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
@@ -97,7 +97,7 @@ TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
   const auto enEspanol = [&] {
     setenv("LOCPATH", raiz_.c_str(), 1);
     setenv("LC_ALL", "es_ES", 1);
-    return Lanza() == "0 1  1.5 0 0 0 0 7,85 0 0";
+    return Lanza() == "0 1  1.5 0 0 0 0 7,85 0 0 0";
   };
   // In a process of its own: the C library keeps what it allocates for LOCPATH.
   EXPECT_EXIT(std::_Exit(enEspanol() ? 0 : 1), testing::ExitedWithCode(0), "");

@@ -1,0 +1,56 @@
+#include "check/cotejo.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "check/cruce.h"
+
+namespace duktores {
+
+namespace {
+
+// A facet of less height has no sides to tell apart.
+constexpr double kSinAltura = 1e-3;
+
+double Largo2(Punto2 v) { return std::sqrt(v.x * v.x + v.y * v.y); }
+
+}  // namespace
+
+void Cotejo::Largo(Punto2 p, Punto2 q, double verdadero) {
+  const double error = std::abs(Largo2(q - p) - verdadero);
+  largo_.Anota(std::isfinite(error) ? error : HUGE_VAL, p, q);
+}
+
+void Cotejo::Cara(Punto2 a, Punto2 b, Punto2 c, double signo) {
+  const Punto2 u = b - a, v = c - a;
+  const double doble = signo * (u.x * v.y - u.y * v.x);
+  if (!(doble < 0)) return;
+  const double altura = -doble / std::max({Largo2(u), Largo2(v), Largo2(c - b)});
+  if (altura > kSinAltura) vuelta_.Anota(altura, a, 0.5 * (b + c));
+}
+
+void Cotejo::Numero(Punto2 p, Punto2 q, Punto2 aparte) {
+  if (!forma_->HayNumero(0.5 * (p + q) + aparte)) numero_.Anota(1, p, q);
+}
+
+void Cotejo::Doblez(Punto2 p, Punto2 q) {
+  if (!forma_->HayLinea(p, q)) doblez_.Anota(1, p, q);
+}
+
+void Cotejo::Numeros(std::size_t cuantos) {
+  if (!forma_->NumerosHasta(cuantos)) numero_.Anota(1, forma_->contorno.front(), forma_->contorno.front());
+}
+
+void Cotejo::Cierra(Veredicto& veredicto) const {
+  const auto anota = [&](Falta falta, const Peor& peor, double medida) {
+    veredicto.defectos.push_back({falta, forma_->Donde(peor.sitio), medida});
+  };
+  veredicto.desviacion = std::max({veredicto.desviacion, largo_.medida});
+  if (largo_.medida > ToleranciaPatron()) anota(Falta::largo, largo_, largo_.medida);
+  if (vuelta_.medida > 0) anota(Falta::vuelta, vuelta_, 0);
+  if (const auto cruce = Cruce(forma_->contorno, kSinAltura)) anota(Falta::cruce, {1, *cruce}, 0);
+  if (numero_.medida > 0) anota(Falta::numeros, numero_, 0);
+  if (doblez_.medida > 0) anota(Falta::doblez, doblez_, 0);
+}
+
+}  // namespace duktores

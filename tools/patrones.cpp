@@ -1,0 +1,104 @@
+// Unfolds random pieces by both rules and prints what the check finds: patrones [PIECES OF EACH TYPE] [SEED]
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <random>
+#include <string>
+
+#include "check/comprueba.h"
+#include "piezas_azar.h"
+#include "shell/visor.h"
+#include "state/estado.h"
+
+namespace {
+
+using namespace duktores;
+
+// Places everything at the origin.
+struct Mesa : VistaEWdraw {
+  std::optional<Punto3> EligePunto(EWdraw&) override { return Punto3{}; }
+};
+
+struct Cuenta {
+  int piezas = 0, ciertas = 0;
+  double peor = 0;  // deviation of those that are true
+  std::map<Falta, int> con;
+  int delReves = 0;  // of those that are not true
+};
+
+void Pon(Cuenta& cuenta, const Veredicto& veredicto, bool delReves) {
+  ++cuenta.piezas;
+  if (veredicto.Cierto()) {
+    ++cuenta.ciertas;
+    cuenta.peor = std::max(cuenta.peor, veredicto.desviacion);
+  }
+  if (!veredicto.Cierto() && delReves) ++cuenta.delReves;
+  std::map<Falta, int> una;
+  for (const Defecto& defecto : veredicto.defectos) una[defecto.falta] = 1;
+  for (const auto& [falta, uno] : una) cuenta.con[falta] += uno;
+}
+
+std::string Campos(const Dialogo& dialogo) {
+  std::string texto;
+  const auto campos = dialogo.Definicion().campos;
+  for (std::size_t i = 0; i < campos.size(); ++i) {
+    texto += std::string(campos[i].palabra) + "=" + dialogo.CampoDe(static_cast<int>(i)).texto + " ";
+  }
+  return texto + (dialogo.dosPiezas ? "Pieces=2" : "Pieces=1");
+}
+
+std::pair<Veredicto, bool> Una(EWdraw& axew, const Dialogo& dialogo, std::int16_t exacto) {
+  estado.iExacto = exacto;
+  Dialogo copia = dialogo;
+  if (copia.CmdAceptar() != Respuesta::aceptado) std::abort();
+  const Solido solido = SolidoActual();
+  const bool delReves = DelReves();
+  Desplegado(axew);
+  return {Comprueba(solido, axew), delReves};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int piezas = argc > 1 ? std::atoi(argv[1]) : 1000;
+  std::mt19937 azar(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
+  const bool lista = argc > 3;
+  Mesa mesa;
+  EWdraw axew;
+  axew.PonVista(&mesa);
+  std::printf(
+      "| piece | rule | pieces | true | worst true | length | turned | missing | crossing | neighbours | numbers, "
+      "bends | inside out |\n|---|---|---|---|---|---|---|---|---|---|---|---|\n");
+  for (const auto tipo : TiposDePieza()) {
+    Cuenta cuentas[2];
+    while (cuentas[0].piezas < piezas) {
+      estado = {};
+      estado.iUnidad = 1;
+      estado.iFibra = static_cast<std::int16_t>(1 + static_cast<int>(azar() % 3));
+      estado.dEspesor = 1;
+      estado.dTamanoTexto = 10;
+      estado.iColorDoblez = 3;
+      estado.sTipoPieza = "";
+      Dialogo dialogo(*DialogoDe(tipo));
+      TecleaPieza(dialogo, azar);
+      if (Dialogo(dialogo).CmdAceptar() != Respuesta::aceptado) continue;
+      const EstadoPrograma antes = estado;
+      for (const std::int16_t exacto : {std::int16_t{0}, std::int16_t{1}}) {
+        estado = antes;
+        const auto [v, delReves] = Una(axew, dialogo, exacto);
+        Pon(cuentas[exacto], v, delReves);
+        if (lista && exacto == std::atoi(argv[3]) && !delReves && (!v.Cierto() || (exacto && v.desviacion > 1e-6)))
+          std::printf("%s: %s\n   %s (%g)\n", tipo.data(), Campos(dialogo).c_str(), TextoVeredicto(v).c_str(),
+                      v.desviacion);
+      }
+    }
+    for (const int exacto : {0, 1}) {
+      Cuenta& c = cuentas[exacto];
+      std::printf("| %s | %s | %d | %d | %.2g | %d | %d | %d | %d | %d | %d | %d |\n", tipo.data(),
+                  exacto ? "exact" : "usual", c.piezas, c.ciertas, c.peor, c.con[Falta::largo], c.con[Falta::vuelta],
+                  c.con[Falta::falta], c.con[Falta::cruce], c.con[Falta::vecinas],
+                  c.con[Falta::numeros] + c.con[Falta::doblez], c.delReves);
+    }
+  }
+}

@@ -1,0 +1,115 @@
+#include "piezas_azar.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+#include <map>
+#include <string>
+
+#include "special/pieza.h"
+#include "state/estado.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr std::array<std::string_view, 8> kTipos{"TransCR",   "TransRC",   "TransElip", "TransEsp1",
+                                                 "TransEsp2", "TransEsp3", "TransEsp4", "TransEsp5"};
+
+class Medidas {
+ public:
+  explicit Medidas(std::mt19937& azar) : azar_(azar) {}
+
+  double Entre(double a, double b) { return std::uniform_real_distribution<double>(a, b)(azar_); }
+  bool Una(unsigned deCuantas) { return azar_() % deCuantas == 0; }
+
+  // Names in small letters, as the fields' words differ in their case alone.
+  std::map<std::string, double> Saca(std::string_view tipo) {
+    std::map<std::string, double> m;
+    const double tamano = Una(4) ? Entre(20, 100) : Entre(100, 2000);
+    const auto lado = [&] { return tamano * Entre(0.3, 1); };
+    m["h"] = tamano * Entre(0.2, 1.5);
+    for (const char* n : {"lx", "ly", "lx1", "ly1", "lx2", "ly2", "li", "ai", "ls", "as"}) m[n] = lado();
+    if (Una(6)) m["ai"] = m["li"], m["as"] = m["ls"], m["ly1"] = m["lx1"], m["ly2"] = m["lx2"], m["ly"] = m["lx"];
+    if (m["ly"] > m["lx"] && tipo != "TransEsp3") std::swap(m["lx"], m["ly"]);
+    m["rs"] = std::max(m["li"], m["ai"]) / 2 * Entre(0.2, 1);
+    m["ri"] = std::min(m["ls"], m["as"]) / 2 * Entre(1, 3);
+    m["emas"] = m["li"] * Entre(0.4, 1.1);
+    m["emes"] = Una(8) ? m["emas"] : m["emas"] * Entre(0.4, 1);
+    m["r"] = m["r1"] = tamano * Entre(0.05, 0.6);
+    const bool redonda = Una(8);
+    for (const auto& [n, mitad] :
+         {std::pair("r1", std::min(m["lx1"], m["ly1"]) / 2), std::pair("r2", std::min(m["lx2"], m["ly2"]) / 2)}) {
+      const double maximo = n[1] == '2' && tipo == "TransEsp4" ? std::min(m["lx"], m["ly"]) / 2 : mitad;
+      for (const char c : {'1', '2', '3', '4'}) {
+        m[std::string(n) + c] = redonda ? std::floor(maximo * 100) / 100 : Una(8) ? 0 : maximo * Entre(0, 1);
+      }
+    }
+    const double corrida = Una(3) ? 0 : tamano / 2, inclinada = Una(3) ? 0 : 40;
+    for (const char* n : {"ax", "ay"}) m[n] = Una(4) ? 0 : Entre(0, corrida);
+    for (const char* n : {"alfa", "beta"}) m[n] = Una(4) ? 0 : Entre(0, inclinada);
+    if ((tipo == "TransCR" || tipo == "TransRC") && Una(2)) m["alfa"] = -m["alfa"];
+    m["divisions"] = 4.0 * (1 + Sorteo() % (Una(10) ? 16 : 6));
+    return m;
+  }
+  unsigned Sorteo() { return static_cast<unsigned>(azar_()); }
+
+ private:
+  std::mt19937& azar_;
+};
+
+std::string Texto2(double v) {
+  std::string texto = std::to_string(std::nearbyint(v * 100) / 100);
+  texto.resize(texto.find('.') + 3);
+  return texto;
+}
+
+}  // namespace
+
+std::span<const std::string_view> TiposDePieza() { return kTipos; }
+
+void TecleaPieza(Dialogo& dialogo, std::mt19937& azar) {
+  Medidas medidas(azar);
+  auto m = medidas.Saca(dialogo.Definicion().clave);
+  const auto campos = dialogo.Definicion().campos;
+  for (std::size_t i = 0; i < campos.size(); ++i) {
+    const DefCampo& campo = campos[i];
+    std::string palabra(campo.palabra);
+    std::ranges::transform(palabra, palabra.begin(), [](unsigned char c) { return std::tolower(c); });
+    if (!campo.valores.empty()) {
+      dialogo.Elige(static_cast<int>(i), campo.valores[medidas.Sorteo() % campo.valores.size()]);
+    } else {
+      const double v = m.at(palabra);
+      dialogo.CampoDe(static_cast<int>(i)).texto = campo.divisiones ? std::to_string(std::lround(v)) : Texto2(v);
+    }
+  }
+  dialogo.dosPiezas = medidas.Una(2);
+}
+
+bool DelReves() {
+  if (!estado.sTipoPieza.starts_with("TransEsp")) return false;
+  constexpr double kIgual = 1e-9;
+  const PiezaEspecial pieza = PiezaDeEstado();
+  const PlanoCorte plano = PlanoDeCorte(pieza);
+  const int q = 9 * estado.iDivisiones, n = 4 * q;
+  // Going on by one element, and by one side, leads onwards both below and above.
+  const auto retrocede = [&](const Elemento& a, const Elemento& b, double azimut) {
+    const Punto3 avance{std::sin(azimut), -std::cos(azimut), 0};
+    return Escalar(b.bajo - a.bajo, avance) < -kIgual || Escalar(b.corte - a.corte, avance) < -kIgual ||
+           a.corte.z < -kIgual;
+  };
+  for (int c = 1; c <= 4; ++c) {
+    const double a0 = Esquina(pieza, c).a0;
+    Elemento anterior = ElementoDe(pieza, plano, c, 1, n);
+    for (int p = 2; p <= q + 1; ++p) {
+      const Elemento este = ElementoDe(pieza, plano, c, p, n);
+      if (retrocede(anterior, este, a0 - (p - 1.5) * 2 * dPi / n)) return true;
+      anterior = este;
+    }
+    if (retrocede(anterior, ElementoDe(pieza, plano, Siguiente(c), 1, n), a0 - dPi / 2)) return true;
+  }
+  return false;
+}
+
+}  // namespace duktores
