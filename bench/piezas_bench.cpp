@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <random>
 
+#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
@@ -51,8 +52,9 @@ void PonPieza(const char* tipo, std::int16_t divisiones) {
   estado.iDivisiones = divisiones;
 }
 
-void Desarrollo(benchmark::State& s, const char* tipo) {
+void Desarrollo(benchmark::State& s, const char* tipo, std::int16_t exacto = 0) {
   PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
+  estado.iExacto = exacto;
   Mesa mesa;
   EWdraw axew;
   axew.PonVista(&mesa);
@@ -65,6 +67,10 @@ BENCHMARK_CAPTURE(Desarrollo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark:
 BENCHMARK_CAPTURE(Desarrollo, RC, "TransRC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Desarrollo, Elip, "")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 
+BENCHMARK_CAPTURE(Desarrollo, ExactCR, "TransCR", 1)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrollo, ExactEsp1, "TransEsp1", 1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+
+// The usual rules adjust the radii, so that each time starts anew.
 void Especial(benchmark::State& s) {
   Mesa mesa;
   EWdraw axew;
@@ -78,6 +84,19 @@ void Especial(benchmark::State& s) {
   }
 }
 BENCHMARK(Especial)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+
+// The check of a pattern that lies there.
+void Cotejo(benchmark::State& s, const char* tipo) {
+  Mesa mesa;
+  EWdraw axew;
+  axew.PonVista(&mesa);
+  PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
+  const Solido solido = SolidoActual();
+  Desplegado(axew);
+  for (auto _ : s) benchmark::DoNotOptimize(Comprueba(solido, axew).desviacion);
+}
+BENCHMARK_CAPTURE(Cotejo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Cotejo, Esp1, "TransEsp1")->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
 // One frame of the viewer while the solid turns.
 void PintaSolido(benchmark::State& s, const char* tipo) {

@@ -171,9 +171,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 // A pattern that is not true is told in a colour that nobody overlooks; it never stops the work.
 void FrmViewUnfold::MuestraVeredicto() {
   const Veredicto veredicto = Comprueba(solido_, EWdraw_);
-  LblEstado_->setText(Q(TextoVeredicto(veredicto)));
-  LblEstado_->setToolTip(LblEstado_->text());
+  const QString texto = Q(TextoVeredicto(veredicto));
   if (!veredicto.Cierto()) LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
+  LblEstado_->ensurePolished();  // bold letters are wider
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(texto, Qt::ElideRight, LblEstado_->width()));
+  LblEstado_->setToolTip(texto);
 }
 
 void FrmViewUnfold::done(int resultado) {

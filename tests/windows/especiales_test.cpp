@@ -22,7 +22,8 @@ class VentanasEspeciales : public ConVentanas {
     });
   }
   // Types the values field by field, accepts, unfolds, places each shape and its block, and goes all the way back.
-  void Recorre(const DefDialogo& def, const std::vector<const char*>& valores, const std::vector<std::string>& formas) {
+  void Recorre(const DefDialogo& def, const std::vector<const char*>& valores, const std::vector<std::string>& formas,
+               bool cierto) {
     estado.iDivisiones = 16;
     const std::string nombre(def.nombre);
     FrDialogo dialogo(def, "", nullptr);
@@ -42,8 +43,12 @@ class VentanasEspeciales : public ConVentanas {
       Coloca(63, forma);
       Coloca(65, Texto(106));
     }
-    usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
+    usuario_.Cuando("FrmViewUnfold", [=](QWidget& visor) {
       EXPECT_TRUE(Hijo(visor, "CmdSave").isEnabled());
+      const auto& veredicto = Hijo<QLabel>(visor, "LblEstado");
+      EXPECT_TRUE(veredicto.text().startsWith(QString::fromStdString(Texto(cierto ? 107 : 108))))
+          << veredicto.text().toStdString();
+      EXPECT_EQ(veredicto.styleSheet().contains("background"), !cierto);
       Pulsa(visor, "CmdCancelar");
     });
     usuario_.Cuando(nombre, [](QWidget& ventana) { Pulsa(ventana, "CmdCancelar"); });
@@ -59,13 +64,14 @@ TEST_F(VentanasEspeciales, SixteenClicksPlaceThePieceOfRoundedCorners) {
   Recorre(
       kFrTransfEsp1,
       {"300", "40", "50", "60", "45", "80", "90", "100", "85", "300", "250", "500", "400", "30", "20", "10", "5", "8"},
-      {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Lado 3", "Esquina 4", "Lado 4"});
+      {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Lado 3", "Esquina 4", "Lado 4"}, true);
   EXPECT_EQ(estado.dAlfa, -10);
 }
 
+// The usual rules unfold its sharp corners badly, and the window says so.
 TEST_F(VentanasEspeciales, TheHalfCircleHasNoSide) {
   Recorre(kFrTransfEsp3, {"320", "90", "480", "300", "20", "10", "0", "0", "8"},
-          {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Esquina 4", "Lado 4"});
+          {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Esquina 4", "Lado 4"}, false);
 }
 
 }  // namespace

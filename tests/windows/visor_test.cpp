@@ -128,6 +128,7 @@ TEST_F(Visor, UnfoldsAtTheClickedPointsAndStartsAnew) {
       const QImage desarrollo = Imagen();
       EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado"));
       EXPECT_FALSE(Habilitado("FrmView"));
+      EXPECT_TRUE(Hijo<QLabel>(visor_, "LblEstado").text().startsWith(QString::fromStdString(Texto(107))));
       QTest::keyClick(&visor_, Qt::Key_F7);
       Arrastra(*lienzo_, Qt::RightButton, {300, 300}, {340, 250});
       EXPECT_EQ(Imagen(), desarrollo) << "a flat pattern stays as seen from above";
