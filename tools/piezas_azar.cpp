@@ -93,21 +93,25 @@ bool DelReves() {
   const PiezaEspecial pieza = PiezaDeEstado();
   const PlanoCorte plano = PlanoDeCorte(pieza);
   const int q = 9 * estado.iDivisiones, n = 4 * q;
-  // Going on by one element, and by one side, leads onwards both below and above.
-  const auto retrocede = [&](const Elemento& a, const Elemento& b, double azimut) {
-    const Punto3 avance{std::sin(azimut), -std::cos(azimut), 0};
-    return Escalar(b.bajo - a.bajo, avance) < -kIgual || Escalar(b.corte - a.corte, avance) < -kIgual ||
-           a.corte.z < -kIgual;
+  // Where the cut lies on an element: 0 on the base, 1 on the uncut mouth.
+  const auto altura = [&](int c, int p) {
+    const Elemento corte = ElementoDe(pieza, plano, c, p, n), entero = ElementoDe(pieza, {}, c, p, n);
+    const Punto3 eje = entero.corte - entero.bajo;
+    return Escalar(corte.corte - corte.bajo, eje) / Escalar(eje, eje);
+  };
+  // A radius or an edge between its measures below and above.
+  const auto negativo = [](double abajo, double arriba, double t) {
+    return t < -kIgual || abajo < -kIgual || abajo + t * (arriba - abajo) < -kIgual;
   };
   for (int c = 1; c <= 4; ++c) {
-    const double a0 = Esquina(pieza, c).a0;
-    Elemento anterior = ElementoDe(pieza, plano, c, 1, n);
-    for (int p = 2; p <= q + 1; ++p) {
-      const Elemento este = ElementoDe(pieza, plano, c, p, n);
-      if (retrocede(anterior, este, a0 - (p - 1.5) * 2 * dPi / n)) return true;
-      anterior = este;
+    for (int p = 1; p <= q + 1; ++p) {
+      if (negativo(pieza.r2(c), pieza.r1(c), altura(c, p))) return true;
     }
-    if (retrocede(anterior, ElementoDe(pieza, plano, Siguiente(c), 1, n), a0 - dPi / 2)) return true;
+    const int d = Siguiente(c);
+    const bool enY = c % 2 == 1;
+    const double abajo = (enY ? pieza.LY2 : pieza.LX2) - pieza.r2(c) - pieza.r2(d);
+    const double arriba = (enY ? pieza.LY1 : pieza.LX1) - pieza.r1(c) - pieza.r1(d);
+    if (negativo(abajo, arriba, altura(c, q + 1)) || negativo(abajo, arriba, altura(d, 1))) return true;
   }
   return false;
 }

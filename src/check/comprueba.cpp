@@ -99,7 +99,8 @@ class CotejoTransicion {
     const double s = Distancia(E, C), alto = Distancia(F, E);
     const Punto3 u = (1 / Distancia(esquina, vecina)) * (vecina - esquina), boca = solido_.F(k);
     const double hacia = Distancia(boca, esquina + s * u), aparte = Distancia(boca, esquina - s * u);
-    const bool fuera = std::abs(alto - aparte) < std::abs(alto - hacia);
+    // Above the corner itself both are as far.
+    const bool fuera = std::abs(alto - aparte) < std::abs(alto - hacia) - 1e-6;
     cotejo_.Largo(F, E, fuera ? aparte : hacia);
     cotejo_.Numero(F, E);
     return {alto, fuera ? -s : s};

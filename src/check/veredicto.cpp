@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 #include "state/estado.h"
 #include "state/numeros.h"
@@ -37,7 +38,7 @@ std::string TextoVeredicto(const Veredicto& veredicto) {
   for (std::size_t i = 0; i < veredicto.defectos.size() && i < kCabe; ++i) {
     const auto& [falta, donde, medida] = veredicto.defectos[i];
     texto += (i == 0 ? " " : "; ") + donde + ": " + Texto(kTextosFalta[static_cast<std::size_t>(falta)]);
-    if (medida > 0) texto += " " + TextoMedido(medida);
+    if (medida > 0 && std::isfinite(medida)) texto += " " + TextoMedido(medida);
   }
   if (veredicto.defectos.size() > kCabe) texto += "; +" + std::to_string(veredicto.defectos.size() - kCabe);
   return texto;

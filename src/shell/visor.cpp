@@ -7,7 +7,6 @@
 #include "dxf/escritor.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
-#include "state/fichero.h"
 #include "state/textos.h"
 
 namespace duktores {
@@ -81,8 +80,8 @@ bool GuardaDibujo(std::string elegido) {
   if (!estado.oDXF || !estado.oDXF->InsertEntities(estado.oDrawing)) return false;
   if (!HayPlantilla()) return Falla(kTextoPlantilla, RutaPlantilla());
   if (!estado.oDXF->Save(auxiliar)) return Falla(kTextoNoGuardado, auxiliar);
-  const auto contenido = LeeFichero(auxiliar);
-  if (!contenido || !EscribeFichero(elegido, *contenido)) return Falla(kTextoNoGuardado, elegido);
+  // Written anew, not copied: by now another program of this installation may have put its own drawing there.
+  if (!estado.oDXF->Save(elegido)) return Falla(kTextoNoGuardado, elegido);
   MuestraMensaje("OK", EstiloMensaje::informacion, "");
   CursorEspera(false);
   return true;

@@ -30,8 +30,8 @@ FinCorrida Desplegado(EWdraw& axew);
 std::string NombreDxf(const std::string& elegido);
 
 /// The save command behind its dialog: writes the drawing of the last unfolding to the scratch file beside the program
-/// and copies it to the `NombreDxf` of `elegido`. Tells the user what came of it; true if the
-/// file stands. A former file is replaced whole or not at all. An empty name does nothing.
+/// and then to the `NombreDxf` of `elegido`. Tells the user what came of it; true if the file stands. A former file is
+/// replaced whole or not at all. An empty name does nothing.
 bool GuardaDibujo(std::string elegido);
 
 }  // namespace duktores

@@ -36,6 +36,8 @@ class ConoEntero {
     return {(bCambio_ ? esquina_.alto : esquina_.bajo) + rb_ * hacia,
             (bCambio_ ? esquina_.bajo : esquina_.alto) + rt_ * hacia};
   }
+  double RadioBase() const { return rb_; }
+  double RadioBoca() const { return rt_; }
   /// Where the corner's quarter begins at the left, its middle within half a turn.
   double Inicio() const {
     const double izquierda = sentido_ * (esquina_.a0 - medio_) - (bCambio_ ? 0 : dPi / 2);
@@ -62,9 +64,10 @@ struct Rodillo {
     const double largo = Distancia(de.base, de.boca), lado = hasta > delta ? 1 : -1;
     const Punto3 u = (1 / largo) * (de.boca - de.base);
     const Punto2 u2 = (1 / largo) * (boca - base), n2{lado * u2.y, -lado * u2.x}, desde = base;
-    // Both rims step to the same side, unless the fibre correction has made one radius negative.
-    const auto aparte = [&](Punto3 v) { return v - Escalar(v, u) * u; };
-    const Punto3 pasoBase = aparte(a.base - de.base), pasoBoca = aparte(a.boca - de.boca);
+    // Both rims step onwards; one whose radius the fibre correction has made negative steps back.
+    const auto aparte = [&](Punto3 v, double radio) { return std::copysign(1.0, radio) * (v - Escalar(v, u) * u); };
+    const Punto3 pasoBase = aparte(a.base - de.base, cono.RadioBase());
+    const Punto3 pasoBoca = aparte(a.boca - de.boca, cono.RadioBoca());
     const Punto3 mayor = Norma(pasoBase) > Norma(pasoBoca) ? pasoBase : pasoBoca, n = (1 / Norma(mayor)) * mayor;
     const auto plano = [&](Punto3 p) {
       const Punto3 v = p - de.base;
