@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 #include "check/cotejo.h"
 #include "check/hoja.h"
+#include "geometry/planas.h"
 
 namespace duktores {
 
@@ -56,22 +58,26 @@ class CotejoTransicion {
     if (!completa_) return;
     F_.assign(p.begin(), p.begin() + static_cast<std::ptrdiff_t>(nF_));
     C_.assign(p.rbegin() + 1, p.rbegin() + 1 + static_cast<std::ptrdiff_t>(nC));
+    if (nC == 6) cotejo_.Largo(p[nF_], p[nF_ + 1], 0);  // the last corner stands twice
   }
 
   bool Completa() const { return completa_; }
 
+  // In the order of the numbers: fans with the side lines between them, the edges below, the mouth, both ends.
   void Coteja(Veredicto& veredicto) {
     const std::size_t abanicos = C_.size() - 2, q = (nF_ - 1) / abanicos;
-    for (std::size_t a = 0; a < abanicos; ++a) Abanico(a, a * q, (a + 1) * q);
-    for (std::size_t a = 1; a < abanicos; ++a) {
-      cotejo_.Largo(C_[a], C_[a + 1], Distancia(Esquina(a - 1), Esquina(a)));
-      cotejo_.Cara(F_[a * q], C_[a], C_[a + 1], 1);
+    std::vector<Punto2> cadena{C_[0], C_[1]};
+    for (std::size_t a = 0; a < abanicos; ++a) {
+      if (a > 0) cadena.insert(cadena.end(), {Lado(a, F_[a * q]), C_[a + 1]});
+      Abanico(a, a * q, (a + 1) * q);
     }
-    izquierda = Coteja(C_[0], C_[1], F_.front(), mitad_.desde, Esquina(0), Esquina(3));
+    cadena.push_back(C_.back());
+    for (std::size_t i = 1; i < cadena.size(); ++i) cotejo_.Numero(cadena[i - 1], cadena[i]);
+    for (std::size_t i = 1; i < nF_; ++i) cotejo_.Numero(F_[i - 1], F_[i]);
+    izquierda = Fin(C_[0], C_[1], F_.front(), Boca(0), Esquina(0), Esquina(3));
     cotejo_.Cara(F_.front(), C_[0], C_[1], 1);
-    derecha = Coteja(C_.back(), C_[abanicos], F_.back(), mitad_.hasta, Esquina(abanicos - 1), Esquina(abanicos));
+    derecha = Fin(C_.back(), C_[abanicos], F_.back(), Boca(nF_ - 1), Esquina(abanicos - 1), Esquina(abanicos));
     cotejo_.Cara(F_.back(), C_[abanicos], C_.back(), 1);
-    cotejo_.Numeros(2 * nF_ + (abanicos == 4 ? 15 : 7));
     cotejo_.Cierra(veredicto);
   }
 
@@ -89,21 +95,27 @@ class CotejoTransicion {
       cotejo_.Doblez(F_[i], C);
       if (i == hasta) break;
       cotejo_.Largo(F_[i], F_[i + 1], Distancia(Boca(i), Boca(i + 1)));
-      cotejo_.Numero(F_[i], F_[i + 1]);
       cotejo_.Cara(F_[i], C, F_[i + 1], 1);
     }
   }
 
-  // The end E beside the corner C: the point of the side that lies as far from the corner, on either side of it.
-  Extremo Coteja(Punto2 E, Punto2 C, Punto2 F, int k, Punto3 esquina, Punto3 vecina) {
-    const double s = Distancia(E, C), alto = Distancia(F, E);
-    const Punto3 u = (1 / Distancia(esquina, vecina)) * (vecina - esquina), boca = solido_.F(k);
-    const double hacia = Distancia(boca, esquina + s * u), aparte = Distancia(boca, esquina - s * u);
-    // Above the corner itself both are as far.
-    const bool fuera = std::abs(alto - aparte) < std::abs(alto - hacia) - 1e-6;
-    cotejo_.Largo(F, E, fuera ? aparte : hacia);
+  // A side of the rectangle with the line that stands on it. Its lower end parts the edge.
+  Punto2 Lado(std::size_t a, Punto2 F) {
+    const Punto2 p = C_[a], q = C_[a + 1];
+    cotejo_.Largo(p, q, Distancia(Esquina(a - 1), Esquina(a)));
+    cotejo_.Cara(F, p, q, 1);
+    const Punto2 pie = cotejo_.FinDeLinea(F);
+    cotejo_.Largo(pie, PieDePerpendicular(pie, p, q), 0);
+    return pie.y < F.y ? pie : F;
+  }
+
+  // The end E beside the corner C: it lies on the side towards the next corner, as far from its own as on the sheet.
+  Extremo Fin(Punto2 E, Punto2 C, Punto2 F, Punto3 boca, Punto3 esquina, Punto3 vecina) {
+    const double parte = Distancia(E, C), lado = Distancia(esquina, vecina);
+    const Punto3 pie = esquina + (lado > 0 ? parte / lado : 0) * (vecina - esquina);
+    cotejo_.Largo(F, E, Distancia(boca, pie));
     cotejo_.Numero(F, E);
-    return {alto, fuera ? -s : s};
+    return {Distancia(F, E), parte};
   }
 
   const SolidoTransicion& solido_;
@@ -125,6 +137,7 @@ Veredicto CompruebaTransicion(const SolidoTransicion& solido, const std::vector<
   const int N = solido.F.Cuenta() - 1, h = N / 2;
   const auto& e = solido.esquinas;
   const double cierre = Distancia(e[0], e[3]), inicio = Distancia(e[1], e[2]);
+  const double ancho = std::max({cierre, inicio, Distancia(solido.F(1), e[0])});
   const auto pieza = [&](Forma forma, int numero, Mitad mitad) -> std::optional<CotejoTransicion> {
     const FormaEnHoja* una = Busca(hoja, forma, numero, veredicto);
     if (una) {
@@ -134,7 +147,7 @@ Veredicto CompruebaTransicion(const SolidoTransicion& solido, const std::vector<
         return cotejo;
       }
     }
-    FaltaForma(veredicto, forma, numero, inicio);
+    FaltaForma(veredicto, forma, numero, ancho);
     return std::nullopt;
   };
   const std::string costura = NombreForma(Forma::entera, 1);
@@ -222,21 +235,26 @@ struct Bordes {
   double antes = 0, despues = 0;
 };
 
+// A sector that is its own mirror image, or nearly, fits in two ways: one that lies right counts.
+bool Preferible(const Cotejo& a, const Cotejo& b) {
+  const auto sano = [](const Cotejo& c) {
+    return c.PeorVuelta().medida == 0 && c.PeorLargo().medida <= ToleranciaPatron();
+  };
+  return sano(a) != sano(b) ? sano(a) : a.PeorLargo().medida < b.PeorLargo().medida - 1e-6;
+}
+
 Bordes CompruebaEsquina(const FormaEnHoja& forma, const CaraEsquina& cara, std::size_t paso, Veredicto& veredicto) {
   if (forma.contorno.size() != 2 * cara.e.size() + 1) {
     veredicto.defectos.push_back({Falta::falta, NombreForma(forma.forma, forma.numero), 0});
     return {};
   }
-  // Usually the wider rim is drawn first. A sector that is its own mirror image fits two ways; the one without turned
-  // facets counts.
+  // Usually the wider rim is drawn first.
   std::optional<Cotejo> mejor;
   Lectura lectura{forma.contorno, true, false};
   for (const auto& [bajoPrimero, derecho] : {std::pair(true, false), {false, true}, {true, true}, {false, false}}) {
     const Lectura una{forma.contorno, bajoPrimero, derecho};
     Cotejo cotejo = CotejaSector(forma, una, cara);
-    const double ganado = mejor ? mejor->PeorLargo().medida - cotejo.PeorLargo().medida : 1;
-    const bool vuelve = cotejo.PeorVuelta().medida > 0, volvia = mejor && mejor->PeorVuelta().medida > 0;
-    if (!mejor || ganado > 1e-6 || (ganado > -1e-6 && volvia && !vuelve)) {
+    if (!mejor || Preferible(cotejo, *mejor)) {
       mejor.emplace(std::move(cotejo));
       lectura.bajoPrimero = bajoPrimero;
       lectura.derecho = derecho;
@@ -251,7 +269,6 @@ Bordes CompruebaEsquina(const FormaEnHoja& forma, const CaraEsquina& cara, std::
     mejor->Numero(a, b);
     if (p != 0 && p != ultimo) mejor->Doblez(a, b);
   }
-  mejor->Numeros((ultimo + paso - 1) / paso + 1);
   mejor->Cierra(veredicto);
   return {true, Distancia(lectura.Bajo(0), lectura.Corte(0)), Distancia(lectura.Bajo(ultimo), lectura.Corte(ultimo))};
 }
@@ -267,12 +284,13 @@ Bordes CompruebaLado(const FormaEnHoja& forma, const Elemento& antes, const Elem
   Cotejo cotejo(forma);
   for (std::size_t i = 0; i < 4; ++i) {
     for (std::size_t j = i + 1; j < 4; ++j) cotejo.Largo(p[i], p[j], Distancia(espacio[i], espacio[j]));
-    cotejo.Numero(p[i], p[(i + 1) % 4], {1, 0});
+  }
+  for (const auto& [i, j] : {std::pair(0, 3), {1, 2}, {2, 3}, {0, 1}}) {
+    cotejo.Numero(p[static_cast<std::size_t>(i)], p[static_cast<std::size_t>(j)], {1, 0});
   }
   const double altoAntes = antes.corte.z < 0 ? -1 : 1, altoDespues = despues.corte.z < 0 ? -1 : 1;
   cotejo.Cara(p[0], p[2], p[3], altoAntes);
   cotejo.Cara(p[0], p[1], p[2], altoDespues);
-  cotejo.Numeros(4);
   cotejo.Cierra(veredicto);
   return {true, Distancia(p[0], p[3]), Distancia(p[1], p[2])};
 }
@@ -282,28 +300,31 @@ Veredicto CompruebaEspecial(const SolidoEspecial& solido, const std::vector<Form
   const PlanoCorte plano = PlanoDeCorte(solido.pieza);
   std::vector<CaraEsquina> caras;
   for (int c = 1; c <= 4; ++c) caras.emplace_back(solido, plano, c);
+  // Round the piece. What is missing leaves a gap, unless it is too narrow to part its neighbours.
   std::vector<std::pair<std::string, Bordes>> anillo;
+  const auto hueco = [&](Forma forma, int numero, double ancho) {
+    FaltaForma(veredicto, forma, numero, ancho);
+    if (ancho > ToleranciaPatron()) anillo.emplace_back(std::string(), Bordes{});
+  };
   for (int c = 1; c <= 4; ++c) {
     const CaraEsquina& cara = caras[static_cast<std::size_t>(c - 1)];
     if (const auto* esquina = Busca(hoja, Forma::esquina, c, veredicto)) {
       const auto paso = static_cast<std::size_t>(solido.paso);
       anillo.emplace_back(NombreForma(Forma::esquina, c), CompruebaEsquina(*esquina, cara, paso, veredicto));
     } else {
-      FaltaForma(veredicto, Forma::esquina, c, cara.ancho);
+      hueco(Forma::esquina, c, cara.ancho);
     }
     const Elemento &antes = cara.e.back(), &despues = caras[static_cast<std::size_t>(Siguiente(c) - 1)].e.front();
     if (const auto* lado = Busca(hoja, Forma::lado, c, veredicto)) {
       anillo.emplace_back(NombreForma(Forma::lado, c), CompruebaLado(*lado, antes, despues, veredicto));
     } else {
-      FaltaForma(veredicto, Forma::lado, c,
-                 std::max(Distancia(antes.bajo, despues.bajo), Distancia(antes.corte, despues.corte)));
+      hueco(Forma::lado, c, std::max(Distancia(antes.bajo, despues.bajo), Distancia(antes.corte, despues.corte)));
     }
   }
-  std::erase_if(anillo, [](const auto& forma) { return !forma.second.hay; });
   for (std::size_t i = 0; i < anillo.size(); ++i) {
     const auto& [nombre, bordes] = anillo[i];
     const auto& [vecina, suyos] = anillo[(i + 1) % anillo.size()];
-    Vecinas(veredicto, nombre + " - " + vecina, bordes.despues, suyos.antes);
+    if (bordes.hay && suyos.hay) Vecinas(veredicto, nombre + " - " + vecina, bordes.despues, suyos.antes);
   }
   return veredicto;
 }
@@ -312,8 +333,16 @@ Veredicto CompruebaEspecial(const SolidoEspecial& solido, const std::vector<Form
 
 Veredicto Comprueba(const Solido& solido, const EWdraw& axew) {
   const std::vector<FormaEnHoja> hoja = LeeHoja(axew);
-  if (const auto* transicion = std::get_if<SolidoTransicion>(&solido)) return CompruebaTransicion(*transicion, hoja);
-  return CompruebaEspecial(std::get<SolidoEspecial>(solido), hoja);
+  const auto* transicion = std::get_if<SolidoTransicion>(&solido);
+  Veredicto veredicto =
+      transicion ? CompruebaTransicion(*transicion, hoja) : CompruebaEspecial(std::get<SolidoEspecial>(solido), hoja);
+  if (Contornos(axew) > hoja.size()) {
+    veredicto.defectos.push_back({Falta::repetida, NombreForma(Forma::entera, 1), 0});
+  }
+  std::ranges::stable_sort(veredicto.defectos, [](const Defecto& a, const Defecto& b) {
+    return std::tuple(a.falta, -a.medida) < std::tuple(b.falta, -b.medida);
+  });
+  return veredicto;
 }
 
 }  // namespace duktores

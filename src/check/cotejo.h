@@ -26,21 +26,23 @@ class Cotejo {
   /// The facet a, b, c runs counter-clockwise (`signo` 1) or clockwise (-1) with its right side up; its height says by
   /// how much it has turned over.
   void Cara(Punto2 a, Punto2 b, Punto2 c, double signo);
-  /// A number stands in the middle of p-q, `aparte` from it.
+  /// The next number stands in the middle of p-q, `aparte` from it.
   void Numero(Punto2 p, Punto2 q, Punto2 aparte = {});
   void Doblez(Punto2 p, Punto2 q);
-  void Numeros(std::size_t cuantos);
+  /// Where the next number says that a line from p ends; it must be drawn.
+  Punto2 FinDeLinea(Punto2 p);
 
   const Peor& PeorLargo() const { return largo_; }
   const Peor& PeorVuelta() const { return vuelta_; }
 
-  /// Enters the deviation, and what is beyond the tolerance, into the verdict; with it, whether the outline crosses
-  /// itself.
-  void Cierra(Veredicto& veredicto) const;
+  /// Enters the deviation, and what is beyond the tolerance, into the verdict; with it, whether the outline closes and
+  /// crosses itself, and whether there are more numbers or bend lines than were asked for.
+  void Cierra(Veredicto& veredicto);
 
  private:
   const FormaEnHoja* forma_;
   Peor largo_, vuelta_, numero_, doblez_;
+  std::size_t numeros_ = 0, dobleces_ = 0;  // so far
 };
 
 }  // namespace duktores

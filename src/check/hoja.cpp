@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <tuple>
+#include <utility>
 
 #include "state/textos.h"
 
@@ -33,24 +34,35 @@ bool FormaEnHoja::HayLinea(Punto2 p, Punto2 q) const {
          std::ranges::binary_search(lineas, std::array{q, p}, Antes);
 }
 
-bool FormaEnHoja::HayNumero(Punto2 sitio) const {
-  constexpr double kCerca = 1e-3;
-  const auto x = [](const Numero& n) { return n.sitio.x; };
-  for (auto n = std::ranges::lower_bound(numeros, sitio.x - kCerca, {}, x); n != numeros.end(); ++n) {
-    if (n->sitio.x > sitio.x + kCerca) break;
-    if (std::abs(n->sitio.y - sitio.y) <= kCerca) return true;
+std::size_t FormaEnHoja::Dobleces() const {
+  std::vector<std::pair<Punto2, std::size_t>> vertices;
+  for (std::size_t i = 0; i < contorno.size(); ++i) vertices.emplace_back(contorno[i], i);
+  const auto menor = [](Punto2 a, Punto2 b) { return std::tie(a.x, a.y) < std::tie(b.x, b.y); };
+  std::ranges::sort(vertices, menor, &std::pair<Punto2, std::size_t>::first);
+  const auto vertice = [&](Punto2 p) {
+    return std::ranges::equal_range(vertices, p, menor, &std::pair<Punto2, std::size_t>::first);
+  };
+  std::size_t cuenta = 0;
+  for (const auto& [p, q] : lineas) {
+    const auto de = vertice(p), a = vertice(q);
+    if (de.empty() || a.empty()) continue;
+    const bool lado = std::ranges::any_of(de, [&](const auto& u) {
+      return std::ranges::any_of(
+          a, [&](const auto& v) { return std::max(u.second, v.second) <= std::min(u.second, v.second) + 1; });
+    });
+    if (!lado) ++cuenta;
   }
-  return false;
+  return cuenta;
+}
+
+bool FormaEnHoja::HayNumero(std::size_t valor, Punto2 sitio) const {
+  constexpr double kCerca = 1e-3;
+  return valor <= numeros.size() && Distancia(numeros[valor - 1].sitio, sitio) <= kCerca;
 }
 
 bool FormaEnHoja::NumerosHasta(std::size_t n) const {
-  std::vector<bool> visto(n);
-  for (const auto& [sitio, valor] : numeros) {
-    const auto i = static_cast<std::size_t>(valor - 1);
-    if (i >= n || visto[i]) return false;
-    visto[i] = true;
-  }
-  return numeros.size() == n;
+  int valor = 0;
+  return numeros.size() == n && std::ranges::all_of(numeros, [&](const Numero& uno) { return uno.valor == ++valor; });
 }
 
 std::string FormaEnHoja::Donde(Punto2 cerca) const {
@@ -78,9 +90,13 @@ std::vector<FormaEnHoja> LeeHoja(const EWdraw& axew) {
     const bool ultima = i + 1 == estado.Formas.size();
     for (++e; e != todo.end() && (ultima || e->id < estado.Formas[i + 1].id); ++e) LeeMarca(una, *e);
     std::ranges::sort(una.lineas, Antes);
-    std::ranges::sort(una.numeros, {}, [](const FormaEnHoja::Numero& n) { return n.sitio.x; });
+    std::ranges::sort(una.numeros, {}, &FormaEnHoja::Numero::valor);
   }
   return hoja;
+}
+
+std::size_t Contornos(const EWdraw& axew) {
+  return static_cast<std::size_t>(std::ranges::count(axew.Entidades(), TipoEntidad::contorno, &Entidad::tipo));
 }
 
 }  // namespace duktores

@@ -12,13 +12,14 @@ namespace duktores {
 
 namespace {
 
-constexpr int kTextoCierto = 107, kTextoFalso = 108;
-constexpr std::array kTextosFalta{109, 110, 111, 112, 113, 114, 115, 116};  // in the order of Falta
+constexpr int kTextoCierto = 107, kTextoFalso = 108, kTextoDesviacion = 119;
+constexpr std::array kTextosFalta{111, 112, 110, 113, 109, 114, 116, 115};  // in the order of Falta
 
 bool Milimetros() { return estado.iUnidad == 1; }
 
 // To a tenth of what a drawing shows.
 std::string TextoMedido(double v) {
+  if (!std::isfinite(v)) return "?";
   std::array<char, 320> letras;
   const auto fin =
       std::to_chars(letras.data(), letras.data() + letras.size(), v, std::chars_format::fixed, Milimetros() ? 3 : 4);
@@ -41,7 +42,7 @@ std::string TextoVeredicto(const Veredicto& veredicto) {
     if (medida > 0 && std::isfinite(medida)) texto += " " + TextoMedido(medida);
   }
   if (veredicto.defectos.size() > kCabe) texto += "; +" + std::to_string(veredicto.defectos.size() - kCabe);
-  return texto;
+  return texto + ". " + Texto(kTextoDesviacion) + " " + TextoMedido(veredicto.desviacion);
 }
 
 }  // namespace duktores

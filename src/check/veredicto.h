@@ -6,10 +6,11 @@
 
 namespace duktores {
 
-/// What can be wrong. `largo`: a length; `vuelta`: a facet lies with its other side up; `falta`, `repetida`: a shape of
-/// the solid has none on the sheet, or two; `cruce`: an outline crosses itself; `vecinas`: a line that two shapes share
-/// has two lengths; `numeros`: a number is missing, twice or out of place; `doblez`: a bend line is missing.
-enum class Falta { largo, vuelta, falta, repetida, cruce, vecinas, numeros, doblez };
+/// What can be wrong, the gravest first. `falta`, `repetida`: a shape of the solid has none on the sheet, or there is
+/// an outline too many; `vuelta`: a facet lies with its other side up; `cruce`: an outline crosses itself; `largo`: a
+/// length; `vecinas`: a line that two shapes share has two lengths; `doblez`: a bend line is missing or one too many;
+/// `numeros`: a number is missing, twice or out of place.
+enum class Falta { falta, repetida, vuelta, cruce, largo, vecinas, doblez, numeros };
 
 struct Defecto {
   Falta falta;
@@ -19,7 +20,7 @@ struct Defecto {
 
 struct Veredicto {
   double desviacion = 0;          ///< the greatest difference of a length, faults included
-  std::vector<Defecto> defectos;  ///< the gravest of each kind and shape
+  std::vector<Defecto> defectos;  ///< the worst of each kind and shape, the gravest first
   bool Cierto() const { return defectos.empty(); }
 };
 

@@ -4,6 +4,7 @@
 
 #include "dxf/anotacion.h"
 #include "dxf/escritor.h"
+#include "dxf/finitos.h"
 #include "state/estado.h"
 #include "state/fibra.h"
 #include "state/numeros.h"
@@ -52,7 +53,9 @@ void DibujaRenglon(EWdraw& axew, Punto2 sitio, Renglon renglon, double letra, do
 }
 
 std::string TextoCortado(double v, int decimales) {
-  return TextoDeNumero(decimales == 2 ? TruncaDosDecimales(v) : TruncaTresDecimales(v));
+  const double cortado = decimales == 2 ? TruncaDosDecimales(v) : TruncaTresDecimales(v);
+  ExigeFinitos({cortado});
+  return TextoDeNumero(cortado);
 }
 
 // The sheet of a piece. The rectangle is the one around the piece: what is off it is waste.

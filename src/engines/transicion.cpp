@@ -165,7 +165,8 @@ void ColocaTira(Transicion& t) {
   }
   const Punto2 esquina = C(1);
   C(1) = PieDeLado(F(1), esquina, C(2), t.bFueraCierre);
-  const Punto3 costura = P(5) + Distancia(C(1), esquina) / Distancia(C(2), esquina) * (P(4) - P(5));
+  const double lado = Distancia(C(2), esquina), parte = lado > 0 ? Distancia(C(1), esquina) / lado : 0;
+  const Punto3 costura = P(5) + parte * (P(4) - P(5));
   C(6) = Arista{F(N + 1), C(5), Q(h + 1), P(2)}.Siguiente(costura);
 }
 

@@ -80,12 +80,12 @@ void DespliegaEspecial(EWdraw& axew) {
 Solido SolidoDeCR() { return EnOrden(std::apply(clTransCR::Solido, ArgumentosCR()), estado.iPosIni, 1); }
 Solido SolidoDeRC() { return EnOrden(std::apply(clTransRC::Solido, ArgumentosRC()), estado.iPosIni, -1); }
 
-// The usual pattern of an ellipse tilts against the solid's sense. Without an offset along X that is the solid seen
-// from its other end.
+// The usual pattern of an ellipse tilts against the solid's sense. Without offsets that is the same piece, begun at its
+// other end.
 Solido SolidoDeElip() {
   auto argumentos = ArgumentosElip();
   double &Ax = std::get<5>(argumentos), &Inclinacion = std::get<8>(argumentos);
-  if (estado.iExacto == 0 && Ax == 0) Inclinacion = -Inclinacion;
+  if (estado.iExacto == 0 && Ax == 0 && estado.dAyElip == 0) Inclinacion = -Inclinacion;
   return EnOrden(std::apply(clTransBaRectBoElip::Solido, argumentos), estado.iPosIniElip, 1);
 }
 

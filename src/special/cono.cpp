@@ -66,6 +66,12 @@ double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
   return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
 }
 
+// Radii moved apart by 0.2 give offsets of 0.2 but for the last digits, which must not choose another quarter.
+double LejosDeCero(double v) {
+  constexpr double kDesvioMinimo = 0.2, kIgual = 1e-9;
+  return std::abs(v) < kDesvioMinimo - kIgual ? kDesvioMinimo : v;
+}
+
 void ColocaSector(EWdraw& axew, int c, const std::optional<Sector>& sector, Punto2 ancla) {
   estado.PoliContorno.clear();
   const Punto2 sitio =

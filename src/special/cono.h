@@ -21,6 +21,9 @@ namespace duktores {
 /// opposite to it (pi). `x`, `y`: centre of the lower rim minus that of the upper one.
 double AnguloInicial(double x, double y, int iiTem, bool bCambio);
 
+/// An offset as the usual rules take it: one below 0.2 is 0.2.
+double LejosDeCero(double v);
+
 /// Asks for the place of corner `c` and draws its sector there with its annotation; `ancla` is the point of the
 /// sector's frame that is placed. Without a sector nothing is drawn after the prompt.
 void ColocaSector(EWdraw& axew, int c, const std::optional<Sector>& sector, Punto2 ancla);

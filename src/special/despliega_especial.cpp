@@ -20,7 +20,6 @@ namespace duktores {
 namespace {
 
 constexpr double kCerca = 0.21, kSepara = 0.2, kCasiIguales = 0.1, kRoce = 0.005, kIgual = 1e-9;
-constexpr double kDesvioMinimo = 0.2;
 
 bool Es(const char* tipo) { return estado.sTipoPieza == tipo; }
 
@@ -144,9 +143,6 @@ bool HayPanel(const Lado& lado, int c) {
   return lado[2] != lado[3];
 }
 
-// Radii moved apart by 0.2 give offsets of 0.2 but for the last digits, which must not choose another quarter.
-double LejosDeCero(double v) { return std::abs(v) < kDesvioMinimo - kIgual ? kDesvioMinimo : v; }
-
 // What a cone or a panel can't do ends that shape alone.
 template <class Trabajo>
 void SinParar(Trabajo trabajo) {
@@ -157,14 +153,10 @@ void SinParar(Trabajo trabajo) {
   }
 }
 
-bool BocaMasAncha(const PiezaEspecial& pieza, int c) {
-  const bool deUnRadio = Es("TransEsp2") || Es("TransEsp3");
-  return deUnRadio ? pieza.r2(c) <= pieza.r1(c) : pieza.r2(c) < pieza.r1(c);
-}
-
 void DesarrollaEsquina(EWdraw& axew, clCono& cono, PiezaEspecial pieza, int c, int n) {
+  const bool todasIguales = Es("TransEsp2") || Es("TransEsp3");
   const double r1 = pieza.r1(c), r2 = pieza.r2(c);
-  const bool bCambio = BocaMasAncha(pieza, c);
+  const bool bCambio = todasIguales ? r2 <= r1 : r2 < r1;
   const EsquinaEspecial esquina = Esquina(pieza, c);
   const double Dx = LejosDeCero(esquina.bajo.x - esquina.alto.x), Dy = LejosDeCero(esquina.bajo.y - esquina.alto.y);
   double mayor = bCambio ? r1 : r2;
@@ -198,7 +190,8 @@ void DesarrollaExacto(EWdraw& axew, const PiezaEspecial& pieza, int n) {
   for (int c = 1; c <= 4; ++c) {
     SinParar([&] {
       if (std::max(std::abs(pieza.r1(c)), std::abs(pieza.r2(c))) < kIgual) return;
-      const SectorAnclado exacto = SectorExacto(pieza, c, n, BocaMasAncha(pieza, c));
+      // Near-equal radii lie as those do that were moved apart: with the lower rim at the bottom.
+      const SectorAnclado exacto = SectorExacto(pieza, c, n, pieza.r1(c) - pieza.r2(c) >= kCerca);
       ColocaSector(axew, c, exacto.sector, exacto.ancla);
     });
     SinParar([&] {

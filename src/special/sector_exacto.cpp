@@ -26,8 +26,9 @@ class ConoEntero {
         sentido_(bCambio ? -1 : 1),
         bCambio_(bCambio) {
     Punto3 D = esquina_.bajo - esquina_.alto;
-    if (std::hypot(D.x, D.y) < kIgual) D = {1, 1, 0};  // a right cone has no direction of its own
-    medio_ = std::atan2(sentido_ * D.y, sentido_ * D.x) + AnguloInicial(D.x, D.y, c, bCambio) + dPi;
+    const double x = LejosDeCero(D.x), y = LejosDeCero(D.y);
+    if (std::hypot(D.x, D.y) < kIgual) D = {x, y, 0};  // a right cone has no direction of its own
+    medio_ = std::atan2(sentido_ * D.y, sentido_ * D.x) + AnguloInicial(x, y, c, bCambio) + dPi;
   }
 
   Recta En(double delta) const {
@@ -68,14 +69,16 @@ struct Rodillo {
     const auto aparte = [&](Punto3 v, double radio) { return std::copysign(1.0, radio) * (v - Escalar(v, u) * u); };
     const Punto3 pasoBase = aparte(a.base - de.base, cono.RadioBase());
     const Punto3 pasoBoca = aparte(a.boca - de.boca, cono.RadioBoca());
-    const Punto3 mayor = Norma(pasoBase) > Norma(pasoBoca) ? pasoBase : pasoBoca, n = (1 / Norma(mayor)) * mayor;
+    const Punto3 mayor = Norma(pasoBase) > Norma(pasoBoca) ? pasoBase : pasoBoca;
+    delta = hasta;
+    if (Norma(mayor) == 0) return;
+    const Punto3 n = (1 / Norma(mayor)) * mayor;
     const auto plano = [&](Punto3 p) {
       const Punto3 v = p - de.base;
       return desde + Escalar(v, u) * u2 + Escalar(v, n) * n2;
     };
     base = plano(a.base);
     boca = plano(a.boca);
-    delta = hasta;
   }
   // In whole steps as far as they go.
   void Lleva(double hasta, double paso) {
@@ -84,6 +87,7 @@ struct Rodillo {
     const double desde = delta;
     for (int i = 1; i <= enteros; ++i) Rueda(desde + lado * i * paso);
     if (std::abs(hasta - delta) > kIgual * paso) Rueda(hasta);
+    delta = hasta;
   }
 };
 
