@@ -24,7 +24,7 @@ struct Mesa : VistaEWdraw {
 
 struct Cuenta {
   int piezas = 0, ciertas = 0;
-  double peor = 0;  // deviation of those that are true
+  double peor = 0;  // deviation of those that are true and not inside out
   std::map<Falta, int> con;
   int delReves = 0;  // of those that are not true
 };
@@ -33,7 +33,7 @@ void Pon(Cuenta& cuenta, const Veredicto& veredicto, bool delReves) {
   ++cuenta.piezas;
   if (veredicto.Cierto()) {
     ++cuenta.ciertas;
-    cuenta.peor = std::max(cuenta.peor, veredicto.desviacion);
+    if (!delReves) cuenta.peor = std::max(cuenta.peor, veredicto.desviacion);
   }
   if (!veredicto.Cierto() && delReves) ++cuenta.delReves;
   std::map<Falta, int> una;
