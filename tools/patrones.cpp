@@ -50,7 +50,7 @@ std::string Campos(const Dialogo& dialogo) {
   return texto + (dialogo.dosPiezas ? "Pieces=2" : "Pieces=1");
 }
 
-std::pair<Veredicto, bool> Una(EWdraw& axew, const Dialogo& dialogo, std::int16_t exacto) {
+std::pair<Veredicto, bool> Juzga(EWdraw& axew, const Dialogo& dialogo, std::int16_t exacto) {
   estado.iExacto = exacto;
   Dialogo copia = dialogo;
   if (copia.CmdAceptar() != Respuesta::aceptado) std::abort();
@@ -89,7 +89,7 @@ int main(int argc, char** argv) {
       const EstadoPrograma antes = estado;
       for (const std::int16_t exacto : {std::int16_t{0}, std::int16_t{1}}) {
         estado = antes;
-        const auto [v, delReves] = Una(axew, dialogo, exacto);
+        const auto [v, delReves] = Juzga(axew, dialogo, exacto);
         Pon(cuentas[exacto], v, delReves);
         if (!solo.empty() && exacto == 1 && !v.Cierto() && !delReves) {
           std::printf("%s: %s\n", Campos(dialogo).c_str(), TextoVeredicto(v).c_str());
