@@ -1,0 +1,280 @@
+// A storm of random jobs over all dialogs, of wild values that can be typed, on the whole road from the fields to the
+// file. Prints what goes wrong with the number of its job, and fails if anything does:
+//   tormenta PROGRAM-FOLDER [JOBS] [SEED] [FIRST JOB]
+
+#include <malloc.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <map>
+#include <random>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "check/comprueba.h"
+#include "check/hoja.h"
+#include "dxf/dibujo.h"
+#include "dxf/escritor.h"
+#include "piezas_azar.h"
+#include "shell/visor.h"
+#include "state/estado.h"
+#include "state/fichero.h"
+
+namespace {
+
+using namespace duktores;
+
+constexpr unsigned kPaciencia = 60;           // seconds for one piece
+constexpr std::size_t kHolgura = 128 * 1024;  // what the allocator keeps of freed memory, in bytes
+
+struct Azar {
+  std::mt19937 fuente;
+  unsigned Hasta(std::size_t n) { return static_cast<unsigned>(fuente() % n); }
+  bool Una(unsigned deCuantas) { return Hasta(deCuantas) == 0; }
+  double Entre(double a, double b) { return std::uniform_real_distribution<double>(a, b)(fuente); }
+  template <class T, std::size_t n>
+  T Uno(const T (&deEstos)[n]) {
+    return deEstos[Hasta(n)];
+  }
+};
+
+// Answers the picks, near and far away, and refuses some. Counts the messages that ask for none.
+struct Mesa : VistaEWdraw, Plataforma {
+  explicit Mesa(Azar& a) : azar(a) {}
+  std::optional<Punto3> EligePunto(EWdraw& axew) override {
+    --mensajes;
+    dibujado.push_back(axew.Entidades().size());
+    if (azar.Una(200)) return std::nullopt;
+    const double lejos = azar.Una(2) ? 0 : std::pow(10, azar.Entre(0, 9));
+    return Punto3{azar.Entre(-lejos, lejos), azar.Entre(-lejos, lejos), 0};
+  }
+  void CajaMensaje(std::string_view, EstiloMensaje, std::string_view) override { ++mensajes; }
+  void VentanaMensaje(std::string_view) override { ++mensajes; }
+  Azar& azar;
+  std::vector<std::size_t> dibujado;
+  int mensajes = 0;
+};
+
+void Configura(Azar& azar) {
+  estado.dIdioma = 10000.0 * azar.Hasta(7);
+  estado.iUnidad = azar.Uno<std::int16_t>({0, 1});
+  estado.dEspesor = azar.Uno({0.0, 0.01, 0.5, 1.0, 3.0, 25.0, 1000.0});
+  estado.dTamanoTexto = azar.Uno({0.0, 0.01, 1.0, 10.0, 10.0, 500.0});
+  estado.iFibra = azar.Uno<std::int16_t>({1, 2, 3});
+  estado.iColorDoblez = azar.Uno<std::int16_t>({0, 3, 7, 255});
+  estado.sDimensiones = azar.Uno({"0", "1"});
+  estado.sDensidad = azar.Uno({"7.85", "0", "", "99999.99"});
+  estado.iBox = azar.Uno<std::int16_t>({0, 1});
+  estado.iExacto = azar.Uno<std::int16_t>({0, 1});
+  estado.bComaDecimal = azar.Una(2);
+}
+
+// From 0.01 to 99999.99, what stands already in another field, or an edge.
+std::string Salvaje(Azar& azar, const Dialogo& dialogo, std::size_t campo) {
+  if (dialogo.Definicion().campos[campo].divisiones)
+    return std::to_string(azar.Una(20) ? azar.Hasta(1000) : 4 + 4 * azar.Hasta(azar.Una(8) ? 30 : 6));
+  const std::string signo = azar.Una(3) ? "-" : "";
+  if (azar.Una(4)) return signo + azar.Uno({"0", "0.01", "99999.99", "90", "89.99", "45", "1", "0.005", "180", "5."});
+  if (azar.Una(2)) return dialogo.CampoDe(static_cast<int>(azar.Hasta(campo + 1))).texto;
+  std::array<char, 32> letras{};
+  const double v = azar.Una(2) ? std::pow(10, azar.Entre(-2, 5)) : azar.Entre(0, 1000);
+  std::snprintf(letras.data(), letras.size(), "%.*f", static_cast<int>(azar.Hasta(4)), v);
+  return signo + letras.data();
+}
+
+void Escribe(Azar& azar, Dialogo& dialogo, std::size_t campo) {
+  const DefCampo& def = dialogo.Definicion().campos[campo];
+  const auto i = static_cast<int>(campo);
+  if (!def.filtro) return void(dialogo.Elige(i, def.valores[azar.Hasta(def.valores.size())]));
+  SeleccionaTodo(dialogo.CampoDe(i));
+  for (const char tecla : Salvaje(azar, dialogo, campo))
+    Teclea(static_cast<unsigned char>(tecla), dialogo.CampoDe(i), def.filtro);
+}
+
+// Everyday values of which some have gone wild, or wild ones throughout.
+void Llena(Azar& azar, Dialogo& dialogo) {
+  const std::size_t campos = dialogo.Definicion().campos.size();
+  TecleaPieza(dialogo, azar.fuente);
+  if (azar.Una(4)) {
+    for (std::size_t i = 0; i < campos; ++i) Escribe(azar, dialogo, i);
+  } else {
+    for (unsigned n = azar.Hasta(4); n > 0; --n) Escribe(azar, dialogo, azar.Hasta(campos));
+  }
+}
+
+bool DiceInfinito(std::string texto) {
+  for (char& c : texto) c = std::isalnum(static_cast<unsigned char>(c)) ? c : ' ';
+  texto = " " + texto + " ";
+  return texto.find(" inf ") != std::string::npos || texto.find(" nan ") != std::string::npos;
+}
+
+// The first pair of a file that holds no finite number where one belongs.
+std::string Mancha(std::string_view dxf) {
+  const auto linea = [&] {
+    const std::string_view una = dxf.substr(0, dxf.find("\r\n"));
+    dxf.remove_prefix(std::min(dxf.size(), una.size() + 2));
+    return una.substr(std::min(una.find_first_not_of(' '), una.size()));
+  };
+  while (!dxf.empty()) {
+    const std::string_view marca = linea(), valor = linea();
+    int codigo = -1;
+    double v = HUGE_VAL;
+    std::from_chars(marca.data(), marca.data() + marca.size(), codigo);
+    const char* const fin = valor.data() + valor.size();
+    const bool numero = std::from_chars(valor.data(), fin, v).ptr == fin && std::isfinite(v);
+    const bool pideNumero = (codigo >= 10 && codigo < 60) || (codigo >= 140 && codigo < 148);
+    if (codigo < 0 || (pideNumero && !numero) || (codigo == 1 && DiceInfinito(std::string(valor))))
+      return "pair " + std::string(marca) + ", " + std::string(valor);
+  }
+  return "";
+}
+
+// A shape of a special piece that is neither on the sheet nor named as missing.
+std::string Callada(const SolidoEspecial& solido, const Veredicto& veredicto) {
+  const PlanoCorte plano = PlanoDeCorte(solido.pieza);
+  const auto calla = [&](Forma forma, int c, const Elemento& p, const Elemento& q) {
+    const std::string nombre = NombreForma(forma, c);
+    const auto esta = [&](const FormaDibujada& f) { return f.forma == forma && f.numero == c; };
+    const auto dicha = [&](const Defecto& d) { return d.falta == Falta::falta && d.donde == nombre; };
+    const double ancho = std::max(Distancia(p.bajo, q.bajo), Distancia(p.corte, q.corte));
+    const bool callada = !(ancho <= ToleranciaPatron()) && std::ranges::none_of(estado.Formas, esta) &&
+                         std::ranges::none_of(veredicto.defectos, dicha);
+    return callada ? "not told of " + nombre : "";
+  };
+  for (int c = 1; c <= 4; ++c) {
+    const Elemento inicio = ElementoDe(solido.pieza, plano, c, 1, solido.n);
+    const Elemento fin = ElementoDe(solido.pieza, plano, c, solido.n / 4 + 1, solido.n);
+    const Elemento otro = ElementoDe(solido.pieza, plano, Siguiente(c), 1, solido.n);
+    for (const auto& mal : {calla(Forma::esquina, c, inicio, fin), calla(Forma::lado, c, fin, otro)})
+      if (!mal.empty()) return mal;
+  }
+  return "";
+}
+
+// What was drawn between two picks is a shape from its outline on, the title block of the shape before, or nothing.
+bool SinContorno(const EWdraw& axew, std::vector<std::size_t> dibujado) {
+  const auto& todo = axew.Entidades();
+  dibujado.push_back(todo.size());
+  bool trasForma = false;
+  for (std::size_t i = 0; i + 1 < dibujado.size(); ++i) {
+    if (dibujado[i] == dibujado[i + 1]) continue;
+    const bool forma = todo[dibujado[i]].tipo == TipoEntidad::contorno;
+    if (!forma && !(trasForma && estado.iBox != 0)) return true;
+    trasForma = forma;
+  }
+  return false;
+}
+
+struct Cuenta {
+  unsigned aceptados = 0, rechazados = 0, completos = 0, ciertos = 0, sinForma = 0, sinPunto = 0, errores = 0;
+  double peor = 0;
+  unsigned cual = 0;
+  std::map<std::string, unsigned> hallazgos;
+};
+
+// What is wrong with the piece in `estado`.
+std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::string& fichero) {
+  Dibuja3D(axew);
+  const Solido solido = SolidoActual();
+  const FinCorrida fin = Desplegado(axew);
+  cuenta.sinPunto += fin == FinCorrida::eleccionRechazada;
+  cuenta.errores += fin == FinCorrida::error;
+  if (fin == FinCorrida::error && mesa.mensajes != 1) return "ended, but not told once";
+  if (fin == FinCorrida::completo) {
+    const Veredicto veredicto = Comprueba(solido, axew);
+    ++cuenta.completos;
+    cuenta.ciertos += veredicto.Cierto();
+    cuenta.sinForma += std::ranges::count(veredicto.defectos, Falta::falta, &Defecto::falta) > 0;
+    if (DiceInfinito(TextoVeredicto(veredicto))) return "verdict: " + TextoVeredicto(veredicto);
+    if (mesa.mensajes != 0) return "a message beside the verdict";
+    if (const auto* especial = std::get_if<SolidoEspecial>(&solido)) {
+      if (SinContorno(axew, mesa.dibujado)) return "drawn without an outline";
+      if (const std::string callada = Callada(*especial, veredicto); !callada.empty()) return callada;
+    }
+  }
+  if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(fichero)) return "not saved";
+  return Mancha(LeeFichero(fichero).value_or("no file"));
+}
+
+void UnTrabajo(Azar& azar, const std::string& carpeta, unsigned n, Cuenta& cuenta, const std::string& fichero) {
+  estado = {};
+  estado.sRutaPrograma = carpeta;
+  Configura(azar);
+  Mesa mesa(azar);
+  EWdraw axew;
+  estado.plataforma = &mesa;
+  axew.PonVista(&mesa);
+  Dialogo dialogo(*DialogoDe(TiposDePieza()[azar.Hasta(TiposDePieza().size())]));
+  Llena(azar, dialogo);
+  const auto empieza = std::chrono::steady_clock::now();
+  const bool aceptado = dialogo.CmdAceptar() == Respuesta::aceptado;
+  const bool dicho = (mesa.mensajes == 1) != !dialogo.lblerror().empty();
+  const std::string mal = aceptado ? Trabaja(axew, mesa, cuenta, fichero) : dicho ? "" : "refused, but not told once";
+  const double tardo = std::chrono::duration<double>(std::chrono::steady_clock::now() - empieza).count();
+  ++(aceptado ? cuenta.aceptados : cuenta.rechazados);
+  if (tardo > cuenta.peor) std::tie(cuenta.peor, cuenta.cual) = std::pair(tardo, n);
+  constexpr unsigned kBastan = 5;  // of one kind
+  if (mal.empty() || ++cuenta.hallazgos[mal.substr(0, 16)] > kBastan) return;
+  std::printf("job %u: %s: %s", n, mal.c_str(), dialogo.Definicion().clave.data());
+  for (int i = 0; const DefCampo& campo : dialogo.Definicion().campos)
+    std::printf(" %s=%s", campo.palabra.data(), dialogo.CampoDe(i++).texto.c_str());
+  std::printf(" Exact=%d\n", estado.iExacto);
+}
+
+char enCurso[64];
+
+extern "C" void AlMorir(int senal) {
+  [[maybe_unused]] const auto escrito = write(STDOUT_FILENO, enCurso, std::strlen(enCurso));
+  std::signal(senal, SIG_DFL);
+  std::raise(senal);
+}
+
+std::size_t Memoria() {
+  estado = {};
+  const auto m = mallinfo2();
+  return m.uordblks + m.hblkhd;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto numero = [&](int i, unsigned sino) {
+    return argc > i ? unsigned(std::strtoul(argv[i], nullptr, 10)) : sino;
+  };
+  if (argc < 2) return 2;
+  const std::string carpeta = std::string(argv[1]) + "/";
+  const unsigned trabajos = numero(2, 1000), semilla = numero(3, 1), primero = numero(4, 0), caliente = trabajos / 10;
+  const std::string fichero = std::filesystem::temp_directory_path() / ("tormenta-" + std::to_string(getpid()));
+  for (const int senal : {SIGALRM, SIGABRT, SIGSEGV, SIGFPE}) std::signal(senal, AlMorir);
+  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+  Azar azar;
+  Cuenta c;
+  std::size_t antes = 0;
+  for (unsigned i = 0, n = primero; i < trabajos; ++i, ++n) {
+    if (i == caliente) antes = Memoria();
+    std::snprintf(enCurso, sizeof enCurso, "ended in job %u of seed %u\n", n, semilla);
+    alarm(kPaciencia);
+    std::seed_seq mezcla{semilla, n};
+    azar.fuente.seed(mezcla);
+    UnTrabajo(azar, carpeta, n, c, fichero);
+  }
+  const std::size_t despues = Memoria();
+  std::filesystem::remove(fichero);
+  std::printf(
+      "%u jobs of seed %u: accepted %u, refused %u; unfolded %u, true %u, without a shape %u; without a place %u, "
+      "ended by an error %u\nlongest %.3f s, job %u; bytes held after %u jobs %zu, at the end %zu\n",
+      trabajos, semilla, c.aceptados, c.rechazados, c.completos, c.ciertos, c.sinForma, c.sinPunto, c.errores, c.peor,
+      c.cual, caliente, antes, despues);
+  for (const auto& [mal, veces] : c.hallazgos) std::printf("%u times: %s\n", veces, mal.c_str());
+  return c.hallazgos.empty() && despues < antes + kHolgura ? 0 : 1;
+}
