@@ -82,6 +82,8 @@ int main(int argc, char** argv) {
       estado.dEspesor = 1;
       estado.dTamanoTexto = 10;
       estado.iColorDoblez = 3;
+      estado.sDimensiones = "1";
+      estado.iBox = 1;
       estado.sTipoPieza = "";
       Dialogo dialogo(*DialogoDe(tipo));
       TecleaPieza(dialogo, azar);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "check/cruce.h"
+#include "dxf/anotacion.h"
 
 namespace duktores {
 
@@ -54,7 +55,8 @@ Punto2 Cotejo::FinDeLinea(Punto2 p) {
 void Cotejo::Cierra(Veredicto& veredicto) {
   Largo(forma_->contorno.front(), forma_->contorno.back(), 0);
   if (!forma_->NumerosHasta(numeros_)) numero_.Anota(1, forma_->contorno.front(), forma_->contorno.front());
-  if (forma_->Dobleces() != dobleces_) doblez_.Anota(1, forma_->contorno.front(), forma_->contorno.front());
+  if (estado.iColorDoblez != kColorCota && forma_->Dobleces() != dobleces_)
+    doblez_.Anota(1, forma_->contorno.front(), forma_->contorno.front());
   const auto anota = [&](Falta falta, const Peor& peor, double medida) {
     veredicto.defectos.push_back({falta, forma_->Donde(peor.sitio), medida});
   };

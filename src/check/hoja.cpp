@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+#include "dxf/anotacion.h"
 #include "state/textos.h"
 
 namespace duktores {
@@ -17,10 +18,12 @@ bool Antes(const std::array<Punto2, 2>& a, const std::array<Punto2, 2>& b) {
   return std::tie(a[0].x, a[0].y, a[1].x, a[1].y) < std::tie(b[0].x, b[0].y, b[1].x, b[1].y);
 }
 
-// Numbers are the red texts.
+// Numbers are the red texts. Dimension lines may happen to join vertices too: they don't count, if the bend lines have
+// another colour.
 void LeeMarca(FormaEnHoja& forma, const Entidad& e) {
-  static const std::int32_t rojo = EwRgb(256, 0, 0);
-  if (e.tipo == TipoEntidad::linea) forma.lineas.push_back({Plano(e.puntos[0]), Plano(e.puntos[1])});
+  static const std::int32_t rojo = EwRgb(256, 0, 0), cian = EwRgb(0, 255, 255);
+  const bool cota = e.color == cian && estado.iColorDoblez != kColorCota;
+  if (e.tipo == TipoEntidad::linea && !cota) forma.lineas.push_back({Plano(e.puntos[0]), Plano(e.puntos[1])});
   if (e.tipo != TipoEntidad::texto || e.color != rojo) return;
   int valor = 0;
   std::from_chars(e.texto.data(), e.texto.data() + e.texto.size(), valor);

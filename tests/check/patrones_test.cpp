@@ -45,6 +45,8 @@ void Configura() {
   estado.iFibra = 2;
   estado.dTamanoTexto = 10;
   estado.iColorDoblez = 3;
+  estado.sDimensiones = "1";
+  estado.iBox = 1;
 }
 
 Dialogo Pieza(std::string_view tipo, std::initializer_list<const char*> textos, bool dosPiezas = false) {
