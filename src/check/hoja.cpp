@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <tuple>
-#include <utility>
 
 #include "dxf/anotacion.h"
 #include "state/textos.h"
@@ -38,22 +37,27 @@ bool FormaEnHoja::HayLinea(Punto2 p, Punto2 q) const {
 }
 
 std::size_t FormaEnHoja::Dobleces() const {
-  std::vector<std::pair<Punto2, std::size_t>> vertices;
-  for (std::size_t i = 0; i < contorno.size(); ++i) vertices.emplace_back(contorno[i], i);
-  const auto menor = [](Punto2 a, Punto2 b) { return std::tie(a.x, a.y) < std::tie(b.x, b.y); };
-  std::ranges::sort(vertices, menor, &std::pair<Punto2, std::size_t>::first);
-  const auto vertice = [&](Punto2 p) {
-    return std::ranges::equal_range(vertices, p, menor, &std::pair<Punto2, std::size_t>::first);
+  using Vertice = std::tuple<double, double, std::size_t>;  // x, y, place in the outline
+  std::vector<Vertice> vertices;
+  for (std::size_t i = 0; i < contorno.size(); ++i) vertices.emplace_back(contorno[i].x, contorno[i].y, i);
+  std::ranges::sort(vertices);
+  // Places of a point in the outline; it may stand there more than once.
+  const auto lugares = [&](Punto2 p) {
+    std::vector<std::size_t> lista;
+    for (auto v = std::ranges::lower_bound(vertices, Vertice(p.x, p.y, 0)); v != vertices.end(); ++v) {
+      const auto [x, y, lugar] = *v;
+      if (x != p.x || y != p.y) break;
+      lista.push_back(lugar);
+    }
+    return lista;
   };
   std::size_t cuenta = 0;
   for (const auto& [p, q] : lineas) {
-    const auto de = vertice(p), a = vertice(q);
-    if (de.empty() || a.empty()) continue;
-    const bool lado = std::ranges::any_of(de, [&](const auto& u) {
-      return std::ranges::any_of(
-          a, [&](const auto& v) { return std::max(u.second, v.second) <= std::min(u.second, v.second) + 1; });
+    const auto de = lugares(p), a = lugares(q);
+    const bool lado = std::ranges::any_of(de, [&](std::size_t u) {
+      return std::ranges::any_of(a, [&](std::size_t v) { return std::max(u, v) - std::min(u, v) <= 1; });
     });
-    if (!lado) ++cuenta;
+    if (!de.empty() && !a.empty() && !lado) ++cuenta;
   }
   return cuenta;
 }

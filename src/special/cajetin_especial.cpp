@@ -130,10 +130,9 @@ void GeneraCajetinCono(EWdraw& axew, const Sector& sector) {
 
 void GeneraCajetinPanel(EWdraw& axew, const std::array<Punto2, 4>& panel) {
   const auto& [A, B, C, D] = panel;
+  const std::array lados{Distancia(A, D), Distancia(B, C), Distancia(C, D), Distancia(A, B)};
   GeneraCajetin(axew, Bloque::panel, [&](ListaLargos& lista) {
-    for (const double lado : {Distancia(A, D), Distancia(B, C), Distancia(C, D), Distancia(A, B)}) {
-      lista.Fila(lado, true);
-    }
+    for (const double lado : lados) lista.Fila(lado, true);
   });
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 // The exact panel lies in its own plane: along the upper edge, or along the lower one where the upper is a point.
 std::array<Punto2, 4> AplanaExacto(const Lado& lado, Punto2 A) {
-  const auto& [P11, P12, P21, P22] = lado;
+  const Punto3 P11 = lado[0], P12 = lado[1], P21 = lado[2], P22 = lado[3];
   const bool conBoca = Distancia(P11, P12) > 1e-9;
   const Punto3 borde = conBoca ? P12 - P11 : P21 - P22, u = (1 / Norma(borde)) * borde;
   const auto aparte = [&](Punto3 P) { return P - P11 - Escalar(P - P11, u) * u; };

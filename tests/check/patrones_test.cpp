@@ -234,6 +234,15 @@ TEST(Comprueba, SaysHowFarAndWhere) {
   }
 }
 
+TEST(Comprueba, NamesWhatIsNoNumber) {
+  Configura();
+  estado.bComaDecimal = true;
+  Desarrollado d(PiezaCR(false), 0);
+  estado.bComaDecimal = true;
+  d.Contorno(0).puntos[3].x = HUGE_VAL;
+  EXPECT_TRUE(TextoVeredicto(d.Juzga()).ends_with("Desviación máxima: ?")) << TextoVeredicto(d.Juzga());
+}
+
 TEST(Cruce, TouchingIsNoCrossing) {
   EXPECT_FALSE(Cruce({{0, 0}, {4, 0}, {4, 4}, {2, 0}, {0, 4}}, 1e-6)) << "a vertex on an edge";
   EXPECT_FALSE(Cruce({{0, 0}, {2, 0}, {2, 2}, {2, 2}, {0, 2}, {0, 0}}, 1e-6)) << "vertices twice";
