@@ -34,8 +34,8 @@ namespace {
 
 using namespace duktores;
 
-constexpr unsigned kPaciencia = 60;           // seconds for one piece
-constexpr std::size_t kHolgura = 128 * 1024;  // what the allocator keeps of freed memory, in bytes
+constexpr unsigned kPaciencia = 60;       // seconds for one piece
+constexpr std::size_t kHolgura = 131072;  // what the allocator keeps of freed memory, in bytes
 
 struct Azar {
   std::mt19937 fuente;
@@ -199,7 +199,7 @@ std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::s
     if (mesa.mensajes != 0) return "a message beside the verdict";
     if (const auto* especial = std::get_if<SolidoEspecial>(&solido)) {
       if (SinContorno(axew, mesa.dibujado)) return "drawn without an outline";
-      if (const std::string callada = Callada(*especial, veredicto); !callada.empty()) return callada;
+      if (std::string callada = Callada(*especial, veredicto); !callada.empty()) return callada;
     }
   }
   if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(fichero)) return "not saved";
@@ -220,6 +220,7 @@ void UnTrabajo(Azar& azar, const std::string& carpeta, unsigned n, Cuenta& cuent
   const bool aceptado = dialogo.CmdAceptar() == Respuesta::aceptado;
   const bool dicho = (mesa.mensajes == 1) != !dialogo.lblerror().empty();
   const std::string mal = aceptado ? Trabaja(axew, mesa, cuenta, fichero) : dicho ? "" : "refused, but not told once";
+  estado.plataforma = nullptr;
   const double tardo = std::chrono::duration<double>(std::chrono::steady_clock::now() - empieza).count();
   ++(aceptado ? cuenta.aceptados : cuenta.rechazados);
   if (tardo > cuenta.peor) std::tie(cuenta.peor, cuenta.cual) = std::pair(tardo, n);

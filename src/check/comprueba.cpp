@@ -253,9 +253,9 @@ Bordes CompruebaEsquina(const FormaEnHoja& forma, const CaraEsquina& cara, std::
   Lectura lectura{forma.contorno, true, false};
   for (const auto& [bajoPrimero, derecho] : {std::pair(true, false), {false, true}, {true, true}, {false, false}}) {
     const Lectura una{forma.contorno, bajoPrimero, derecho};
-    Cotejo cotejo = CotejaSector(forma, una, cara);
+    const Cotejo cotejo = CotejaSector(forma, una, cara);
     if (!mejor || Preferible(cotejo, *mejor)) {
-      mejor.emplace(std::move(cotejo));
+      mejor = cotejo;
       lectura.bajoPrimero = bajoPrimero;
       lectura.derecho = derecho;
     }
@@ -324,7 +324,10 @@ Veredicto CompruebaEspecial(const SolidoEspecial& solido, const std::vector<Form
   for (std::size_t i = 0; i < anillo.size(); ++i) {
     const auto& [nombre, bordes] = anillo[i];
     const auto& [vecina, suyos] = anillo[(i + 1) % anillo.size()];
-    if (bordes.hay && suyos.hay) Vecinas(veredicto, nombre + " - " + vecina, bordes.despues, suyos.antes);
+    if (!bordes.hay || !suyos.hay) continue;
+    std::string ambas = nombre;
+    (ambas += " - ") += vecina;
+    Vecinas(veredicto, ambas, bordes.despues, suyos.antes);
   }
   return veredicto;
 }

@@ -29,7 +29,7 @@ std::vector<LineaNumerada> LineasNumeradas(const Transicion& t, Parte parte) {
   const int N = F.Cuenta() - 1, h = N / 2, q = N / 4;
   const int primero = segunda ? 2 : 0, ultimo = primera ? 1 : 3;
   std::vector<LineaNumerada> lineas;
-  lineas.reserve(static_cast<std::size_t>(2 * N + 17));
+  lineas.reserve(2 * static_cast<std::size_t>(N) + 17);
   // The edges below the fans, from left to right: corners and feet of the side lines.
   std::vector<Punto2> cadena = segunda ? std::vector{t.dCorteBajo2, C(4)} : std::vector{C(1), C(2)};
   for (int abanico = primero; abanico <= ultimo; ++abanico) {

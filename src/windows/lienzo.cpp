@@ -231,9 +231,10 @@ void Lienzo::mouseMoveEvent(QMouseEvent* suceso) {
   }
   if (suceso->buttons() == Qt::NoButton) arrastre_.reset();  // a box on top has had the release
   if (!arrastre_) return;
-  if (arrastre_ == MandoVista::pan) Desplaza(paso);
-  if (arrastre_ == MandoVista::zoom) Amplia(std::exp(-paso.y() / 120), inicio_);
-  if (arrastre_ == MandoVista::orbit) Orbita(paso);
+  const MandoVista mando = *arrastre_;
+  if (mando == MandoVista::pan) Desplaza(paso);
+  if (mando == MandoVista::zoom) Amplia(std::exp(-paso.y() / 120), inicio_);
+  if (mando == MandoVista::orbit) Orbita(paso);
   update();
 }
 
