@@ -65,7 +65,7 @@ std::string LeeIni(std::string_view seccion, std::string_view clave) {
   // Opening a pipe could wait for ever.
   if (!std::filesystem::is_regular_file(estado.sRutaIni, error)) return {};
   std::ifstream fichero(estado.sRutaIni, std::ios::binary);
-  std::string contenido(kMaximoIni, '\0');
+  std::string contenido(std::min(std::filesystem::file_size(estado.sRutaIni, error), kMaximoIni), '\0');
   fichero.read(contenido.data(), static_cast<std::streamsize>(contenido.size()));
   contenido.resize(static_cast<std::size_t>(fichero.gcount()));
   return ValorIni(contenido, seccion, clave);

@@ -3,8 +3,10 @@
 #include <unistd.h>
 
 #include <array>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <system_error>
 
 namespace duktores {
@@ -30,13 +32,16 @@ bool EscribeFichero(const std::string& ruta, std::string_view contenido) {
   if (fs::is_symlink(destino, error)) destino = fs::canonical(destino, error);
   if (destino.empty() || (fs::exists(destino, error) && access(destino.c_str(), W_OK) != 0)) return false;
   error.clear();
-  // The thread's own name: two savers in one folder don't meet in it.
-  const fs::path temporal = destino.parent_path() / (".duktores-" + std::to_string(gettid()) + ".tmp");
-  std::ofstream fichero(temporal, std::ios::binary);
-  fichero.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
-  fichero.close();
-  if (fichero) fs::rename(temporal, destino, error);
-  const bool hecho = fichero && !error;
+  // No other saver of this folder has the name, on whichever machine it runs.
+  const fs::path temporal = destino.parent_path() / (".duktores-" + std::to_string(std::random_device{}()) + ".tmp");
+  std::FILE* const fichero = std::fopen(temporal.c_str(), "wbx");
+  if (fichero == nullptr) return false;
+  bool hecho = std::fwrite(contenido.data(), 1, contenido.size(), fichero) == contenido.size();
+  // Without this a power cut could leave an empty file under the name.
+  hecho = hecho && std::fflush(fichero) == 0 && fsync(fileno(fichero)) == 0;
+  hecho = std::fclose(fichero) == 0 && hecho;
+  if (hecho) fs::rename(temporal, destino, error);
+  hecho = hecho && !error;
   if (!hecho) fs::remove(temporal, error);
   return hecho;
 }
