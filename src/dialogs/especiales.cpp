@@ -221,27 +221,30 @@ double Fibra() {
   return fibra ? fibra->radio : 0;
 }
 
-// The angles are held negated.
-void GuardaComun(double H, double AX, double AY, double Alfa, double Beta, double divisiones) {
-  estado.dAltura = H;
-  estado.dAx = AX;
-  estado.dAy = AY;
-  estado.dAlfa = -Alfa;
-  estado.dBeta = -Beta;
-  estado.iDivisiones = EnteroCorto(divisiones);
+// The first field and the last five are the same in all pieces. The angles are held negated.
+void GuardaComun(const Valores& v) {
+  const auto n = static_cast<int>(v.size());
+  estado.dAltura = N(v, 0);
+  estado.dAx = N(v, n - 5);
+  estado.dAy = N(v, n - 4);
+  estado.dAlfa = -N(v, n - 3);
+  estado.dBeta = -N(v, n - 2);
+  estado.iDivisiones = EnteroCorto(N(v, n - 1));
+}
+
+// Four fields in a row, corrected.
+auto CuatroDesde(const Valores& v, int primero, double c) {
+  return std::tuple(N(v, primero) + c, N(v, primero + 1) + c, N(v, primero + 2) + c, N(v, primero + 3) + c);
 }
 
 void Guarda1(const Valores& v, bool) {
   using namespace esp1;
   const double c = Fibra();
   EstadoPrograma& e = estado;
-  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) =
-      std::make_tuple(N(v, R11) + c, N(v, R12) + c, N(v, R13) + c, N(v, R14) + c);
-  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) =
-      std::make_tuple(N(v, R21) + c, N(v, R22) + c, N(v, R23) + c, N(v, R24) + c);
-  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) =
-      std::make_tuple(N(v, LX1) + c, N(v, LY1) + c, N(v, LX2) + c, N(v, LY2) + c);
-  GuardaComun(N(v, H), N(v, AX), N(v, AY), N(v, Alfa), N(v, Beta), N(v, Divisiones));
+  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) = CuatroDesde(v, R11, c);
+  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) = CuatroDesde(v, R21, c);
+  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = CuatroDesde(v, LX1, c);
+  GuardaComun(v);
 }
 
 void Guarda23(const Valores& v, bool) {
@@ -252,20 +255,19 @@ void Guarda23(const Valores& v, bool) {
   estado.dLY2 = N(v, LY) + c;
   estado.dLX1 = estado.dLY1 = 2 * estado.dRadioEsp;
   estado.dRadioEsp2 = estado.dLY2 / 2;
-  GuardaComun(N(v, H), N(v, AX), N(v, AY), N(v, Alfa), N(v, Beta), N(v, Divisiones));
+  GuardaComun(v);
 }
 
 void Guarda4(const Valores& v, bool) {
   using namespace esp4;
   const double c = Fibra();
   EstadoPrograma& e = estado;
-  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) =
-      std::make_tuple(N(v, R21) + c, N(v, R22) + c, N(v, R23) + c, N(v, R24) + c);
+  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) = CuatroDesde(v, R21, c);
   e.dR11 = e.dR12 = e.dR13 = e.dR14 = N(v, R1) + c;
   e.dLX2 = N(v, LX) + c;
   e.dLY2 = N(v, LY) + c;
   e.dLX1 = e.dLY1 = 2 * e.dR11;
-  GuardaComun(N(v, H), N(v, AX), N(v, AY), N(v, Alfa), N(v, Beta), N(v, Divisiones));
+  GuardaComun(v);
 }
 
 // Only the radii are corrected here.
@@ -273,11 +275,10 @@ void Guarda5(const Valores& v, bool) {
   using namespace esp5;
   const double c = Fibra();
   EstadoPrograma& e = estado;
-  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) =
-      std::make_tuple(N(v, R11) + c, N(v, R12) + c, N(v, R13) + c, N(v, R14) + c);
+  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) = CuatroDesde(v, R11, c);
   e.dR21 = e.dR22 = e.dR23 = e.dR24 = 0.005;
-  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = std::make_tuple(N(v, LX1), N(v, LY1), N(v, LX2), N(v, LY2));
-  GuardaComun(N(v, H), N(v, AX), N(v, AY), N(v, Alfa), N(v, Beta), N(v, Divisiones));
+  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = CuatroDesde(v, LX1, 0);
+  GuardaComun(v);
 }
 
 // All but the texts, tables and the storing is the same in the five.
