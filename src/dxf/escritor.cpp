@@ -90,7 +90,7 @@ void AnadeCp1252(std::string& destino, std::string_view utf8) {
   }
 }
 
-/// The whole file; false if the template is cut short within a rule or before its entities.
+/// The whole file; false if the template is cut short.
 bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::string_view entidades,
              std::string& fichero) {
   fichero.reserve(2 * plantilla.size() + entidades.size());
@@ -101,9 +101,14 @@ bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::
     const std::string marca = Mayusculas(linea);
     if (marca == "ENTITIES") {
       AnadeCp1252(fichero, entidades);
-      while (copiadora.Copia(1)) {
+      bool cerrado = false, acabado = false;
+      while (copiadora.Lee(linea)) {
+        copiadora.Escribe(linea);
+        const std::string_view palabra = Recorta(linea);
+        cerrado = cerrado || palabra == "ENDSEC";
+        acabado = palabra.empty() ? acabado : palabra == "EOF";
       }
-      return true;
+      return cerrado && acabado;
     }
     const auto regla = std::ranges::find(reglas, marca, &Regla::marca);
     if (regla != reglas.end() && !Aplica(*regla, copiadora)) return false;
@@ -111,7 +116,11 @@ bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::
   return false;
 }
 
-std::string LeePlantilla() { return LeeFichero(RutaPlantilla()).value_or(""); }
+// A pipe would be waited for, a device has no end.
+std::string LeePlantilla() {
+  std::error_code fallo;
+  return fs::is_regular_file(RutaPlantilla(), fallo) ? LeeFichero(RutaPlantilla()).value_or("") : "";
+}
 
 }  // namespace
 

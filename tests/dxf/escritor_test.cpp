@@ -83,20 +83,24 @@ assert [e.dxftype() for e in dibujo.modelspace()] == ["LINE", "ARC", "LWPOLYLINE
 
 TEST_F(Escritor, TemplatesOfOtherHandsAreTakenAsTheyAre) {
   // Bare line feeds, bytes of code page 1252, a marker with a blank in front, one in lower case, no last line end.
-  EscribeFichero(plantilla_, "\xD8\n $EXTMIN\n10\nold\n$ExtMin\n10\nold\n20\nold\n30\nz\n\nentities\n$EXTMAX\n10\nold");
+  EscribeFichero(
+      plantilla_,
+      "\xD8\n $EXTMIN\n10\nold\n$ExtMin\n10\nold\n20\nold\n30\nz\n\nentities\n$EXTMAX\n10\nold\nENDSEC\nEOF");
   std::string texto = "\u00D8\u20AC\u0411";
   DibujaLinea(axew_, 1, 2, 3, 4, 7);
   DibujaTexto(axew_, 1, 2, texto, 0, 7, 0);
   Guarda();
   const std::string fila = Fila(LeeFichero(destino_).value());
   EXPECT_TRUE(fila.starts_with("\xD8| $EXTMIN|10|old|$ExtMin|10|1|20|2|30|z||entities|  0|LINE|")) << fila;
-  EXPECT_TRUE(fila.ends_with("|\xD8\x80\\U+0411|  50|0.0|100|AcDbText|$EXTMAX|10|old|")) << "no marker counts any more";
+  EXPECT_TRUE(fila.ends_with("|\xD8\x80\\U+0411|  50|0.0|100|AcDbText|$EXTMAX|10|old|ENDSEC|EOF|"))
+      << "no marker counts any more";
 }
 
 TEST_F(Escritor, RefusalsLeaveWhatStoodThere) {
   DibujaLinea(axew_, 1, 2, 3, 4, 7);
   const std::string plantilla = LeeFichero(plantilla_).value();
-  for (const std::size_t largo : {plantilla.find("*Active") + 9, plantilla.find("BLOCKS"), std::size_t{0}}) {
+  for (const std::size_t largo : {plantilla.find("*Active") + 9, plantilla.find("BLOCKS"), std::size_t{0},
+                                  plantilla.rfind("ENDSEC"), plantilla.rfind("EOF")}) {
     EscribeFichero(plantilla_, plantilla.substr(0, largo));
     EsperaRechazo("template cut at " + std::to_string(largo));
     EXPECT_FALSE(HayPlantilla());
