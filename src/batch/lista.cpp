@@ -94,7 +94,7 @@ Trabajo LeeTrabajo(const json& objeto) {
 
 }  // namespace
 
-std::vector<Trabajo> LeeLista(const std::string& texto) {
+std::vector<Trabajo> LeeLista(const std::string& texto, bool solidos) {
   ClavesRepetidas repetidas;
   json lista;
   try {
@@ -122,7 +122,13 @@ std::vector<Trabajo> LeeLista(const std::string& texto) {
   }
   // Nobody can tell which of two pieces the drawing of that name should be.
   for (Trabajo& trabajo : trabajos) {
-    if (veces[trabajo.nombre] > 1) trabajo.rechazo = {"name", "the name stands on another job too."};
+    const std::string_view nombre = trabajo.nombre;
+    if (veces[trabajo.nombre] > 1) {
+      trabajo.rechazo = {"name", "the name stands on another job too."};
+    } else if (solidos && nombre.ends_with(kSufijoSolido) &&
+               veces.contains(trabajo.nombre.substr(0, nombre.size() - kSufijoSolido.size()))) {
+      trabajo.rechazo = {"name", "the picture of another job's solid has that name."};
+    }
   }
   return trabajos;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,10 @@ struct ErrorLista : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-std::vector<Trabajo> LeeLista(const std::string& json);
+/// Behind the name of a job it makes that of the picture of its solid.
+inline constexpr std::string_view kSufijoSolido = "-3d";
+
+/// `solidos` says that pictures of the solids are made too, whose names no job may have.
+std::vector<Trabajo> LeeLista(const std::string& json, bool solidos = false);
 
 }  // namespace duktores

@@ -25,6 +25,16 @@ class PlataformaLote : public Plataforma {
   std::string mensaje;
 };
 
+// The answer to a prompt, which is no message any more.
+struct Puntos : PuntosLote {
+  Puntos(const std::vector<Punto2>& sitios, std::string& aviso) : PuntosLote(sitios), mensaje(aviso) {}
+  std::optional<Punto3> EligePunto(EWdraw& axew) override {
+    mensaje.clear();
+    return PuntosLote::EligePunto(axew);
+  }
+  std::string& mensaje;
+};
+
 std::string Palabra(const Dialogo& dialogo, int campo) {
   return std::string(dialogo.Definicion().campos[static_cast<std::size_t>(campo)].palabra);
 }
@@ -81,7 +91,7 @@ std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, co
 
 std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, PlataformaLote& plataforma) {
   const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : SitiosLibres();
-  PuntosLote puntos(sitios);
+  Puntos puntos(sitios, plataforma.mensaje);
   axew.PonVista(&puntos);
   plataforma.mensaje.clear();
   const FinCorrida fin = Desplegado(axew);
@@ -94,7 +104,7 @@ std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, Platafor
     case FinCorrida::error:
       break;
   }
-  return Rechazo{"piece", plataforma.mensaje.empty() ? "the unfolding failed." : plataforma.mensaje};
+  return Rechazo{"piece", plataforma.mensaje.empty() ? Texto(kTextoIncompleto) : plataforma.mensaje};
 }
 
 std::string Sufijo(Formato formato) {
@@ -115,15 +125,15 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
   if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(dxf)) return noGuardado(dxf);
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + Sufijo(formato);
-    if (!GuardaImagen(axew, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
+    if (!GuardaImagen(axew, imagen, formato)) return noGuardado(imagen);
   }
   if (!opciones.solido || opciones.imagenes.empty()) return std::nullopt;
   EWdraw solido;
   Dibuja3D(solido);
   solido.EwViewDirection(1, -1, 1);
   for (const Formato formato : opciones.imagenes) {
-    const std::string imagen = base + "-3d" + Sufijo(formato);
-    if (!GuardaImagen(solido, QString::fromStdString(imagen), formato)) return noGuardado(imagen);
+    const std::string imagen = base + std::string(kSufijoSolido) + Sufijo(formato);
+    if (!GuardaImagen(solido, imagen, formato)) return noGuardado(imagen);
   }
   return std::nullopt;
 }

@@ -1,16 +1,16 @@
 // Pictures as files. All formats have the same layout in picture units: a pixel of the PNG.
 
 #include <QBuffer>
-#include <QFileInfo>
 #include <QImage>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 #include <algorithm>
+#include <filesystem>
 
 #include "paint/pintura.h"
+#include "state/fichero.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -61,19 +61,15 @@ bool Pdf(QIODevice& salida, const EWdraw& axew, QSize lienzo, const QString& tit
 
 }  // namespace
 
-bool GuardaImagen(const EWdraw& axew, const QString& ruta, Formato formato) {
+bool GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato) {
   const QSize lienzo = TamanoImagen(axew);
-  const QString titulo = QFileInfo(ruta).completeBaseName();
+  const QString titulo = QString::fromStdString(std::filesystem::path(ruta).stem().string());
   QBuffer salida;
   salida.open(QIODevice::WriteOnly);
   const bool pintado = formato == Formato::png   ? Png(salida, axew, lienzo)
                        : formato == Formato::svg ? Svg(salida, axew, lienzo, titulo)
                                                  : Pdf(salida, axew, lienzo, titulo);
-  if (!pintado) return false;
-  QSaveFile archivo(ruta);
-  // Unbuffered: a buffer's rest that no longer fits on the disk would not be reported.
-  return archivo.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-         archivo.write(salida.data()) == salida.data().size() && archivo.commit();
+  return pintado && EscribeFichero(ruta, salida.data().toStdString());
 }
 
 }  // namespace duktores

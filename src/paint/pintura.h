@@ -9,7 +9,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
-#include <QString>
+#include <string>
 
 #include "geometry/puntos.h"
 
@@ -50,6 +50,6 @@ void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSize
 
 enum class Formato { png, svg, pdf };
 /// A picture of the whole model on light paper. False if the file can't be written; a former file is then still there.
-bool GuardaImagen(const EWdraw& axew, const QString& ruta, Formato formato);
+bool GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato);
 
 }  // namespace duktores

@@ -21,5 +21,7 @@ inline constexpr int kTextoNoGuardado = 80;       ///< the file could not be sav
 inline constexpr int kTextoPlantilla = 81;        ///< the template is missing or unusable
 inline constexpr int kTextoDemasiadas = 82;       ///< run ended early: no handle left
 inline constexpr int kTextoMedidaImposible = 83;  ///< run ended early: a coordinate is no number
+inline constexpr int kTextoIncompleto = 120;      ///< run ended early, whatever the reason
+inline constexpr int kTextoConfiguracion = 121;   ///< the configuration can't be used
 
 }  // namespace duktores

@@ -36,10 +36,11 @@ TEST(GuardaImagen, ShapeFollowsTheModel) {
   for (const auto& [esquina, tamano] : casos) {
     EWdraw axew;
     axew.EwAddLine({}, esquina);
-    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a"), Formato::png));
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png));
     EXPECT_EQ(QImage(carpeta.filePath("a")).size(), tamano);
   }
-  for (const Formato formato : kFormatos) EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b"), formato));
+  for (const Formato formato : kFormatos)
+    EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b").toStdString(), formato));
 }
 
 TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
@@ -48,7 +49,7 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   Llena(axew, 1000, 800);
   axew.EwAddText("tiny", "", {5, 5, 0}, 0.01, 0);
   axew.EwAddLine({qQNaN(), 0, 0}, {1, 1, 0});
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a"), Formato::svg));
+  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::svg));
   const QByteArray svg = Lee(carpeta.filePath("a"));
   QXmlStreamReader xml(svg);
   QString textos;
@@ -56,7 +57,7 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   EXPECT_FALSE(xml.hasError() || svg.contains("nan")) << xml.errorString().toStdString();
   for (const char* texto : {"12,5 < 13 &", "\u5468\u957F", "tiny"}) EXPECT_TRUE(textos.contains(texto)) << texto;
 
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a"), Formato::pdf));
+  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::pdf));
   const QByteArray pdf = Lee(carpeta.filePath("a"));
   EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
   EXPECT_TRUE(pdf.contains("/MediaBox [0 0 800.000000 640.000000]")) << "the picture's shape, half a point to a pixel";
@@ -68,16 +69,16 @@ TEST(GuardaImagen, WhatCannotBeWrittenLeavesWhatWasThere) {
   Llena(axew, 1000, 800);
   const QString ruta = carpeta.filePath("old");
   const QStringList malas{carpeta.filePath("none/a"), carpeta.path(), ruta + "/a", ""};
-  ASSERT_TRUE(GuardaImagen(EWdraw(), ruta, Formato::svg));
+  ASSERT_TRUE(GuardaImagen(EWdraw(), ruta.toStdString(), Formato::svg));
   const QByteArray antes = Lee(ruta);
   std::signal(SIGXFSZ, SIG_IGN);
   rlimit limite{};
   getrlimit(RLIMIT_FSIZE, &limite);
   const rlimit lleno{100, limite.rlim_max};  // a disk that is full after 100 bytes
   for (const Formato formato : kFormatos) {
-    for (const QString& mal : malas) EXPECT_FALSE(GuardaImagen(axew, mal, formato)) << mal.toStdString();
+    for (const QString& mal : malas) EXPECT_FALSE(GuardaImagen(axew, mal.toStdString(), formato)) << mal.toStdString();
     setrlimit(RLIMIT_FSIZE, &lleno);
-    EXPECT_FALSE(GuardaImagen(axew, ruta, formato));
+    EXPECT_FALSE(GuardaImagen(axew, ruta.toStdString(), formato));
     setrlimit(RLIMIT_FSIZE, &limite);
     EXPECT_EQ(Lee(ruta), antes);
   }
@@ -91,7 +92,7 @@ TEST(GuardaImagen, SeveralThreadsAtOnce) {
     EWdraw axew;
     Llena(axew, 300, 200);
     for (const Formato formato : {Formato::pdf, Formato::svg, Formato::png}) {
-      EXPECT_TRUE(GuardaImagen(axew, ruta(hilo), formato));
+      EXPECT_TRUE(GuardaImagen(axew, ruta(hilo).toStdString(), formato));
     }
   };
   guarda(0);
