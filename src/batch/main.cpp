@@ -42,12 +42,18 @@ std::optional<std::string> TextoLista(const Ordenes& ordenes) {
   return std::cin.bad() ? std::nullopt : std::optional(std::move(texto));
 }
 
+// One line, whatever stands in the list that it repeats.
 std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
+  std::string linea = trabajo.nombre;
   if (resultado.rechazo) {
-    return trabajo.nombre + ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
+    linea += ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
+  } else {
+    linea += ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
+             (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso);
   }
-  return trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
-         (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso);
+  std::ranges::replace_if(
+      linea, [](unsigned char c) { return c < ' '; }, ' ');
+  return linea;
 }
 
 // Works the jobs on several threads and answers in the order of the list. Each thread has its own program state.
@@ -77,7 +83,11 @@ int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
   std::vector<std::jthread> hilos;
   constexpr std::size_t kMaximoHilos = 256;
   const std::size_t cuantos = std::min({std::size_t{ordenes.hilos}, trabajos.size(), kMaximoHilos});
-  for (std::size_t i = 0; i < cuantos; ++i) hilos.emplace_back(obrero);
+  try {
+    while (hilos.size() < cuantos) hilos.emplace_back(obrero);
+  } catch (const std::system_error&) {
+    if (hilos.empty()) throw;  // else those that there are do all the work
+  }
 
   const bool terminal = isatty(STDERR_FILENO) != 0;
   bool rechazado = false;
@@ -108,18 +118,13 @@ int Ejecuta(const Ordenes& ordenes) {
   std::error_code error;
   Arranca(RutaEjecutable(), ordenes.configuracion);
   const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
-  if (!ordenes.configuracion.empty() && !(regular && LeeFichero(estado.sRutaIni))) {
-    return Falla("can't read the configuration file " + ordenes.configuracion);
-  }
-  // Without one of the three the dialogs store no dimension at all.
-  if (estado.iFibra < 1 || estado.iFibra > 3) {
-    return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
-  }
+  if (!regular || !LeeFichero(estado.sRutaIni)) return Falla("can't read the configuration file " + estado.sRutaIni);
+  if (!ConfiguracionSirve()) return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
   const auto texto = TextoLista(ordenes);
   if (!texto) return Falla("can't read the job list " + ordenes.lista);
   std::vector<Trabajo> trabajos;
   try {
-    trabajos = LeeLista(*texto);
+    trabajos = LeeLista(*texto, ordenes.opciones.solido);
   } catch (const ErrorLista& motivo) {
     return Falla(ordenes.lista + " is no job list: " + motivo.what());
   }
@@ -136,6 +141,7 @@ int Ejecuta(const Ordenes& ordenes) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  PreparaProceso();
   Ordenes ordenes;
   CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
   app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
@@ -171,5 +177,9 @@ int main(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the desktop
     qt = std::make_unique<QGuiApplication>(argc, argv);
   }
-  return Ejecuta(ordenes);
+  try {
+    return Ejecuta(ordenes);
+  } catch (const std::exception& error) {
+    return Falla(error.what());
+  }
 }

@@ -1,10 +1,13 @@
 #include "state/arranque.h"
 
+#include <fcntl.h>
 #include <langinfo.h>
 #include <locale.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -20,6 +23,7 @@ namespace duktores {
 namespace {
 
 constexpr std::size_t kMaximoIni = 1 << 20;
+constexpr std::int16_t kUltimoColor = 256;  // a drawing with another colour index doesn't open
 
 // The language bases are the places in this list, times 10000.
 constexpr std::array<std::string_view, 7> kIdiomas{"SPANISH",    "ENGLISH", "GERMAN", "FRENCH",
@@ -35,6 +39,7 @@ void LeeConfiguracion() {
   if (estado.iUnidad == 2) estado.dTamanoTexto /= 3.0;
   estado.iFibra = EnteroCorto(LeeNumero("DUCT", "Fiber"));
   estado.iColorDoblez = EnteroCorto(LeeNumero("DUCT", "BendColour"));
+  if (estado.iColorDoblez < 0 || estado.iColorDoblez > kUltimoColor) estado.iColorDoblez = 0;
   estado.sDimensiones = TextoDeNumero(LeeNumero("DUCT", "Dimensions"));
   estado.sDensidad = TextoDeNumero(LeeNumero("DUCT", "Density"));
   estado.iDivisiones = EnteroCorto(LeeNumero("DUCT", "NDivi"));
@@ -43,6 +48,13 @@ void LeeConfiguracion() {
 }
 
 }  // namespace
+
+void PreparaProceso() {
+  int libre = 0;
+  while (libre >= 0 && libre <= STDERR_FILENO) libre = open("/dev/null", O_RDWR);
+  if (libre >= 0) close(libre);
+  for (const int senal : {SIGPIPE, SIGXFSZ}) std::signal(senal, SIG_IGN);
+}
 
 void Arranca(std::string_view ejecutable, std::string_view rutaIni) {
   Plataforma* const plataforma = estado.plataforma;
@@ -59,6 +71,8 @@ void Arranca(std::string_view ejecutable, std::string_view rutaIni) {
   DetectaComa();
   LeeConfiguracion();
 }
+
+bool ConfiguracionSirve() { return estado.iFibra >= 1 && estado.iFibra <= 3; }
 
 std::string LeeIni(std::string_view seccion, std::string_view clave) {
   std::error_code error;

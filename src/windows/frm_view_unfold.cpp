@@ -10,8 +10,8 @@
 
 #include "check/comprueba.h"
 #include "dxf/dibujo.h"
-#include "shell/corrida.h"
 #include "shell/visor.h"
+#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/iconos.h"
@@ -133,7 +133,7 @@ void FrmViewUnfold::CmdDesplegado() {
   lienzo_->PermiteOrbitar(false);
   const FinCorrida fin = Desplegado(EWdraw_);
   if (!vivo) return;
-  if (fin == FinCorrida::completo) MuestraVeredicto();
+  MuestraVeredicto(fin);
   CmdDesplegado_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
 }
@@ -168,11 +168,13 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
                       QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
 }
 
-// A pattern that is not true is told in a colour that nobody overlooks; it never stops the work.
-void FrmViewUnfold::MuestraVeredicto() {
-  const Veredicto veredicto = Comprueba(solido_, EWdraw_);
-  const QString texto = Q(TextoVeredicto(veredicto));
-  if (!veredicto.Cierto()) LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
+// A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
+void FrmViewUnfold::MuestraVeredicto(FinCorrida fin) {
+  const bool completo = fin == FinCorrida::completo;
+  const Veredicto veredicto = completo ? Comprueba(solido_, EWdraw_) : Veredicto();
+  const QString texto = Q(completo ? TextoVeredicto(veredicto) : Texto(kTextoIncompleto));
+  if (!completo || !veredicto.Cierto())
+    LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(texto, Qt::ElideRight, LblEstado_->width()));
   LblEstado_->setToolTip(texto);

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "check/solido_mostrado.h"
+#include "shell/corrida.h"
 #include "viewer/ewdraw.h"
 #include "windows/lienzo.h"
 #include "windows/proporcion.h"
@@ -35,7 +36,7 @@ class FrmViewUnfold : public QDialog {
   void CmdSave();
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
-  void MuestraVeredicto();
+  void MuestraVeredicto(FinCorrida fin);
 
   Proporcion proporcion_;
   const Solido solido_;  // as it is shown: each unfolding changes the piece in `estado`

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "state/arranque.h"
+#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/fr_lista_duktores.h"
@@ -11,6 +12,7 @@
 
 int main(int argc, char** argv) {
   using namespace duktores;
+  PreparaProceso();
   QApplication aplicacion(argc, argv);
   // Simplified Chinese shapes for what the font of the desktop lacks.
   QFont letra = QApplication::font();
@@ -27,6 +29,8 @@ int main(int argc, char** argv) {
   lista.show();
   TraeAlFrente(lista);
   CursorEspera(false);
+  if (!ConfiguracionSirve())
+    MuestraMensaje(Texto(kTextoConfiguracion) + " " + estado.sRutaIni, EstiloMensaje::exclamacion, "");
   const int salida = QApplication::exec();
   plataforma.PonPrincipal(nullptr);
   estado.plataforma = nullptr;
