@@ -67,9 +67,9 @@ int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
   std::size_t hechos = 0;
   const auto obrero = [&] {
     for (std::size_t i = siguiente++; i < trabajos.size(); i = siguiente++) {
-      estado = configurado;
       Resultado resultado;
       try {
+        estado = configurado;
         resultado = Trabaja(trabajos[i], ordenes.opciones);
       } catch (const std::exception& error) {
         resultado.rechazo = {"job", error.what()};
