@@ -62,11 +62,11 @@ void clRectangulo::GeneraCota(EWdraw& axew) const {
   const double izquierda = std::min(B.x, C.x), abajo = std::min(C.y, D.y), derecha = std::max(A.x, D.x);
   Acota(axew, {A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
   Acota(axew, {izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
-  B.x > C.x + kNivel ? Extiende(axew, {C.x, B.y}, B) : Extiende(axew, {B.x, C.y}, C);
+  B.x > C.x + kNivel ? Extiende(axew, B, {C.x, B.y}) : Extiende(axew, {B.x, C.y}, C);
   Acota(axew, {C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
-  C.y > D.y + kNivel ? Extiende(axew, {C.x, D.y}, C) : Extiende(axew, {D.x, C.y}, D);
+  C.y > D.y + kNivel ? Extiende(axew, C, {C.x, D.y}) : Extiende(axew, {D.x, C.y}, D);
   Acota(axew, {derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
-  A.x > D.x + kNivel ? Extiende(axew, {A.x, D.y}, D) : Extiende(axew, {D.x, A.y}, A);
+  A.x > D.x + kNivel ? Extiende(axew, {A.x, D.y}, D) : Extiende(axew, A, {D.x, A.y});
 }
 
 }  // namespace duktores
