@@ -1,20 +1,15 @@
 #include "exige.h"
 
-#include <algorithm>
 #include <cassert>
-#include <charconv>
-#include <cmath>
 #include <filesystem>
-#include <iterator>
-#include <sstream>
 
 #include "batch/puntos_lote.h"
 #include "batch/trabajo.h"
 #include "check/comprueba.h"
 #include "dxf/dibujo.h"
+#include "mancha.h"
 #include "shell/visor.h"
 #include "state/arranque.h"
-#include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/fichero.h"
 
@@ -29,31 +24,6 @@ struct Mensajes : Plataforma {
   std::string ultimo;
 };
 
-// The whole text as one number.
-template <class Numero>
-Numero Lee(std::string_view texto) {
-  texto = Recorta(texto);
-  Numero numero{};
-  const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), numero);
-  assert(error == std::errc() && fin == texto.data() + texto.size());
-  return numero;
-}
-
-constexpr int kCodigoTexto = 1;
-
-bool EsCodigoReal(int codigo) {
-  return (codigo >= 10 && codigo < 60) || (codigo >= 140 && codigo < 150) || (codigo >= 210 && codigo < 240) ||
-         (codigo >= 1010 && codigo < 1060);
-}
-
-// As a number that isn't finite is written.
-bool DiceNoFinito(std::string_view texto) {
-  std::istringstream palabras{std::string(texto)};
-  return std::any_of(std::istream_iterator<std::string>(palabras), {}, [](const std::string& palabra) {
-    return palabra == "inf" || palabra == "-inf" || palabra == "nan" || palabra == "-nan";
-  });
-}
-
 }  // namespace
 
 void ArrancaUnaVez() {
@@ -64,22 +34,7 @@ void ArrancaUnaVez() {
   estado = configurado;
 }
 
-void ExigeDxf(std::string_view texto) {
-  const auto linea = [&] {
-    const std::size_t fin = texto.find("\r\n");
-    assert(fin != std::string_view::npos);
-    const std::string_view esta = texto.substr(0, fin);
-    texto.remove_prefix(fin + 2);
-    return esta;
-  };
-  while (!texto.empty()) {
-    const int codigo = Lee<int>(linea());
-    const std::string_view valor = linea();
-    assert(codigo >= 0 && codigo <= 1071);
-    if (EsCodigoReal(codigo)) assert(std::isfinite(Lee<double>(valor)));
-    if (codigo == kCodigoTexto) assert(!DiceNoFinito(valor));
-  }
-}
+void ExigeDxf(std::string_view texto) { assert(Mancha(texto).empty()); }
 
 void ExigeTrabajos(const std::vector<Trabajo>& trabajos, const std::string& carpeta) {
   const EstadoPrograma configurado = estado;

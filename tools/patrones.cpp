@@ -8,19 +8,12 @@
 #include <string>
 #include <string_view>
 
-#include "check/comprueba.h"
+#include "pieza_desarrollada.h"
 #include "piezas_azar.h"
-#include "shell/visor.h"
-#include "state/estado.h"
 
 namespace {
 
 using namespace duktores;
-
-// Places everything at the origin.
-struct Mesa : VistaEWdraw {
-  std::optional<Punto3> EligePunto(EWdraw&) override { return Punto3{}; }
-};
 
 struct Cuenta {
   int piezas = 0, ciertas = 0;
@@ -50,25 +43,12 @@ std::string Campos(const Dialogo& dialogo) {
   return texto + (dialogo.dosPiezas ? "Pieces=2" : "Pieces=1");
 }
 
-std::pair<Veredicto, bool> Juzga(EWdraw& axew, const Dialogo& dialogo, std::int16_t exacto) {
-  estado.iExacto = exacto;
-  Dialogo copia = dialogo;
-  if (copia.CmdAceptar() != Respuesta::aceptado) std::abort();
-  const Solido solido = SolidoActual();
-  const bool delReves = DelReves();
-  Desplegado(axew);
-  return {Comprueba(solido, axew), delReves};
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
   const int piezas = argc > 1 ? std::atoi(argv[1]) : 1000;
   std::mt19937 azar(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
   const std::string_view solo = argc > 3 ? argv[3] : "";
-  Mesa mesa;
-  EWdraw axew;
-  axew.PonVista(&mesa);
   std::printf(
       "| piece | rule | pieces | true | worst true | length | turned | missing | crossing | neighbours | numbers, "
       "bends | inside out |\n|---|---|---|---|---|---|---|---|---|---|---|---|\n");
@@ -91,7 +71,10 @@ int main(int argc, char** argv) {
       const EstadoPrograma antes = estado;
       for (const std::int16_t exacto : {std::int16_t{0}, std::int16_t{1}}) {
         estado = antes;
-        const auto [v, delReves] = Juzga(axew, dialogo, exacto);
+        const PiezaDesarrollada pieza(dialogo, exacto);
+        const Veredicto v = pieza.Juzga();
+        estado = antes;
+        const bool delReves = DelReves();
         Pon(cuentas[exacto], v, delReves);
         if (!solo.empty() && exacto == 1 && !v.Cierto() && !delReves) {
           std::printf("%s: %s\n", Campos(dialogo).c_str(), TextoVeredicto(v).c_str());

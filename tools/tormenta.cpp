@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <csignal>
@@ -25,6 +24,7 @@
 #include "check/hoja.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
+#include "mancha.h"
 #include "piezas_azar.h"
 #include "shell/visor.h"
 #include "state/estado.h"
@@ -112,33 +112,6 @@ void Llena(Azar& azar, Dialogo& dialogo) {
   }
 }
 
-bool DiceInfinito(std::string texto) {
-  for (char& c : texto) c = std::isalnum(static_cast<unsigned char>(c)) ? c : ' ';
-  texto = " " + texto + " ";
-  return texto.find(" inf ") != std::string::npos || texto.find(" nan ") != std::string::npos;
-}
-
-// The first pair of a file that holds no finite number where one belongs.
-std::string Mancha(std::string_view dxf) {
-  const auto linea = [&] {
-    const std::string_view una = dxf.substr(0, dxf.find("\r\n"));
-    dxf.remove_prefix(std::min(dxf.size(), una.size() + 2));
-    return una.substr(std::min(una.find_first_not_of(' '), una.size()));
-  };
-  while (!dxf.empty()) {
-    const std::string_view marca = linea(), valor = linea();
-    int codigo = -1;
-    double v = HUGE_VAL;
-    std::from_chars(marca.data(), marca.data() + marca.size(), codigo);
-    const char* const fin = valor.data() + valor.size();
-    const bool numero = std::from_chars(valor.data(), fin, v).ptr == fin && std::isfinite(v);
-    const bool pideNumero = (codigo >= 10 && codigo < 60) || (codigo >= 140 && codigo < 148);
-    if (codigo < 0 || (pideNumero && !numero) || (codigo == 1 && DiceInfinito(std::string(valor))))
-      return "pair " + std::string(marca) + ", " + std::string(valor);
-  }
-  return "";
-}
-
 // A shape of a special piece that is neither on the sheet nor named as missing.
 std::string Callada(const SolidoEspecial& solido, const Veredicto& veredicto) {
   const PlanoCorte plano = PlanoDeCorte(solido.pieza);
@@ -195,7 +168,7 @@ std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::s
     ++cuenta.completos;
     cuenta.ciertos += veredicto.Cierto();
     cuenta.sinForma += std::ranges::count(veredicto.defectos, Falta::falta, &Defecto::falta) > 0;
-    if (DiceInfinito(TextoVeredicto(veredicto))) return "verdict: " + TextoVeredicto(veredicto);
+    if (DiceNoFinito(TextoVeredicto(veredicto))) return "verdict: " + TextoVeredicto(veredicto);
     if (mesa.mensajes != 0) return "a message beside the verdict";
     if (const auto* especial = std::get_if<SolidoEspecial>(&solido)) {
       if (SinContorno(axew, mesa.dibujado)) return "drawn without an outline";

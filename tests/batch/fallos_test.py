@@ -1,36 +1,32 @@
 """The world fails duktores-batch while it saves: each file stays whole, the old one or the new one.
-Usage: fallos_test.py PROGRAM SAMPLES [KILLS]"""
+A third argument is the number of kills."""
 
 import json
 import os
-import pathlib
 import random
 import resource
-import shutil
 import signal
 import subprocess
 import sys
-import tempfile
 import time
 import unittest
 
-PROGRAM, SAMPLES = (pathlib.Path(p).resolve() for p in sys.argv[1:3])
+from lote import CONFIG, JOBS as SAMPLES, PROGRAM, Batch
+
 KILLS = int(sys.argv[3]) if len(sys.argv) > 3 else 40
-JOBS = json.loads(SAMPLES.read_bytes())[:20]
+JOBS = SAMPLES[:20]
 NAME = JOBS[0]["name"] + ".dxf"
 NOBODY = {"user": 65534} if os.geteuid() == 0 else {}
-CONFIG = "[UNIT]\nUnit=0\n[DUCT]\nThickness=2\nSizetxt=10\nFiber=2\nBendColour=3\nDimensions=%d\nBox=1\nDensity=7.85\n"
 
 
-class Faults(unittest.TestCase):
+class Faults(Batch):
     def setUp(self):
-        self.folder = pathlib.Path(tempfile.mkdtemp())
-        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
+        super().setUp()
         self.folder.chmod(0o755)
         self.out = self.folder / "out"
         (self.folder / "jobs").write_text(json.dumps(JOBS))
         for dimensions in (0, 1):
-            (self.folder / f"ini{dimensions}").write_text(CONFIG % dimensions)
+            (self.folder / f"ini{dimensions}").write_text(CONFIG % ("SPANISH", dimensions, 0))
         self.new = self.drawings(1)
 
     def command(self, dimensions=0):
@@ -76,11 +72,10 @@ class Faults(unittest.TestCase):
         smallest = min(map(len, self.new.values()))
         for room in (0, 1, 4096, smallest // 2):
             def limit():
-                signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
                 resource.setrlimit(resource.RLIMIT_FSIZE, (room, room))
             self.expect_refused(self.new, preexec_fn=limit)
 
-    def test_read_only_file_and_folder_and_a_folder_in_the_way(self):
+    def test_read_only_file_and_folder_and_what_is_in_the_way(self):
         self.out.chmod(0o777)
         for file in self.out.iterdir():
             file.chmod(0o444 if file.name == NAME else 0o666)
@@ -90,6 +85,9 @@ class Faults(unittest.TestCase):
         self.out.chmod(0o777)
         (self.out / NAME).unlink()
         (self.out / NAME).mkdir()
+        self.expect_refused([NAME])
+        (self.out / NAME).rmdir()
+        os.mkfifo(self.out / NAME)
         self.expect_refused([NAME])
 
     def test_folder_goes_while_the_jobs_run(self):
@@ -103,11 +101,13 @@ class Faults(unittest.TestCase):
         self.assertIn(": refused name: ", answers[-1])
         self.assertEqual((process.returncode, self.out.exists()), (1, False))
 
-    def test_a_reader_of_the_old_file_keeps_it_whole(self):
+    def test_a_reader_of_the_old_file_keeps_it_whole_and_the_new_one_its_rights(self):
+        (self.out / NAME).chmod(0o640)
         with open(self.out / NAME, "rb") as reader:
             start = reader.read(1000)
             self.assertNotEqual(self.drawings(0), self.new)
             self.assertEqual(start + reader.read(), self.new[NAME])
+        self.assertEqual((self.out / NAME).stat().st_mode & 0o777, 0o640)
 
 
 if __name__ == "__main__":

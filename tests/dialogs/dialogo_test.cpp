@@ -1,11 +1,13 @@
-#include "dialogs/dialogo.h"
-
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
+#include "dialogs/dialogo.h"
 #include "dialogs/eliptico.h"
+#include "dialogs/especiales.h"
 #include "dialogs/rectangulares.h"
+#include "mesa.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -46,129 +48,163 @@ TEST(Campo, ASelectedTextIsReplaced) {
   EXPECT_TRUE(Teclea(U'.', campo, FiltraNumero));
 }
 
-// A dialog that is good in all its fields.
-class Lleno : public testing::Test {
+using E = EstadoPrograma;
+struct Fallo {
+  const char *campo, *texto, *foco;
+};
+// What is stored at the neutral fibre, and how often the correction is in that.
+struct Guardado {
+  double E::*dato;
+  double neutro, correccion;
+};
+// A good piece of each kind, on the boundaries: sums that equal their side, tilts of 90 and the like are no error. Its
+// faults, from the last check to the first, each of which hides the ones before.
+const struct Buena {
+  const char* clave;
+  int textoError;
+  const char* textos;
+  std::vector<Fallo> fallos;
+  std::vector<Guardado> guarda;
+} kBuenas[]{
+    // clang-format off
+    {"TransCR", 20, "300 200 400 300 6 7 90 12 2",
+     {{"TxtAlfa", "-90.01", "TxtAlfa"}, {"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtRS", "200.01", "TxtRS"},
+      {"TxtAI", "0", "TxtAI"}, {"TxtLI", "0", "TxtLI"}, {"TxtRS", "0.00", "TxtRS"}, {"TxtH", "0", "TxtH"},
+      {"TxtAlfa", "3-", "TxtAlfa"}, {"TxtAX", ".", "TxtAX"}},  // fields without a number come before all checks
+     {{&E::dL1Base, 398, 2}, {&E::dL2Base, 298, 2}, {&E::dRadioAlto, 200, 1}, {&E::dAx, 6, 0}, {&E::dAy, 7, 0},
+      {&E::dAlfa, 90, 0}, {&E::dRadioRC, 0, 0}}},
+    {"TransRC", 20, "300 150 400 300 6 7 -90 12 2", {{"TxtRI", "149.99", "TxtRI"}},
+     {{&E::dL1BaseRC, 398, 2}, {&E::dL2BaseRC, 298, 2}, {&E::dRadioRC, 150, 1}, {&E::dAx, 6, 0}, {&E::dAy, 7, 0},
+      {&E::dAlfa, -90, 0}, {&E::dRadioAlto, 0, 0}}},
+    {"TransElip", 20, "300 200 200 400 350 6 7 90 12 2",
+     {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxteMeS", "200.01", "TxteMaS"}, {"TxtA", "0", "TxtA"}},
+     {{&E::dL1Elip, 398, 2}, {&E::dL2Elip, 348, 2}, {&E::dEjeMayorElip, 200, 1}, {&E::dEjeMenorElip, 200, 1},
+      {&E::dAx, 6, 0}, {&E::dAyElip, 7, 0}, {&E::dAy, 0, 0}, {&E::dAlfa, 90, 0}}},
+    {"TransEsp1", 20, "300 50 50 50 50 60 60 60 60 100 100 120 120 0 0 9 8 12",
+     {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtR24", "60.01", "TxtR23"}, {"TxtR21", "60.01", "TxtR21"},
+      {"TxtR14", "50.01", "TxtR13"}, {"TxtR13", "50.01", "TxtR12"}, {"TxtR11", "50.01", "TxtR11"}},
+     {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, 60, 1}, {&E::dR24, 60, 1}, {&E::dLX1, 100, 1},
+      {&E::dLY1, 100, 1}, {&E::dLY2, 120, 1}}},
+    {"TransEsp2", 20, "300 50 200 200 0 0 9 8 12",
+     {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtLY", "200.01", "TxtLY"}},
+     {{&E::dLX1, 100, 2}, {&E::dLY1, 100, 2}, {&E::dLY2, 200, 1}, {&E::dRadioEsp, 50, 1}, {&E::dRadioEsp2, 100, .5}}},
+    {"TransEsp3", 40, "300 50 100 200 0 0 9 8 12",
+     {{"TxtLX", "99.99", "TxtLY"}, {"TxtH", "1", "TxtAlfa"}},
+     {{&E::dLX1, 100, 2}, {&E::dLY1, 100, 2}, {&E::dLY2, 200, 1}, {&E::dRadioEsp, 50, 1}, {&E::dRadioEsp2, 100, .5}}},
+    {"TransEsp4", 20, "300 50 60 60 60 60 120 120 0 0 9 8 12",
+     {{"TxtR24", "60.01", "TxtR23"}, {"TxtR22", "60.01", "TxtR21"}, {"TxtH", "1", "TxtAlfa"}},
+     {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, 60, 1}, {&E::dR24, 60, 1}, {&E::dLX1, 100, 2},
+      {&E::dLY1, 100, 2}, {&E::dLY2, 120, 1}}},
+    {"TransEsp5", 20, "300 50 50 50 50 100 100 300 300 0 0 9 8 12",
+     {{"TxtLX1", "99.99", "TxtR11"}, {"TxtR14", "50.01", "TxtR14"}, {"TxtR12", "50.01", "TxtR12"},
+      {"TxtH", "1", "TxtAlfa"}},
+     {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, .005, 0}, {&E::dR24, .005, 0}, {&E::dLX1, 100, 0},
+      {&E::dLY1, 100, 0}, {&E::dLY2, 300, 0}}},
+    // clang-format on
+};
+
+class Dialogos : public testing::TestWithParam<Buena> {
  protected:
-  Lleno(const DefDialogo& def, const char* textos) : dialogo((estado = {}, def)) {
-    estado.iUnidad = 1;
-    estado.iFibra = 2;
+  void SetUp() override {
     estado.dEspesor = 2;
-    std::istringstream palabras(textos);
+    std::istringstream palabras(GetParam().textos);
     std::string texto;
     for (int i = 0; palabras >> texto; ++i) dialogo.CampoDe(i).texto = texto;
   }
-  void ExpectError(int campo, const std::string& texto, int foco) {
-    const std::string antes = std::exchange(dialogo.CampoDe(campo).texto, texto);
-    EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::datoErroneo) << texto;
-    EXPECT_EQ(dialogo.Foco(), foco) << texto;
-    EXPECT_EQ(dialogo.lblerror(), Texto(20));
-    dialogo.CampoDe(campo).texto = antes;
+  ~Dialogos() override { estado = {}; }
+  static const DefDialogo& Nuevo() {
+    estado = {};
+    estado.iUnidad = 1;
+    estado.iFibra = 2;
+    estado.iDivisiones = 24;
+    return *DialogoDe(GetParam().clave);
   }
-  Dialogo dialogo;
+  int NumeroDe(std::string_view nombre) {
+    const auto campos = dialogo.Definicion().campos;
+    return static_cast<int>(std::ranges::find(campos, nombre, &DefCampo::nombre) - campos.begin());
+  }
+  Respuesta Con(std::string_view nombre, const std::string& texto) {
+    dialogo.CampoDe(NumeroDe(nombre)).texto = texto;
+    return dialogo.CmdAceptar();
+  }
+  void ExpectError(const Fallo& f) {
+    EXPECT_EQ(Con(f.campo, f.texto), Respuesta::datoErroneo) << f.campo << " " << f.texto;
+    EXPECT_EQ(dialogo.Foco(), NumeroDe(f.foco)) << f.campo << " " << f.texto;
+    EXPECT_EQ(dialogo.lblerror(), Texto(GetParam().textoError));
+  }
+  const bool especial = std::string_view(GetParam().clave).starts_with("TransEsp");
+  Dialogo dialogo{Nuevo()};
 };
 
-struct FrTransfCR : Lleno {
-  FrTransfCR() : Lleno(kFrTransfCR, "300 100 400 300 0 0 0 12 1") {}
-  enum { H, RS, LI, AI, AX, AY, Alfa, Divi, PosIni };
-};
-
-TEST_F(FrTransfCR, ChecksInTheirOrderUpToTheirBoundaries) {
-  for (const int campo : {H, RS, LI, AI}) ExpectError(campo, campo == RS ? "0.00" : "0", campo);
-  ExpectError(RS, "200.01", RS);
-  ExpectError(Alfa, "90.01", Alfa);
-  ExpectError(Alfa, "-90.01", Alfa);
-  dialogo.CampoDe(RS).texto = "200";
-  for (const char* alfa : {"90", "-90"}) {
-    dialogo.CampoDe(Alfa).texto = alfa;
+TEST_P(Dialogos, StoreWhatTheyAcceptCorrectedForTheFibre) {
+  estado.sTipoPieza = "row";
+  // Without a fibre the transitions keep what they had.
+  for (const auto& [fibra, c] : {std::pair{1, 1.}, {2, 0.}, {3, -1.}, {4, especial ? 0. : -1.}}) {
+    estado.iFibra = static_cast<std::int16_t>(fibra);
     EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado);
-    EXPECT_EQ(dialogo.lblerror(), "");
+    for (const auto& [dato, neutro, correccion] : GetParam().guarda) {
+      EXPECT_EQ(estado.*dato, neutro + c * correccion) << &dato - &GetParam().guarda[0].dato;
+    }
   }
-  EXPECT_EQ(estado.dAlfa, -90);
-  // A field without a number comes before all checks.
-  dialogo.CampoDe(H).texto = "0";
-  ExpectError(Alfa, "3-", Alfa);
-  ExpectError(AX, ".", AX);
-  ExpectError(AI, "0", H);
+  const std::string_view tipo = GetParam().clave == std::string_view("TransElip") ? "row" : GetParam().clave;
+  EXPECT_EQ(estado.sTipoPieza, tipo);
+  EXPECT_TRUE(estado.dAltura == 300 && estado.iDivisiones == 12 && dialogo.lblerror().empty());
+  EXPECT_EQ(tipo == "row" ? estado.iPosIniElip : estado.iPosIni, especial ? estado.iPosIni : 2);
+  EXPECT_TRUE(!especial || (estado.dAlfa == -9 && estado.dBeta == -8));
 }
 
-TEST_F(FrTransfCR, AnEmptyFieldIsAMessage) {
-  struct Testigo : Plataforma {
-    void CajaMensaje(std::string_view texto, EstiloMensaje, std::string_view) override { mensaje = texto; }
-    std::string mensaje;
-  } testigo;
-  estado.plataforma = &testigo;
-  dialogo.CampoDe(AY).texto = "  ";
-  dialogo.CampoDe(PosIni).texto = "";
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::campoVacio);
-  EXPECT_EQ(dialogo.Foco(), AY);
-  EXPECT_EQ(testigo.mensaje, Texto(15));
-  EXPECT_EQ(estado.dAltura, 0);
-  estado.plataforma = nullptr;
-}
-
-TEST_F(FrTransfCR, FibreCorrection) {
-  const struct {
-    std::int16_t fibra;
-    double L1, L2, R;
-  } casos[]{{1, 400, 300, 101}, {2, 398, 298, 100}, {3, 396, 296, 99}, {4, 396, 296, 99}};
-  for (const auto& caso : casos) {
-    estado.iFibra = caso.fibra;
-    EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado);
-    EXPECT_EQ((std::array{estado.dL1Base, estado.dL2Base, estado.dRadioAlto}), (std::array{caso.L1, caso.L2, caso.R}));
+TEST_P(Dialogos, CheckInTheirOrder) {
+  if (especial) {
+    EXPECT_EQ(Dialogo(dialogo.Definicion()).CampoDe(NumeroDe("TxtDivisiones")).texto, "24");
+    for (const char* bueno : {"4", "908", "15.6"}) EXPECT_EQ(Con("TxtDivisiones", bueno), Respuesta::aceptado);
+    EXPECT_EQ(estado.iDivisiones, 16);
+    // Where the tilt is held against the base too, the height keeps it clear of it.
+    const bool mira = std::string_view(GetParam().clave) > "TransEsp2";
+    if (mira) Con("TxtH", "99999999");
+    for (const char* malo : {"0", "2", "912", "99999999", "13"}) ExpectError({"TxtDivisiones", malo, "TxtDivisiones"});
+    if (!mira) ExpectError({"TxtBeta", "90.01", "TxtBeta"});
   }
+  for (const Fallo& f : GetParam().fallos) ExpectError(f);
+  if (especial) {
+    const bool conPunto = std::string_view(GetParam().clave) == "TransEsp4";
+    EXPECT_EQ(Teclea(U'.', dialogo.CampoDe(NumeroDe("TxtH")), dialogo.Definicion().campos.back().filtro), conPunto);
+  }
+  // An empty field comes before all that is wrong, with a message of its own.
+  Mesa mesa;
+  estado.plataforma = &mesa;
+  EXPECT_EQ(Con("TxtAY", "  "), Respuesta::campoVacio);
+  EXPECT_EQ(dialogo.Foco(), NumeroDe("TxtAY"));
+  EXPECT_EQ(mesa.mensajes, std::vector{Texto(GetParam().clave == std::string_view("TransElip") ? 61 : 15)});
 }
 
-TEST_F(FrTransfCR, LabelsByUnitAndLanguage) {
-  EXPECT_EQ(dialogo.TextoRotulo(RS), "RS (mm):");
+INSTANTIATE_TEST_SUITE_P(Todos, Dialogos, testing::ValuesIn(kBuenas), [](const auto& p) { return p.param.clave; });
+
+TEST(Dialogo, LabelsByUnitAndLanguage) {
+  enum { R = 1, EjeMayor = 1, Alfa = 6, PosIni = 8, PosIniElip };
+  estado = {};
+  Dialogo dialogo(kFrTransfCR), elip(kFrTransBaRectBoElip);
+  estado.iUnidad = 1;
+  EXPECT_EQ(dialogo.TextoRotulo(R), "RS (mm):");
   EXPECT_EQ(dialogo.TextoRotulo(Alfa), "Alfa (Grados):");
   EXPECT_EQ(dialogo.TextoRotulo(PosIni), "Posición Inicio (1-4):");
+  EXPECT_EQ(elip.TextoRotulo(EjeMayor), "eMaS  (mm):");
+  EXPECT_EQ(elip.TextoRotulo(PosIniElip), Texto(58));
   estado.iUnidad = 3;
   estado.dIdioma = 10000;
-  EXPECT_EQ(dialogo.TextoRotulo(RS), "RS (inches):");
+  EXPECT_EQ(dialogo.TextoRotulo(R), "RS (inches):");
   EXPECT_EQ(dialogo.Titulo(), "Rect. Circ. Transf.");
   estado.dIdioma = kChino;
   EXPECT_EQ(dialogo.TextoRotulo(Alfa), Texto(67));
   EXPECT_FALSE(dialogo.Titulo());
 }
 
-struct FrTransfRC : Lleno {
-  FrTransfRC() : Lleno(kFrTransfRC, "300 150 400 300 0 0 -5 12 1") {}
-};
-
-TEST_F(FrTransfRC, ItsCircleReachesRoundTheRectangle) {
-  estado.iFibra = 3;
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "twice the radius equals the smaller side";
-  EXPECT_EQ(estado.sTipoPieza, "TransRC");
-  EXPECT_EQ((std::array{estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC}), (std::array{396., 296., 149.}));
-  EXPECT_EQ(estado.dRadioAlto, 0) << "its twin's values stay";
-  ExpectError(1, "149.99", 1);
-}
-
-struct FrTransBaRectBoElip : Lleno {
-  FrTransBaRectBoElip() : Lleno(kFrTransBaRectBoElip, "300 200 200 400 350 0 7 90 12 2") {}
-  enum { H, EjeMayor, EjeMenor, L1, L2, AX, AY, Alfa, Divi, PosIni };
-};
-
-TEST_F(FrTransBaRectBoElip, KeepsTheRowAsTypeAndStoresItsOwnValues) {
-  estado.sTipoPieza = "row";
-  estado.iFibra = 1;
-  EXPECT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado) << "equal axes and a tilt of 90 pass";
-  EXPECT_EQ(estado.sTipoPieza, "row");
-  EXPECT_EQ((std::array{estado.dEjeMayorElip, estado.dL1Elip, estado.dAyElip}), (std::array{201., 400., 7.}));
-  EXPECT_EQ(estado.dAy, 0);
-  EXPECT_EQ(estado.iPosIniElip, 2);
-  EXPECT_EQ(dialogo.TextoRotulo(EjeMayor), "eMaS  (mm):");
-  EXPECT_EQ(dialogo.TextoRotulo(PosIni), Texto(58));
-}
-
-TEST_F(FrTransBaRectBoElip, ChecksAxesBeforeTheTilt) {
-  dialogo.CampoDe(Alfa).texto = "90.01";
-  ExpectError(EjeMenor, "200.01", EjeMayor);
-  ExpectError(EjeMenor, "1", Alfa);
-  EXPECT_FALSE(Teclea(U'-', dialogo.CampoDe(Alfa), dialogo.Definicion().campos[Alfa].filtro));
+TEST(Dialogo, TheEllipseTakesNoSignAndForgetsTheOnePiece) {
+  constexpr int kAlfa = 7;
+  Dialogo dialogo(kFrTransBaRectBoElip);
+  EXPECT_FALSE(Teclea(U'-', dialogo.CampoDe(kAlfa), dialogo.Definicion().campos[kAlfa].filtro));
   dialogo.dosPiezas = false;
   dialogo.Activa();
-  EXPECT_TRUE(dialogo.dosPiezas) << "one piece is chosen anew each time";
+  EXPECT_TRUE(dialogo.dosPiezas);
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <random>
 
 #include "geometry/redondeo.h"
-#include "geometry/rotacion.h"
 
 namespace duktores {
 namespace {
@@ -92,16 +91,6 @@ TEST(PieDePerpendicular, SteepLinesKeepTheirDigits) {
   ExpectPunto(PieDePerpendicular({3, 7}, {1, 2}, {1, 2}), 1, 7);
   ExpectPunto(PieDePerpendicular({0, 2}, {0, 0}, {1, 1}), 1, 1);
   ExpectPunto(PieDePerpendicular({300, 200}, {100, 0}, {100 + 1e-11, 400}), 100, 200, 1e-9);
-}
-
-TEST(Rota, RightHandRule) {
-  const Punto3 alX = Rota({0, 0, 1}, {0, 0, 0}, {0, 2, 0}, 90);
-  EXPECT_NEAR(alX.x, 1, 1e-15);
-  EXPECT_NEAR(alX.z, 0, 1e-15);
-  EXPECT_NEAR(Rota({0, 0, 1}, {0, 0, 0}, {1, 0, 0}, 90).y, -1, 1e-15);
-  const Punto3 p{1.1, 2.2, 3.3};
-  EXPECT_EQ(Rota(p, {5, 6, 7}, {1, 2, 3}, 0), p);
-  EXPECT_EQ(Rota(p, p, {1, 2, 3}, 123), p);
 }
 
 TEST(Redondea, HalfToEven) {

@@ -1,4 +1,5 @@
-// An own main: tests must not need a display, and leave no trace in the user's folder.
+// An own main: texts and windows need an application; tests must not need a display, and leave no trace in the user's
+// folder.
 
 #include <gtest/gtest.h>
 
