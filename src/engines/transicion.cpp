@@ -189,7 +189,7 @@ LineaLado LineaDeLado(const Transicion& t, int turno) {
 void CortePieza1(Transicion& t) {
   const LineaLado corte = LineaDeLado(t, 2);
   t.dCorteBajo = corte.bajo;
-  t.dCorteBajo2 = t.bFueraCierre || estado.iExacto != 0 ? corte.Pie() : Punto2{};
+  t.dCorteBajo2 = estado.iExacto != 0 ? corte.bajo : t.bFueraCierre ? corte.Pie() : Punto2{};
 }
 
 double CalculaDistCentro(double Angulo, double Altura) { return Altura / std::tan(Radianes(Angulo)); }

@@ -29,7 +29,8 @@ struct Transicion {
 
   // Two pieces: the line from F(h+1) that splits the start side, in flat coordinates.
   Punto2 dCorteBajo;   ///< its end on the rectangle, for the first piece
-  Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot
+  Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot, but for the exact
+                       ///< pattern
 };
 
 /// What a start position means: `a0` is the angle of Q(1), `esquinas` are P(1) to P(4) in units of the sides, and the

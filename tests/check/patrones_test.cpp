@@ -103,6 +103,14 @@ TEST_P(Patrones, ExactOnesAreTrueAndLieWhereTheUsualOnesDo) {
   EXPECT_GE(usualesCiertas, kUsuales.at(static_cast<std::size_t>(tipo)));
   EXPECT_GT(iguales, tipo < 3 ? 0 : -1);
 }
+
+// So far beside its start side stands the circle that the end of the split lies above it on the sheet.
+TEST(Longitudes, AnExactLeaningOneIsSplitOnTheRectangle) {
+  const Dialogo dialogo =
+      Pieza("TransRC", {"713.68", "322.23", "261.26", "712.07", "289.99", "0", "35.11", "12", "4"}, true);
+  EXPECT_TRUE(Desarrollado(dialogo, 1).Juzga().Cierto());
+}
+
 bool EsLineaLado(const Entidad& e) { return e.tipo == TipoEntidad::linea && e.color == EwRgb(256, 0, 255); }
 
 // The rows of a table: each is the distance, cut to the decimals of the unit, of two points of its shape in whose
