@@ -103,6 +103,8 @@ const struct Buena {
     // clang-format on
 };
 
+void PrintTo(const Buena& buena, std::ostream* salida) { *salida << buena.clave; }
+
 class Dialogos : public testing::TestWithParam<Buena> {
  protected:
   void SetUp() override {
