@@ -17,7 +17,7 @@ void ExigeDxf(std::string_view texto);
 /// Works the jobs from the present `estado`. Each is refused with a text, or leaves a sound drawing in `carpeta`.
 void ExigeTrabajos(const std::vector<Trabajo>& trabajos, const std::string& carpeta);
 
-/// Shows, unfolds and checks the piece of `estado`. What is drawn is sound, and a run that ends early says why.
+/// Shows, unfolds and checks the piece of `estado`. What is drawn is sound, and a run that ends early says why, once.
 void ExigeDesarrollo();
 
 }  // namespace duktores

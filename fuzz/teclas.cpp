@@ -7,14 +7,13 @@
 
 #include "dialogs/dialogo.h"
 #include "exige.h"
+#include "piezas_azar.h"
 #include "state/estado.h"
 
 using namespace duktores;
 
 namespace {
 
-constexpr std::array kPiezas{"TransCR",   "TransRC",   "TransElip", "TransEsp1",
-                             "TransEsp2", "TransEsp3", "TransEsp4", "TransEsp5"};
 constexpr std::int16_t kMaximoDivisiones = 24;  // more take long and show nothing new
 
 enum Tecla : unsigned char { marcaTodo = 1, marcaUna, alPrincipio, alFin, siguienteCampo = '\t' };
@@ -55,7 +54,7 @@ void Configura(unsigned eleccion) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
   if (largo < 2) return 0;
-  const char* const pieza = kPiezas[datos[0] % kPiezas.size()];
+  const std::string_view pieza = TiposDePieza()[datos[0] % TiposDePieza().size()];
   Configura(datos[1]);
   estado.sTipoPieza = pieza;  // as the catalogue does
   Dialogo dialogo(*DialogoDe(pieza));
