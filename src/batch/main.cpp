@@ -7,6 +7,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <iterator>
 #include <memory>
@@ -118,7 +119,7 @@ int Ejecuta(const Ordenes& ordenes) {
   std::error_code error;
   Arranca(RutaEjecutable(), ordenes.configuracion);
   const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
-  if (!regular || !LeeFichero(estado.sRutaIni)) return Falla("can't read the configuration file " + estado.sRutaIni);
+  if (!regular || !std::ifstream(estado.sRutaIni)) return Falla("can't read the configuration file " + estado.sRutaIni);
   if (!ConfiguracionSirve()) return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
   const auto texto = TextoLista(ordenes);
   if (!texto) return Falla("can't read the job list " + ordenes.lista);
