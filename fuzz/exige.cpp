@@ -5,9 +5,9 @@
 
 #include "batch/puntos_lote.h"
 #include "batch/trabajo.h"
-#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "mancha.h"
+#include "sheet/hoja.h"
 #include "shell/visor.h"
 #include "state/arranque.h"
 #include "state/estado.h"
@@ -58,15 +58,16 @@ void ExigeTrabajos(const std::vector<Trabajo>& trabajos, const std::string& carp
 }
 
 void ExigeDesarrollo() {
-  Mesa mesa(SitiosLibres());
+  const Solido solido = SolidoDe(*estado.pieza);
+  Desarrollo desarrollo = DesarrolloDe(*estado.pieza, solido);
+  Mesa mesa(Reparte(desarrollo.patron, FormatoDeEstado()));
   estado.plataforma = &mesa;
-  EWdraw solido, axew;
-  Dibuja3D(solido);
-  const Solido mostrado = SolidoActual();
+  EWdraw vista, axew;
+  Dibuja3D(vista);
   axew.PonVista(&mesa);
-  const FinCorrida fin = Desplegado(axew);
+  const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
   assert(fin != FinCorrida::eleccionRechazada && mesa.mensajes == (fin == FinCorrida::error ? 1 : 0));
-  Comprueba(mostrado, axew);
+  Juzga(solido, hoja);
   ExigeDxf(estado.oDrawing->GetEntities());
   estado.plataforma = nullptr;
 }

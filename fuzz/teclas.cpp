@@ -5,9 +5,8 @@
 #include <cassert>
 #include <cstdint>
 
-#include "dialogs/dialogo.h"
 #include "exige.h"
-#include "piezas_azar.h"
+#include "shell/lista.h"
 #include "state/estado.h"
 
 using namespace duktores;
@@ -46,7 +45,7 @@ void Configura(unsigned eleccion) {
   estado.iUnidad = eleccion & 2 ? 2 : 1;
   estado.bComaDecimal = (eleccion & 4) != 0;
   estado.iFibra = static_cast<std::int16_t>(eleccion >> 3 & 3);
-  estado.sDimensiones = eleccion & 32 ? "0" : "1";
+  estado.sDimensiones.assign(1, eleccion & 32 ? '0' : '1');
   estado.iBox = eleccion & 64 ? 0 : 1;
 }
 
@@ -54,10 +53,8 @@ void Configura(unsigned eleccion) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
   if (largo < 2) return 0;
-  const std::string_view pieza = TiposDePieza()[datos[0] % TiposDePieza().size()];
   Configura(datos[1]);
-  estado.sTipoPieza = pieza;  // as the catalogue does
-  Dialogo dialogo(*DialogoDe(pieza));
+  Dialogo dialogo(FilasPieza()[datos[0] % kTiposPieza].dialogo);
   dialogo.dosPiezas = datos[1] < 128;
   const auto campos = static_cast<int>(dialogo.Definicion().campos.size());
   int campo = 0;

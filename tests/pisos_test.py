@@ -4,8 +4,8 @@ import pathlib
 import re
 import sys
 
-FLOORS = {"platform": 1, "geometry": 1, "state": 2, "viewer": 3, "dxf": 4, "engines": 5, "special": 5, "dialogs": 6,
-          "check": 6, "shell": 7, "paint": 7, "batch": 8, "windows": 8}
+FLOORS = {"platform": 1, "geometry": 1, "piece": 2, "viewer": 2, "state": 3, "engines": 3, "special": 3, "check": 3,
+          "dxf": 4, "annotation": 5, "sheet": 6, "dialogs": 6, "shell": 7, "paint": 7, "batch": 8, "windows": 8}
 QT = ("paint", "batch", "windows")
 
 src = pathlib.Path(sys.argv[1])

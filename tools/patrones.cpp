@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
   std::printf(
       "| piece | rule | pieces | true | worst true | length | turned | missing | crossing | neighbours | numbers, "
       "bends | inside out |\n|---|---|---|---|---|---|---|---|---|---|---|---|\n");
-  for (const auto tipo : TiposDePieza()) {
+  for (const FilaPieza& fila : FilasPieza()) {
+    const std::string_view tipo = fila.dialogo.clave;
     if (!solo.empty() && tipo != solo) continue;
     Cuenta cuentas[2];
     while (cuentas[0].piezas < piezas) {
@@ -65,16 +66,13 @@ int main(int argc, char** argv) {
       estado.sDimensiones = "1";
       estado.iBox = 1;
       estado.sTipoPieza = "";
-      Dialogo dialogo(*DialogoDe(tipo));
+      Dialogo dialogo(fila.dialogo);
       TecleaPieza(dialogo, azar);
       if (Dialogo(dialogo).CmdAceptar() != Respuesta::aceptado) continue;
-      const EstadoPrograma antes = estado;
       for (const std::int16_t exacto : {std::int16_t{0}, std::int16_t{1}}) {
-        estado = antes;
         const PiezaDesarrollada pieza(dialogo, exacto);
         const Veredicto v = pieza.Juzga();
-        estado = antes;
-        const bool delReves = DelReves();
+        const bool delReves = DelReves(*estado.pieza);
         Pon(cuentas[exacto], v, delReves);
         if (!solo.empty() && exacto == 1 && !v.Cierto() && !delReves) {
           std::printf("%s: %s\n", Campos(dialogo).c_str(), TextoVeredicto(v).c_str());

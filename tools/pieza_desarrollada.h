@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
-#include "check/comprueba.h"
-#include "dialogs/dialogo.h"
+#include "shell/lista.h"
+#include "shell/veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 
@@ -15,15 +15,16 @@ struct PiezaDesarrollada : VistaEWdraw {
   PiezaDesarrollada(Dialogo dialogo, std::int16_t exacto) {
     estado.iExacto = exacto;
     if (dialogo.CmdAceptar() != Respuesta::aceptado) std::abort();
-    solido = SolidoActual();
+    solido = SolidoDe(*estado.pieza);
     axew.PonVista(this);
-    Desplegado(axew);
+    hoja = Desplegado(axew).hoja;
   }
   std::optional<Punto3> EligePunto(EWdraw&) override { return Punto3{}; }
-  Veredicto Juzga() const { return Comprueba(solido, axew); }
+  Veredicto Juzga() const { return duktores::Juzga(solido, hoja); }
 
   EWdraw axew;
   Solido solido;
+  Patron hoja;
 };
 
 }  // namespace duktores

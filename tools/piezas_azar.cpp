@@ -1,21 +1,16 @@
 #include "piezas_azar.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <cmath>
 #include <map>
 #include <string>
 
 #include "special/pieza.h"
-#include "state/estado.h"
 
 namespace duktores {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> kTipos{"TransCR",   "TransRC",   "TransElip", "TransEsp1",
-                                                 "TransEsp2", "TransEsp3", "TransEsp4", "TransEsp5"};
 
 class Medidas {
  public:
@@ -25,14 +20,14 @@ class Medidas {
   bool Una(unsigned deCuantas) { return azar_() % deCuantas == 0; }
 
   // Names in small letters, as the fields' words differ in their case alone.
-  std::map<std::string, double> Saca(std::string_view tipo) {
+  std::map<std::string, double> Saca(TipoPieza tipo) {
     std::map<std::string, double> m;
     const double tamano = Una(4) ? Entre(20, 100) : Entre(100, 2000);
     const auto lado = [&] { return tamano * Entre(0.3, 1); };
     m["h"] = tamano * Entre(0.2, 1.5);
     for (const char* n : {"lx", "ly", "lx1", "ly1", "lx2", "ly2", "li", "ai", "ls", "as"}) m[n] = lado();
     if (Una(6)) m["ai"] = m["li"], m["as"] = m["ls"], m["ly1"] = m["lx1"], m["ly2"] = m["lx2"], m["ly"] = m["lx"];
-    if (m["ly"] > m["lx"] && tipo != "TransEsp3") std::swap(m["lx"], m["ly"]);
+    if (m["ly"] > m["lx"] && tipo != TipoPieza::esp3) std::swap(m["lx"], m["ly"]);
     m["rs"] = std::max(m["li"], m["ai"]) / 2 * Entre(0.2, 1);
     m["ri"] = std::min(m["ls"], m["as"]) / 2 * Entre(1, 3);
     m["emas"] = m["li"] * Entre(0.4, 1.1);
@@ -41,7 +36,7 @@ class Medidas {
     const bool redonda = Una(8);
     for (const auto& [n, mitad] :
          {std::pair("r1", std::min(m["lx1"], m["ly1"]) / 2), std::pair("r2", std::min(m["lx2"], m["ly2"]) / 2)}) {
-      const double maximo = n[1] == '2' && tipo == "TransEsp4" ? std::min(m["lx"], m["ly"]) / 2 : mitad;
+      const double maximo = n[1] == '2' && tipo == TipoPieza::esp4 ? std::min(m["lx"], m["ly"]) / 2 : mitad;
       for (const char c : {'1', '2', '3', '4'}) {
         m[std::string(n) + c] = redonda ? std::floor(maximo * 100) / 100 : Una(8) ? 0 : maximo * Entre(0, 1);
       }
@@ -49,7 +44,7 @@ class Medidas {
     const double corrida = Una(3) ? 0 : tamano / 2, inclinada = Una(3) ? 0 : 40;
     for (const char* n : {"ax", "ay"}) m[n] = Una(4) ? 0 : Entre(0, corrida);
     for (const char* n : {"alfa", "beta"}) m[n] = Una(4) ? 0 : Entre(0, inclinada);
-    if ((tipo == "TransCR" || tipo == "TransRC") && Una(2)) m["alfa"] = -m["alfa"];
+    if ((tipo == TipoPieza::cr || tipo == TipoPieza::rc) && Una(2)) m["alfa"] = -m["alfa"];
     m["divisions"] = 4.0 * (1 + Sorteo() % (Una(10) ? 16 : 6));
     return m;
   }
@@ -67,11 +62,9 @@ std::string Texto2(double v) {
 
 }  // namespace
 
-std::span<const std::string_view> TiposDePieza() { return kTipos; }
-
 void TecleaPieza(Dialogo& dialogo, std::mt19937& azar) {
   Medidas medidas(azar);
-  auto m = medidas.Saca(dialogo.Definicion().clave);
+  auto m = medidas.Saca(dialogo.Definicion().tipo);
   const auto campos = dialogo.Definicion().campos;
   for (std::size_t i = 0; i < campos.size(); ++i) {
     const DefCampo& campo = campos[i];
@@ -80,22 +73,23 @@ void TecleaPieza(Dialogo& dialogo, std::mt19937& azar) {
     if (!campo.valores.empty()) {
       dialogo.Elige(static_cast<int>(i), campo.valores[medidas.Sorteo() % campo.valores.size()]);
     } else {
-      const double v = m.at(palabra);
+      const double v = m.contains(palabra) ? m[palabra] : medidas.Entre(50, 500);
       dialogo.CampoDe(static_cast<int>(i)).texto = campo.divisiones ? std::to_string(std::lround(v)) : Texto2(v);
     }
   }
   dialogo.dosPiezas = medidas.Una(2);
 }
 
-bool DelReves() {
-  if (!estado.sTipoPieza.starts_with("TransEsp")) return false;
+bool DelReves(const Pieza& pieza) {
+  if (pieza.tipo < TipoPieza::esp1 || pieza.tipo > TipoPieza::esp5) return false;
   constexpr double kIgual = 1e-9;
-  const PiezaEspecial pieza = PiezaDeEstado();
-  const PlanoCorte plano = PlanoDeCorte(pieza);
-  const int q = 9 * estado.iDivisiones, n = 4 * q;
+  const PiezaEspecial especial = ComoEspecial(pieza);
+  const auto& [boca, base] = especial.bocas;
+  const PlanoCorte plano = PlanoDeCorte(especial);
+  const int q = kPasosPorDivision / 4 * pieza.divisiones, n = 4 * q;
   // Where the cut lies on an element: 0 on the base, 1 on the uncut mouth.
   const auto altura = [&](int c, int p) {
-    const Elemento corte = ElementoDe(pieza, plano, c, p, n), entero = ElementoDe(pieza, {}, c, p, n);
+    const Elemento corte = ElementoDe(especial, plano, c, p, n), entero = ElementoDe(especial, {}, c, p, n);
     const Punto3 eje = entero.corte - entero.bajo;
     return Escalar(corte.corte - corte.bajo, eje) / Escalar(eje, eje);
   };
@@ -105,12 +99,12 @@ bool DelReves() {
   };
   for (int c = 1; c <= 4; ++c) {
     for (int p = 1; p <= q + 1; ++p) {
-      if (negativo(pieza.r2(c), pieza.r1(c), altura(c, p))) return true;
+      if (negativo(base.r(c), boca.r(c), altura(c, p))) return true;
     }
     const int d = Siguiente(c);
     const bool enY = c % 2 == 1;
-    const double abajo = (enY ? pieza.LY2 : pieza.LX2) - pieza.r2(c) - pieza.r2(d);
-    const double arriba = (enY ? pieza.LY1 : pieza.LX1) - pieza.r1(c) - pieza.r1(d);
+    const double abajo = (enY ? base.LY : base.LX) - base.r(c) - base.r(d);
+    const double arriba = (enY ? boca.LY : boca.LX) - boca.r(c) - boca.r(d);
     if (negativo(abajo, arriba, altura(c, q + 1)) || negativo(abajo, arriba, altura(d, 1))) return true;
   }
   return false;

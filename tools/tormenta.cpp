@@ -20,12 +20,12 @@
 #include <tuple>
 #include <vector>
 
-#include "check/comprueba.h"
-#include "check/hoja.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "mancha.h"
 #include "piezas_azar.h"
+#include "shell/lista.h"
+#include "shell/veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 #include "state/fichero.h"
@@ -112,24 +112,17 @@ void Llena(Azar& azar, Dialogo& dialogo) {
   }
 }
 
-// A shape of a special piece that is neither on the sheet nor named as missing.
-std::string Callada(const SolidoEspecial& solido, const Veredicto& veredicto) {
-  const PlanoCorte plano = PlanoDeCorte(solido.pieza);
-  const auto calla = [&](Forma forma, int c, const Elemento& p, const Elemento& q) {
-    const std::string nombre = NombreForma(forma, c);
-    const auto esta = [&](const FormaDibujada& f) { return f.forma == forma && f.numero == c; };
-    const auto dicha = [&](const Defecto& d) { return d.falta == Falta::falta && d.donde == nombre; };
-    const double ancho = std::max(Distancia(p.bajo, q.bajo), Distancia(p.corte, q.corte));
-    const bool callada = !(ancho <= ToleranciaPatron()) && std::ranges::none_of(estado.Formas, esta) &&
+// A shape of the solid that is neither on the sheet nor named as missing.
+std::string Callada(const Solido& solido, const Patron& hoja, const Veredicto& veredicto) {
+  for (const Cara& cara : solido.caras) {
+    const auto en = [&](int i) { return solido.puntos[static_cast<std::size_t>(i)]; };
+    const double ancho = std::max(Distancia(en(cara.bajo.front()), en(cara.bajo.back())),
+                                  Distancia(en(cara.alto.front()), en(cara.alto.back())));
+    const auto esta = [&](const FormaPatron& f) { return f.nombre == cara.forma && !f.contorno.empty(); };
+    const auto dicha = [&](const Defecto& d) { return d.falta == Falta::falta && d.donde.forma == cara.forma; };
+    const bool callada = !(ancho <= ToleranciaPatron()) && std::ranges::none_of(hoja.formas, esta) &&
                          std::ranges::none_of(veredicto.defectos, dicha);
-    return callada ? "not told of " + nombre : "";
-  };
-  for (int c = 1; c <= 4; ++c) {
-    const Elemento inicio = ElementoDe(solido.pieza, plano, c, 1, solido.n);
-    const Elemento fin = ElementoDe(solido.pieza, plano, c, solido.n / 4 + 1, solido.n);
-    const Elemento otro = ElementoDe(solido.pieza, plano, Siguiente(c), 1, solido.n);
-    for (const auto& mal : {calla(Forma::esquina, c, inicio, fin), calla(Forma::lado, c, fin, otro)})
-      if (!mal.empty()) return mal;
+    if (callada) return "not told of " + TextoForma(cara.forma);
   }
   return "";
 }
@@ -158,22 +151,20 @@ struct Cuenta {
 // What is wrong with the piece in `estado`.
 std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::string& fichero) {
   Dibuja3D(axew);
-  const Solido solido = SolidoActual();
-  const FinCorrida fin = Desplegado(axew);
+  const Solido solido = SolidoDe(*estado.pieza);
+  const auto [fin, hoja] = Desplegado(axew);
   cuenta.sinPunto += fin == FinCorrida::eleccionRechazada;
   cuenta.errores += fin == FinCorrida::error;
   if (fin == FinCorrida::error && mesa.mensajes != 1) return "ended, but not told once";
   if (fin == FinCorrida::completo) {
-    const Veredicto veredicto = Comprueba(solido, axew);
+    const Veredicto veredicto = Juzga(solido, hoja);
     ++cuenta.completos;
     cuenta.ciertos += veredicto.Cierto();
     cuenta.sinForma += std::ranges::count(veredicto.defectos, Falta::falta, &Defecto::falta) > 0;
     if (DiceNoFinito(TextoVeredicto(veredicto))) return "verdict: " + TextoVeredicto(veredicto);
     if (mesa.mensajes != 0) return "a message beside the verdict";
-    if (const auto* especial = std::get_if<SolidoEspecial>(&solido)) {
-      if (SinContorno(axew, mesa.dibujado)) return "drawn without an outline";
-      if (std::string callada = Callada(*especial, veredicto); !callada.empty()) return callada;
-    }
+    if (hoja.sigueTrasFallo && SinContorno(axew, mesa.dibujado)) return "drawn without an outline";
+    if (std::string callada = Callada(solido, hoja, veredicto); !callada.empty()) return callada;
   }
   if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(fichero)) return "not saved";
   return Mancha(LeeFichero(fichero).value_or("no file"));
@@ -187,7 +178,7 @@ void UnTrabajo(Azar& azar, const std::string& carpeta, unsigned n, Cuenta& cuent
   EWdraw axew;
   estado.plataforma = &mesa;
   axew.PonVista(&mesa);
-  Dialogo dialogo(*DialogoDe(TiposDePieza()[azar.Hasta(TiposDePieza().size())]));
+  Dialogo dialogo(FilasPieza()[azar.Hasta(kTiposPieza)].dialogo);
   Llena(azar, dialogo);
   const auto empieza = std::chrono::steady_clock::now();
   const bool aceptado = dialogo.CmdAceptar() == Respuesta::aceptado;

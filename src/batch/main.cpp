@@ -18,8 +18,8 @@
 #include "batch/lista.h"
 #include "batch/trabajo.h"
 #include "dxf/escritor.h"
+#include "piece/numeros_texto.h"
 #include "state/arranque.h"
-#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/fichero.h"
 #include "state/textos.h"
@@ -130,7 +130,7 @@ int Ejecuta(const Ordenes& ordenes) {
     return Falla(ordenes.lista + " is no job list: " + motivo.what());
   }
   if (!ordenes.opciones.soloComprueba) {
-    if (!HayPlantilla()) return Falla(Texto(kTextoPlantilla) + " " + RutaPlantilla());
+    if (!HayPlantilla()) return Falla(Texto(texto::kPlantilla) + " " + RutaPlantilla());
     std::filesystem::create_directories(ordenes.opciones.carpeta, error);
     if (!std::filesystem::is_directory(ordenes.opciones.carpeta, error)) {
       return Falla("can't make the output folder " + ordenes.opciones.carpeta);

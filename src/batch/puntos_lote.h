@@ -1,5 +1,5 @@
 #pragma once
-// Answers the picks of a run without a window from a list of points, and makes that list where a job has none.
+// Answers the picks of a run without a window from a list of points.
 
 #include <optional>
 #include <vector>
@@ -19,10 +19,5 @@ class PuntosLote : public VistaEWdraw {
   std::vector<Punto2> puntos_;
   std::size_t siguiente_ = 0;
 };
-
-/// Places for all that the unfolding of `estado` will ask a place for: side by side from the left, right of what lies
-/// where it is, each with its annotation on the bottom line y = 0. It unfolds the piece once to see how large they are;
-/// `estado` stays as it was.
-std::vector<Punto2> SitiosLibres();
 
 }  // namespace duktores

@@ -4,12 +4,13 @@
 #include <filesystem>
 
 #include "batch/puntos_lote.h"
-#include "check/comprueba.h"
-#include "dialogs/dialogo.h"
 #include "dxf/escritor.h"
+#include "piece/numeros_texto.h"
+#include "sheet/hoja.h"
+#include "shell/lista.h"
+#include "shell/veredicto.h"
 #include "shell/visor.h"
 #include "state/caracteres.h"
-#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -89,22 +90,26 @@ std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, co
   return std::nullopt;
 }
 
-std::optional<Rechazo> Desarrolla(EWdraw& axew, const Trabajo& trabajo, PlataformaLote& plataforma) {
-  const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : SitiosLibres();
+// Unfolds the accepted piece, which has this solid, and holds it against that.
+std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Solido& solido, Veredicto& veredicto,
+                                 PlataformaLote& plataforma) {
+  Desarrollo desarrollo = DesarrolloDe(*estado.pieza, solido);
+  const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : Reparte(desarrollo.patron, FormatoDeEstado());
   Puntos puntos(sitios, plataforma.mensaje);
   axew.PonVista(&puntos);
   plataforma.mensaje.clear();
-  const FinCorrida fin = Desplegado(axew);
+  const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
   axew.PonVista(nullptr);
   switch (fin) {
     case FinCorrida::completo:
+      veredicto = Juzga(solido, hoja);
       return std::nullopt;
     case FinCorrida::eleccionRechazada:
       return Rechazo{"picks", "pick " + std::to_string(sitios.size() + 1) + " is missing in picks."};
     case FinCorrida::error:
       break;
   }
-  return Rechazo{"piece", plataforma.mensaje.empty() ? Texto(kTextoIncompleto) : plataforma.mensaje};
+  return Rechazo{"piece", plataforma.mensaje.empty() ? Texto(texto::kIncompleto) : plataforma.mensaje};
 }
 
 std::string Sufijo(Formato formato) {
@@ -119,8 +124,11 @@ std::string Sufijo(Formato formato) {
   return ".pdf";
 }
 
-std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const Opciones& opciones) {
-  const auto noGuardado = [](const std::string& ruta) { return Rechazo{"name", Texto(kTextoNoGuardado) + " " + ruta}; };
+std::optional<Rechazo> Guarda(const EWdraw& axew, const Solido& solido, const std::string& base,
+                              const Opciones& opciones) {
+  const auto noGuardado = [](const std::string& ruta) {
+    return Rechazo{"name", Texto(texto::kNoGuardado) + " " + ruta};
+  };
   const std::string dxf = base + ".dxf";
   if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(dxf)) return noGuardado(dxf);
   for (const Formato formato : opciones.imagenes) {
@@ -128,12 +136,12 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
     if (!GuardaImagen(axew, imagen, formato)) return noGuardado(imagen);
   }
   if (!opciones.solido || opciones.imagenes.empty()) return std::nullopt;
-  EWdraw solido;
-  Dibuja3D(solido);
-  solido.EwViewDirection(1, -1, 1);
+  EWdraw vista;
+  DibujaSolido(vista, solido);
+  vista.EwViewDirection(1, -1, 1);
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + std::string(kSufijoSolido) + Sufijo(formato);
-    if (!GuardaImagen(solido, imagen, formato)) return noGuardado(imagen);
+    if (!GuardaImagen(vista, imagen, formato)) return noGuardado(imagen);
   }
   return std::nullopt;
 }
@@ -142,25 +150,23 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const std::string& base, const
 
 Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   if (trabajo.rechazo) return {"", "", trabajo.rechazo};
-  const DefDialogo* def = DialogoDe(trabajo.pieza);
-  if (!def) return {"", "", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
+  const FilaPieza* fila = FilaDeClave(trabajo.pieza);
+  if (!fila) return {"", "", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
 
   PlataformaLote plataforma;
   estado.plataforma = &plataforma;
-  Dialogo dialogo(*def);
-  EWdraw axew;
+  Dialogo dialogo(fila->dialogo);
   Resultado resultado;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && !opciones.soloComprueba) {
     const std::string base = std::filesystem::path(opciones.carpeta) / trabajo.nombre;
-    const Solido solido = SolidoActual();
-    resultado.rechazo = Desarrolla(axew, trabajo, plataforma);
-    if (!resultado.rechazo) {
-      const Veredicto veredicto = Comprueba(solido, axew);
-      if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
-      if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
-    }
-    if (!resultado.rechazo) resultado.rechazo = Guarda(axew, base, opciones);
+    const Solido solido = SolidoDe(*estado.pieza);
+    EWdraw axew;
+    Veredicto veredicto;
+    resultado.rechazo = Despliega(axew, trabajo, solido, veredicto, plataforma);
+    if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
+    if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
+    if (!resultado.rechazo) resultado.rechazo = Guarda(axew, solido, base, opciones);
     if (!resultado.rechazo) resultado.fichero = base + ".dxf";
   }
   estado.plataforma = nullptr;

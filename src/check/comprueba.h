@@ -1,14 +1,12 @@
 #pragma once
-// Holds a drawn pattern against its solid. What is on the sheet is read from the control alone: outlines, lines and
-// numbers; what they should be comes from the solid's points. Nothing here knows how the pattern was made.
+// Holds a pattern against its solid. Nothing here knows how the pattern was made, nor which piece it is of.
 
-#include "check/solido_mostrado.h"
 #include "check/veredicto.h"
-#include "viewer/ewdraw.h"
+#include "piece/patron.h"
 
 namespace duktores {
 
-/// The pattern of `estado.Formas` on the control.
-Veredicto Comprueba(const Solido& solido, const EWdraw& axew);
+/// The pattern as it was made, or as it stands on a sheet. `tolerancia` is how far off a length may be.
+Veredicto Comprueba(const Solido& solido, const Patron& patron, double tolerancia);
 
 }  // namespace duktores

@@ -1,8 +1,9 @@
 #pragma once
-// Gathers what is found while a shape is compared: the worst length and the worst turned facet, and the marks.
+// A shape against the solid: the worst length and the worst turned facet.
 
-#include "check/hoja.h"
-#include "check/veredicto.h"
+#include <vector>
+
+#include "piece/patron.h"
 
 namespace duktores {
 
@@ -15,34 +16,47 @@ struct Peor {
   }
 };
 
+/// How the outline of a sector, which runs along one rim and back along the other, is read: with its elements in the
+/// order that the pattern says or against it, with its rims as the pattern says or exchanged.
+struct Lectura {
+  bool alReves = false, cambiada = false;
+};
+
 class Cotejo {
  public:
-  explicit Cotejo(const FormaEnHoja& forma) : forma_(&forma) {}
-
-  /// The line p-q against its length in space.
-  void Largo(Punto2 p, Punto2 q, double verdadero);
-  /// A length that is off by `error`, somewhere about p-q.
-  void Suma(double error, Punto2 p, Punto2 q) { largo_.Anota(error, p, q); }
-  /// The facet a, b, c runs counter-clockwise (`signo` 1) or clockwise (-1) with its right side up; its height says by
-  /// how much it has turned over.
-  void Cara(Punto2 a, Punto2 b, Punto2 c, double signo);
-  /// The next number stands in the middle of p-q, `aparte` from it.
-  void Numero(Punto2 p, Punto2 q, Punto2 aparte = {});
-  void Doblez(Punto2 p, Punto2 q);
-  /// Where the next number says that a line from p ends; it must be drawn.
-  Punto2 FinDeLinea(Punto2 p);
+  Cotejo(const Solido& solido, const FormaPatron& forma, Lectura lectura);
 
   const Peor& PeorLargo() const { return largo_; }
   const Peor& PeorVuelta() const { return vuelta_; }
 
-  /// Enters the deviation, and what is beyond the tolerance, into the verdict; with it, whether the outline closes and
-  /// crosses itself, and whether there are more numbers or bend lines than were asked for.
-  void Cierra(Veredicto& veredicto);
+  /// A border as it lies on the sheet, and what of it stands on an edge of the solid: its lower end parts the edge, and
+  /// `parte` is its distance from the edge's end.
+  struct Orilla {
+    double largo = 0;
+    bool enArista = false;
+    double parte = 0, arista = 0;
+  };
+  Orilla OrillaDe(const Borde& borde) const;
 
  private:
-  const FormaEnHoja* forma_;
-  Peor largo_, vuelta_, numero_, doblez_;
-  std::size_t numeros_ = 0, dobleces_ = 0;  // so far
+  std::size_t Lugar(int vertice) const;
+  Punto2 En(int vertice) const { return forma_->contorno[Lugar(vertice)].p; }
+  Punto3 EnEspacio(int vertice) const;
+  double Parte(int vertice) const;
+  void Largo(int a, int b);
+  void Triangulo(const Faceta& faceta);
+  void Orillas();
+
+  const Solido* solido_;
+  const FormaPatron* forma_;
+  Lectura lectura_;
+  Peor largo_, vuelta_;
 };
+
+/// Where two lines of the pattern don't stand, or don't bear their numbers, as the shape asks for.
+struct Marcas {
+  Peor numero, doblez;
+};
+Marcas CotejaMarcas(const FormaPatron& forma);
 
 }  // namespace duktores

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "dialogs/eliptico.h"
-#include "dialogs/especiales.h"
-#include "dialogs/rectangulares.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 #include "state/textos.h"
@@ -23,7 +21,6 @@ std::optional<std::string> Dialogo::Titulo() const {
 }
 
 std::string Dialogo::TextoRotulo(int campo) const {
-  constexpr int kTextoGrados = 66;
   const bool chino = estado.dIdioma == kChino;
   const DefCampo& def = def_->campos[static_cast<std::size_t>(campo)];
   const std::string palabra(def.palabra), unidad = estado.iUnidad == 1 ? " (mm):" : " (inches):";
@@ -33,15 +30,15 @@ std::string Dialogo::TextoRotulo(int campo) const {
     case Rotulo::textoLongitud:
       return TextoIdioma(def.textoRotulo) + unidad;
     case Rotulo::angulo:
-      return chino ? Texto(def.textoRotulo) : palabra + " (" + Texto(kTextoGrados) + "):";
+      return chino ? Texto(def.textoRotulo) : palabra + " (" + Texto(texto::kGrados) + "):";
     case Rotulo::texto:
       return Texto(def.textoRotulo);
     case Rotulo::textoDosPuntos:
       break;
   }
   // In some languages the text itself ends in the colon.
-  const std::string texto = Texto(def.textoRotulo);
-  return chino || texto.ends_with(':') ? texto : texto + ":";
+  const std::string conTexto = Texto(def.textoRotulo);
+  return chino || conTexto.ends_with(':') ? conTexto : conTexto + ":";
 }
 
 bool Dialogo::Elige(int campo, std::string_view valor) {
@@ -91,25 +88,16 @@ Respuesta Dialogo::CmdAceptar() {
     foco_ = *malo;
   } else {
     lblerror_.clear();
-    def_->guarda(v, dosPiezas);
+    Pieza pieza;
+    pieza.tipo = def_->tipo;
+    pieza.dosPiezas = def_->opcionPiezas && dosPiezas;
+    pieza.fibra = Fibra{estado.iFibra};
+    pieza.espesor = estado.dEspesor;
+    def_->guarda(v, pieza);
+    estado.pieza = pieza;
   }
   CursorEspera(false);
   return malo ? Respuesta::datoErroneo : Respuesta::aceptado;
 }
-
-namespace {
-
-constexpr std::array kDialogos{&kFrTransfCR,  &kFrTransfRC,   &kFrTransBaRectBoElip, &kFrTransfEsp1,
-                               &kFrTansfEsp2, &kFrTransfEsp3, &kFrTransEsp4,         &kFrTransEspe5};
-
-const DefDialogo* Busca(std::string_view DefDialogo::*campo, std::string_view valor) {
-  const auto* dialogo = std::ranges::find_if(kDialogos, [&](const DefDialogo* d) { return d->*campo == valor; });
-  return dialogo == kDialogos.end() ? nullptr : *dialogo;
-}
-
-}  // namespace
-
-const DefDialogo* DialogoDe(std::string_view clave) { return Busca(&DefDialogo::clave, clave); }
-const DefDialogo* VentanaDe(std::string_view nombre) { return Busca(&DefDialogo::nombre, nombre); }
 
 }  // namespace duktores

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "dialogs/campo.h"
+#include "piece/pieza.h"
 
 namespace duktores {
 
@@ -40,6 +41,7 @@ struct Comprobacion {
 };
 
 struct DefDialogo {
+  TipoPieza tipo;
   std::string_view nombre;  ///< of the window
   std::string_view clave;   ///< of the piece, in a job
   bool poneTipo;            ///< the key is the piece type key too; else the catalogue's text stays as the type
@@ -50,7 +52,9 @@ struct DefDialogo {
   std::span<const Comprobacion> comprobaciones;
   bool opcionPiezas;  ///< has OpUnapieza and OpDosPiezas
   bool olvidaPiezas;  ///< each activation selects OpDosPiezas
-  void (*guarda)(const Valores& v, bool dosPiezas);
+  /// Stores the values in `estado` under their names, and in the piece, which has type, surface, thickness and number
+  /// of pieces already.
+  void (*guarda)(const Valores& v, Pieza& pieza);
 };
 
 enum class Respuesta { aceptado, campoVacio, datoErroneo };
@@ -72,8 +76,8 @@ class Dialogo {
 
   bool dosPiezas = true;
 
-  /// Checks the fields and stores them in `estado`. What is refused is told: an empty field by a message box, a failed
-  /// check in lblerror(). Foco() is then the field to mend.
+  /// Checks the fields and stores them in `estado`, the accepted piece too. What is refused is told: an empty field by
+  /// a message box, a failed check in lblerror(). Foco() is then the field to mend.
   Respuesta CmdAceptar();
 
   /// The dialog is shown, or the viewer has returned.
@@ -90,9 +94,5 @@ class Dialogo {
   int foco_ = 0;
   std::string lblerror_;
 };
-
-/// The dialog of a piece type key, or of a window's name; null if there is none.
-const DefDialogo* DialogoDe(std::string_view clave);
-const DefDialogo* VentanaDe(std::string_view nombre);
 
 }  // namespace duktores

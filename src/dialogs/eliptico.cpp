@@ -3,8 +3,8 @@
 #include <array>
 
 #include "dialogs/combos.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
-#include "state/fibra.h"
 #include "state/numeros.h"
 
 namespace duktores {
@@ -16,17 +16,17 @@ enum Indice : std::size_t { H, EjeMayor, EjeMenor, L1, L2, AX, AY, Alfa, Divi, P
 // No field takes a sign here: neither tilt nor offsets can be negative.
 // clang-format off
 constexpr std::array kCampos{
-    //       control      word         label                  text  filter        combo
-    DefCampo{"TxtH",      "H",         Rotulo::textoLongitud, 51,   FiltraNumero, {}},
-    DefCampo{"TxteMaS",   "eMaS",      Rotulo::textoLongitud, 52,   FiltraNumero, {}},
-    DefCampo{"TxteMeS",   "eMeS",      Rotulo::textoLongitud, 53,   FiltraNumero, {}},
-    DefCampo{"TxtL",      "Li",        Rotulo::textoLongitud, 59,   FiltraNumero, {}},
-    DefCampo{"TxtA",      "Ai",        Rotulo::textoLongitud, 60,   FiltraNumero, {}},
-    DefCampo{"TxtAX",     "AX",        Rotulo::textoLongitud, 54,   FiltraNumero, {}},
-    DefCampo{"TxtAY",     "AY",        Rotulo::textoLongitud, 55,   FiltraNumero, {}},
-    DefCampo{"TxtAlfa",   "Alfa",      Rotulo::angulo,        67,   FiltraNumero, {}},
-    DefCampo{"CmbDivi",   "Divisions", Rotulo::texto,         57,   nullptr,      kDivisiones},
-    DefCampo{"CmbPosIni", "Start",     Rotulo::texto,         58,   nullptr,      kPosiciones},
+    //       control      word         label                  text                         filter        combo
+    DefCampo{"TxtH",      "H",         Rotulo::textoLongitud, texto::kH,                   FiltraNumero, {}},
+    DefCampo{"TxteMaS",   "eMaS",      Rotulo::textoLongitud, texto::kEjeMayor,            FiltraNumero, {}},
+    DefCampo{"TxteMeS",   "eMeS",      Rotulo::textoLongitud, texto::kEjeMenor,            FiltraNumero, {}},
+    DefCampo{"TxtL",      "Li",        Rotulo::textoLongitud, texto::kLi,                  FiltraNumero, {}},
+    DefCampo{"TxtA",      "Ai",        Rotulo::textoLongitud, texto::kAi,                  FiltraNumero, {}},
+    DefCampo{"TxtAX",     "AX",        Rotulo::textoLongitud, texto::kAX,                  FiltraNumero, {}},
+    DefCampo{"TxtAY",     "AY",        Rotulo::textoLongitud, texto::kAY,                  FiltraNumero, {}},
+    DefCampo{"TxtAlfa",   "Alfa",      Rotulo::angulo,        texto::kAlfaChino,           FiltraNumero, {}},
+    DefCampo{"CmbDivi",   "Divisions", Rotulo::texto,         texto::kDivisionesElip,      nullptr,      kDivisiones},
+    DefCampo{"CmbPosIni", "Start",     Rotulo::texto,         texto::kPosicionInicioElip,  nullptr,      kPosiciones},
 };
 
 constexpr std::array kComprobaciones{
@@ -43,30 +43,37 @@ constexpr std::array kComprobaciones{
 // An axis is kept as its text keeps it.
 double ComoTexto(double eje) { return NumeroDeTexto(TextoDeNumero(eje)); }
 
-void Guarda(const Valores& v, bool dosPiezas) {
-  estado.dAltura = v[H];
-  if (const auto fibra = CorreccionFibra()) {
-    estado.dL1Elip = v[L1] + fibra->lado;
-    estado.dL2Elip = v[L2] + fibra->lado;
-    estado.dEjeMayorElip = ComoTexto(v[EjeMayor] + fibra->radio);
-    estado.dEjeMenorElip = ComoTexto(v[EjeMenor] + fibra->radio);
+// Without a known surface the sizes stored before stay, and are those of the piece.
+void Guarda(const Valores& v, Pieza& pieza) {
+  EstadoPrograma& e = estado;
+  const auto guardadas = [&] { return Bocas{{e.dEjeMayorElip, e.dEjeMenorElip, {}}, {e.dL1Elip, e.dL2Elip, {}}}; };
+  pieza.entradas = guardadas();
+  if (const auto fibra = CorreccionFibra(pieza.fibra, pieza.espesor)) {
+    pieza.entradas = {{v[EjeMayor], v[EjeMenor], {}}, {v[L1], v[L2], {}}};
+    e.dL1Elip = v[L1] + fibra->lado;
+    e.dL2Elip = v[L2] + fibra->lado;
+    e.dEjeMayorElip = ComoTexto(v[EjeMayor] + fibra->radio);
+    e.dEjeMenorElip = ComoTexto(v[EjeMenor] + fibra->radio);
   }
-  estado.dAx = v[AX];
-  estado.dAyElip = v[AY];
-  estado.dAlfa = v[Alfa];
-  estado.iPosIniElip = EnteroCorto(v[PosIni]);
-  estado.iDivisiones = EnteroCorto(v[Divi]);
-  estado.bDosPiezas = dosPiezas;
+  pieza.corregidas = guardadas();
+  pieza.H = e.dAltura = v[H];
+  pieza.AX = e.dAx = v[AX];
+  pieza.AY = e.dAyElip = v[AY];
+  pieza.Alfa = e.dAlfa = v[Alfa];
+  pieza.inicio = e.iPosIniElip = EnteroCorto(v[PosIni]);
+  pieza.divisiones = e.iDivisiones = EnteroCorto(v[Divi]);
+  e.bDosPiezas = pieza.dosPiezas;
 }
 
 }  // namespace
 
-constexpr DefDialogo kFrTransBaRectBoElip{.nombre = "FrTransBaRectBoElip",
+constexpr DefDialogo kFrTransBaRectBoElip{.tipo = TipoPieza::elip,
+                                          .nombre = "FrTransBaRectBoElip",
                                           .clave = "TransElip",
                                           .poneTipo = false,
-                                          .textoTitulo = 50,
-                                          .textoVacio = 61,
-                                          .textoError = 20,
+                                          .textoTitulo = texto::kTransElip,
+                                          .textoVacio = texto::kFaltanDatosElip,
+                                          .textoError = texto::kDatoErroneo,
                                           .campos = kCampos,
                                           .comprobaciones = kComprobaciones,
                                           .opcionPiezas = true,

@@ -5,10 +5,9 @@
 #include <cmath>
 #include <tuple>
 
+#include "piece/numeros_texto.h"
 #include "special/pieza.h"
-#include "special/solido_especial.h"
 #include "state/estado.h"
-#include "state/fibra.h"
 #include "state/numeros.h"
 
 namespace duktores {
@@ -33,9 +32,9 @@ constexpr std::array kCampos1{
     DefCampo{"TxtLY2",         "LY2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    67, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    68, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, 19, FiltraEntero, {}, true},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
 };
 
 constexpr std::array kCampos2{
@@ -45,9 +44,9 @@ constexpr std::array kCampos2{
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    67, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    68, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, 19, FiltraEntero, {}, true},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
 };
 
 constexpr std::array kCampos3{
@@ -57,9 +56,9 @@ constexpr std::array kCampos3{
     DefCampo{"TxtLY",          "LY",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    67, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    68, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, 19, FiltraEntero, {}, true},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
 };
 
 constexpr std::array kCampos4{
@@ -73,9 +72,9 @@ constexpr std::array kCampos4{
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    67, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    68, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, 19, FiltraNumero, {}, true},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraNumero, {}, true},
 };
 
 constexpr std::array kCampos5{
@@ -90,9 +89,9 @@ constexpr std::array kCampos5{
     DefCampo{"TxtLY2",         "Ly2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    67, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    68, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, 19, FiltraEntero, {}, true},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
 };
 
 // clang-format on
@@ -128,35 +127,61 @@ bool FueraDeAngulo(const Valores& v) {
 // 36 steps for each division must fit a 16-bit count.
 template <int Divisiones>
 bool MalasDivisiones(const Valores& v) {
-  constexpr double kMaximo = 908;
   const double divisiones = std::nearbyint(N(v, Divisiones));
-  return divisiones < 4 || divisiones > kMaximo || std::fmod(divisiones, 4) != 0;
+  return divisiones < 4 || divisiones > kMaximoDivisiones || std::fmod(divisiones, 4) != 0;
 }
 
 // Whether the tilt carries the mouth below the base. A fine division is checked with fewer steps.
 bool CortaLaBase(const PiezaEspecial& pieza, double divisiones) {
-  constexpr int kMuchas = 12, kMaximo = 908;
-  const int cuantas = static_cast<int>(std::min(std::nearbyint(divisiones), double{kMaximo}));
-  return !CompruebaValido(pieza, cuantas * (cuantas > kMuchas ? 20 : 36));
+  constexpr int kMuchas = 12, kPasosDeMuchas = 20;
+  const int cuantas = static_cast<int>(std::min(std::nearbyint(divisiones), double{kMaximoDivisiones}));
+  return !CompruebaValido(pieza, cuantas * (cuantas > kMuchas ? kPasosDeMuchas : kPasosPorDivision));
 }
-bool CortaLaBase3(const Valores& v) {
+
+// The first field and the last five are the same in all pieces.
+struct Comunes {
+  double H, AX, AY, Alfa, Beta, divisiones;
+};
+Comunes ComunesDe(const Valores& v) {
+  const auto n = static_cast<int>(v.size());
+  return {N(v, 0), N(v, n - 5), N(v, n - 4), N(v, n - 3), N(v, n - 2), N(v, n - 1)};
+}
+
+// Four fields in a row, each with `c` added.
+Cuatro CuatroDesde(const Valores& v, int primero, double c = 0) {
+  return {N(v, primero) + c, N(v, primero + 1) + c, N(v, primero + 2) + c, N(v, primero + 3) + c};
+}
+
+// The mouths that the fields of a dialog give, with `c` added to what the surface corrects.
+Bocas Bocas1(const Valores& v, double c) {
+  using namespace esp1;
+  return {{N(v, LX1) + c, N(v, LY1) + c, CuatroDesde(v, R11, c)},
+          {N(v, LX2) + c, N(v, LY2) + c, CuatroDesde(v, R21, c)}};
+}
+Bocas Bocas2(const Valores& v, double c) {
   using namespace esp2;
-  const double mitad = N(v, LY) / 2, lado = 2 * N(v, R);
-  return CortaLaBase({Cuatro(N(v, R)), Cuatro(0, 0, mitad, mitad), lado, lado, N(v, LX), N(v, LY), N(v, H), N(v, AX),
-                      N(v, AY), -N(v, Alfa), -N(v, Beta)},
-                     N(v, Divisiones));
+  const double LYc = N(v, LY) + c;
+  return {Circulo(N(v, R) + c), {N(v, LX) + c, LYc, Cuatro(LYc / 2)}};
 }
-bool CortaLaBase4(const Valores& v) {
+Bocas Bocas3(const Valores& v, double c) {
+  Bocas bocas = Bocas2(v, c);
+  bocas.abajo.r(1) = bocas.abajo.r(2) = 0;
+  return bocas;
+}
+Bocas Bocas4(const Valores& v, double c) {
   using namespace esp4;
-  return CortaLaBase({Cuatro(N(v, R1)), Cuatro(N(v, R21), N(v, R22), N(v, R23), N(v, R24)), 2 * N(v, R1), 2 * N(v, R1),
-                      N(v, LX), N(v, LY), N(v, H), N(v, AX), N(v, AY), -N(v, Alfa), -N(v, Beta)},
-                     N(v, Divisiones));
+  return {Circulo(N(v, R1) + c), {N(v, LX) + c, N(v, LY) + c, CuatroDesde(v, R21, c)}};
 }
-bool CortaLaBase5(const Valores& v) {
+// Only the radii are corrected here.
+Bocas Bocas5(const Valores& v, double c) {
   using namespace esp5;
-  return CortaLaBase({Cuatro(N(v, R11), N(v, R12), N(v, R13), N(v, R14)), Cuatro(0.005), N(v, LX1), N(v, LY1),
-                      N(v, LX2), N(v, LY2), N(v, H), N(v, AX), N(v, AY), -N(v, Alfa), -N(v, Beta)},
-                     N(v, Divisiones));
+  return {{N(v, LX1), N(v, LY1), CuatroDesde(v, R11, c)}, {N(v, LX2), N(v, LY2), Cuatro(kRoce)}};
+}
+
+template <Bocas (*bocas)(const Valores&, double)>
+bool Corta(const Valores& v) {
+  const auto [H, AX, AY, Alfa, Beta, divisiones] = ComunesDe(v);
+  return CortaLaBase({bocas(v, 0), H, AX, AY, Alfa, Beta}, divisiones);
 }
 
 namespace esp1 {
@@ -183,7 +208,7 @@ constexpr std::array kComprobaciones{
     Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
 };
 constexpr std::array kComprobaciones3{
-    Comprobacion{Alfa, CortaLaBase3},
+    Comprobacion{Alfa, Corta<Bocas3>},
     Comprobacion{LY, [](const Valores& v) { return N(v, LY) / 2 > N(v, LX); }},
     Comprobacion{Alfa, FueraDeAngulo<Alfa>},
     Comprobacion{Beta, FueraDeAngulo<Beta>},
@@ -193,20 +218,16 @@ constexpr std::array kComprobaciones3{
 
 namespace esp4 {
 constexpr std::array kComprobaciones{
-    Comprobacion{Alfa, CortaLaBase4},
-    Comprobacion{R21, SumaExcede<R21, R22, LY>},
-    Comprobacion{R22, SumaExcede<R22, R23, LX>},
-    Comprobacion{R23, SumaExcede<R23, R24, LY>},
-    Comprobacion{R24, SumaExcede<R21, R24, LX>},
-    Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},
-    Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    Comprobacion{Alfa, Corta<Bocas4>},           Comprobacion{R21, SumaExcede<R21, R22, LY>},
+    Comprobacion{R22, SumaExcede<R22, R23, LX>}, Comprobacion{R23, SumaExcede<R23, R24, LY>},
+    Comprobacion{R24, SumaExcede<R21, R24, LX>}, Comprobacion{Alfa, FueraDeAngulo<Alfa>},
+    Comprobacion{Beta, FueraDeAngulo<Beta>},     Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
 };
 }  // namespace esp4
 
 namespace esp5 {
 constexpr std::array kComprobaciones{
-    Comprobacion{Alfa, CortaLaBase5},         Comprobacion{R11, ExcedeMitad<R11, LY1>},
+    Comprobacion{Alfa, Corta<Bocas5>},        Comprobacion{R11, ExcedeMitad<R11, LY1>},
     Comprobacion{R12, ExcedeMitad<R12, LY1>}, Comprobacion{R13, ExcedeMitad<R13, LY1>},
     Comprobacion{R14, ExcedeMitad<R14, LY1>}, Comprobacion{R11, ExcedeMitad<R11, LX1>},
     Comprobacion{R12, ExcedeMitad<R12, LX1>}, Comprobacion{R13, ExcedeMitad<R13, LX1>},
@@ -215,81 +236,49 @@ constexpr std::array kComprobaciones{
 };
 }  // namespace esp5
 
-// Half a thickness inwards or outwards, for all radii and sides alike.
-double Fibra() {
-  const auto fibra = CorreccionFibra();
-  return fibra ? fibra->radio : 0;
-}
-
-// The first field and the last five are the same in all pieces. The angles are held negated.
-void GuardaComun(const Valores& v) {
-  const auto n = static_cast<int>(v.size());
-  estado.dAltura = N(v, 0);
-  estado.dAx = N(v, n - 5);
-  estado.dAy = N(v, n - 4);
-  estado.dAlfa = -N(v, n - 3);
-  estado.dBeta = -N(v, n - 2);
-  estado.iDivisiones = EnteroCorto(N(v, n - 1));
-}
-
-// Four fields in a row, corrected.
-auto CuatroDesde(const Valores& v, int primero, double c) {
-  return std::tuple(N(v, primero) + c, N(v, primero + 1) + c, N(v, primero + 2) + c, N(v, primero + 3) + c);
-}
-
-void Guarda1(const Valores& v, bool) {
-  using namespace esp1;
-  const double c = Fibra();
+// Each piece's own names.
+void Nombra15(const Bocas& bocas) {
   EstadoPrograma& e = estado;
-  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) = CuatroDesde(v, R11, c);
-  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) = CuatroDesde(v, R21, c);
-  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = CuatroDesde(v, LX1, c);
-  GuardaComun(v);
+  const auto& [arriba, abajo] = bocas;
+  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) = std::tuple(arriba.r(1), arriba.r(2), arriba.r(3), arriba.r(4));
+  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) = std::tuple(abajo.r(1), abajo.r(2), abajo.r(3), abajo.r(4));
+}
+void Nombra23(const Bocas& bocas) {
+  estado.dRadioEsp = bocas.arriba.r(1);
+  estado.dRadioEsp2 = bocas.abajo.r(3);
 }
 
-void Guarda23(const Valores& v, bool) {
-  using namespace esp2;
-  const double c = Fibra();
-  estado.dRadioEsp = N(v, R) + c;
-  estado.dLX2 = N(v, LX) + c;
-  estado.dLY2 = N(v, LY) + c;
-  estado.dLX1 = estado.dLY1 = 2 * estado.dRadioEsp;
-  estado.dRadioEsp2 = estado.dLY2 / 2;
-  GuardaComun(v);
-}
-
-void Guarda4(const Valores& v, bool) {
-  using namespace esp4;
-  const double c = Fibra();
+// Half a thickness inwards or outwards, for radii and sides alike. The angles are held negated.
+template <Bocas (*bocas)(const Valores&, double), void (*nombra)(const Bocas&)>
+void Guarda(const Valores& v, Pieza& pieza) {
+  const auto fibra = CorreccionFibra(pieza.fibra, pieza.espesor);
+  pieza.entradas = bocas(v, 0);
+  pieza.corregidas = bocas(v, fibra ? fibra->radio : 0);
+  const auto comunes = ComunesDe(v);
   EstadoPrograma& e = estado;
-  std::tie(e.dR21, e.dR22, e.dR23, e.dR24) = CuatroDesde(v, R21, c);
-  e.dR11 = e.dR12 = e.dR13 = e.dR14 = N(v, R1) + c;
-  e.dLX2 = N(v, LX) + c;
-  e.dLY2 = N(v, LY) + c;
-  e.dLX1 = e.dLY1 = 2 * e.dR11;
-  GuardaComun(v);
-}
-
-// Only the radii are corrected here.
-void Guarda5(const Valores& v, bool) {
-  using namespace esp5;
-  const double c = Fibra();
-  EstadoPrograma& e = estado;
-  std::tie(e.dR11, e.dR12, e.dR13, e.dR14) = CuatroDesde(v, R11, c);
-  e.dR21 = e.dR22 = e.dR23 = e.dR24 = 0.005;
-  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = CuatroDesde(v, LX1, 0);
-  GuardaComun(v);
+  pieza.H = e.dAltura = comunes.H;
+  pieza.AX = e.dAx = comunes.AX;
+  pieza.AY = e.dAy = comunes.AY;
+  pieza.Alfa = comunes.Alfa;
+  pieza.Beta = comunes.Beta;
+  e.dAlfa = -comunes.Alfa;
+  e.dBeta = -comunes.Beta;
+  pieza.divisiones = e.iDivisiones = EnteroCorto(comunes.divisiones);
+  const auto& [arriba, abajo] = pieza.corregidas;
+  std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = std::tuple(arriba.LX, arriba.LY, abajo.LX, abajo.LY);
+  nombra(pieza.corregidas);
 }
 
 // All but the texts, tables and the storing is the same in the five.
-constexpr DefDialogo Especial(std::string_view nombre, std::string_view clave, int titulo, int error,
+constexpr DefDialogo Especial(TipoPieza tipo, std::string_view nombre, std::string_view clave, int titulo, int error,
                               std::span<const DefCampo> campos, std::span<const Comprobacion> comprobaciones,
-                              void (*guarda)(const Valores&, bool)) {
-  return {.nombre = nombre,
+                              void (*guarda)(const Valores&, Pieza&)) {
+  return {.tipo = tipo,
+          .nombre = nombre,
           .clave = clave,
           .poneTipo = true,
           .textoTitulo = titulo,
-          .textoVacio = 15,
+          .textoVacio = texto::kFaltanDatos,
           .textoError = error,
           .campos = campos,
           .comprobaciones = comprobaciones,
@@ -300,15 +289,17 @@ constexpr DefDialogo Especial(std::string_view nombre, std::string_view clave, i
 
 }  // namespace
 
-constexpr DefDialogo kFrTransfEsp1 =
-    Especial("FrTransfEsp1", "TransEsp1", 42, 20, kCampos1, esp1::kComprobaciones, Guarda1);
-constexpr DefDialogo kFrTansfEsp2 =
-    Especial("FrTansfEsp2", "TransEsp2", 43, 20, kCampos2, esp2::kComprobaciones, Guarda23);
-constexpr DefDialogo kFrTransfEsp3 =
-    Especial("FrTransfEsp3", "TransEsp3", 44, 40, kCampos3, esp2::kComprobaciones3, Guarda23);
-constexpr DefDialogo kFrTransEsp4 =
-    Especial("FrTransEsp4", "TransEsp4", 45, 20, kCampos4, esp4::kComprobaciones, Guarda4);
-constexpr DefDialogo kFrTransEspe5 =
-    Especial("FrTransEspe5", "TransEsp5", 46, 20, kCampos5, esp5::kComprobaciones, Guarda5);
+// clang-format off
+constexpr DefDialogo kFrTransfEsp1 = Especial(TipoPieza::esp1, "FrTransfEsp1", "TransEsp1", texto::kTransEsp1,
+    texto::kDatoErroneo,     kCampos1, esp1::kComprobaciones,  Guarda<Bocas1, Nombra15>);
+constexpr DefDialogo kFrTansfEsp2 = Especial(TipoPieza::esp2, "FrTansfEsp2", "TransEsp2", texto::kTransEsp2,
+    texto::kDatoErroneo,     kCampos2, esp2::kComprobaciones,  Guarda<Bocas2, Nombra23>);
+constexpr DefDialogo kFrTransfEsp3 = Especial(TipoPieza::esp3, "FrTransfEsp3", "TransEsp3", texto::kTransEsp3,
+    texto::kDatoErroneoEsp3, kCampos3, esp2::kComprobaciones3, Guarda<Bocas3, Nombra23>);
+constexpr DefDialogo kFrTransEsp4 = Especial(TipoPieza::esp4, "FrTransEsp4", "TransEsp4", texto::kTransEsp4,
+    texto::kDatoErroneo,     kCampos4, esp4::kComprobaciones,  Guarda<Bocas4, Nombra15>);
+constexpr DefDialogo kFrTransEspe5 = Especial(TipoPieza::esp5, "FrTransEspe5", "TransEsp5", texto::kTransEsp5,
+    texto::kDatoErroneo,     kCampos5, esp5::kComprobaciones,  Guarda<Bocas5, Nombra15>);
+// clang-format on
 
 }  // namespace duktores

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "dialogs/combos.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
-#include "state/fibra.h"
 #include "state/numeros.h"
 
 namespace duktores {
@@ -28,9 +28,9 @@ constexpr Campos CamposDe(std::array<std::string_view, 3> nombres, std::array<st
       {nombres[2],   palabras[2], Rotulo::longitud,        0,   FiltraNumero,      {}},
       {"TxtAX",      "AX",        Rotulo::longitud,        0,   FiltraNumero,      {}},
       {"TxtAY",      "AY",        Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         67,   FiltraNumeroSigno, {}},
-      {"CmbDivi",    "Divisions", Rotulo::texto,          19,   nullptr,           kDivisiones},
-      {"CmbPosIni",  "Start",     Rotulo::textoDosPuntos, 27,   nullptr,           kPosiciones},
+      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         texto::kAlfaChino,      FiltraNumeroSigno, {}},
+      {"CmbDivi",    "Divisions", Rotulo::texto,          texto::kDivisiones,     nullptr,           kDivisiones},
+      {"CmbPosIni",  "Start",     Rotulo::textoDosPuntos, texto::kPosicionInicio, nullptr,           kPosiciones},
   }};
   // clang-format on
 }
@@ -52,48 +52,63 @@ constexpr Comprobaciones kComprobacionesCR =
 constexpr Comprobaciones kComprobacionesRC =
     ComprobacionesDe([](const Valores& v) { return 2 * v[R] < std::min(v[L1], v[L2]); });
 
-void GuardaComun(const Valores& v, bool dosPiezas, double& lado1, double& lado2, double& radio) {
-  estado.dAltura = v[H];
-  if (const auto fibra = CorreccionFibra()) {
-    lado1 = v[L1] + fibra->lado;
-    lado2 = v[L2] + fibra->lado;
-    radio = v[R] + fibra->radio;
+// The names of `estado` that a dialog stores its rectangle and its circle under.
+struct Nombres {
+  double &lado1, &lado2, &radio;
+};
+
+// Without a known surface the sizes stored before stay, and are those of the piece.
+void Guarda(const Valores& v, Pieza& pieza, Nombres nombres, Boca Bocas::*rectangulo, Boca Bocas::*circulo) {
+  const auto pon = [&](Bocas& bocas, double lado1, double lado2, double radio) {
+    bocas.*rectangulo = {lado1, lado2, {}};
+    bocas.*circulo = Circulo(radio);
+  };
+  pon(pieza.entradas, nombres.lado1, nombres.lado2, nombres.radio);
+  if (const auto fibra = CorreccionFibra(pieza.fibra, pieza.espesor)) {
+    pon(pieza.entradas, v[L1], v[L2], v[R]);
+    nombres.lado1 = v[L1] + fibra->lado;
+    nombres.lado2 = v[L2] + fibra->lado;
+    nombres.radio = v[R] + fibra->radio;
   }
-  estado.dAx = v[AX];
-  estado.dAy = v[AY];
-  estado.dAlfa = v[Alfa];
-  estado.iPosIni = EnteroCorto(v[PosIni]);
-  estado.iDivisiones = EnteroCorto(v[Divi]);
-  estado.bDosPiezas = dosPiezas;
+  pon(pieza.corregidas, nombres.lado1, nombres.lado2, nombres.radio);
+  pieza.H = estado.dAltura = v[H];
+  pieza.AX = estado.dAx = v[AX];
+  pieza.AY = estado.dAy = v[AY];
+  pieza.Alfa = estado.dAlfa = v[Alfa];
+  pieza.inicio = estado.iPosIni = EnteroCorto(v[PosIni]);
+  pieza.divisiones = estado.iDivisiones = EnteroCorto(v[Divi]);
+  estado.bDosPiezas = pieza.dosPiezas;
 }
 
-void GuardaCR(const Valores& v, bool dosPiezas) {
-  GuardaComun(v, dosPiezas, estado.dL1Base, estado.dL2Base, estado.dRadioAlto);
+void GuardaCR(const Valores& v, Pieza& pieza) {
+  Guarda(v, pieza, {estado.dL1Base, estado.dL2Base, estado.dRadioAlto}, &Bocas::abajo, &Bocas::arriba);
 }
 
-void GuardaRC(const Valores& v, bool dosPiezas) {
-  GuardaComun(v, dosPiezas, estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC);
+void GuardaRC(const Valores& v, Pieza& pieza) {
+  Guarda(v, pieza, {estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC}, &Bocas::arriba, &Bocas::abajo);
 }
 
 }  // namespace
 
-constexpr DefDialogo kFrTransfCR{.nombre = "FrTransfCR",
+constexpr DefDialogo kFrTransfCR{.tipo = TipoPieza::cr,
+                                 .nombre = "FrTransfCR",
                                  .clave = "TransCR",
                                  .poneTipo = true,
-                                 .textoTitulo = 11,
-                                 .textoVacio = 15,
-                                 .textoError = 20,
+                                 .textoTitulo = texto::kTransCR,
+                                 .textoVacio = texto::kFaltanDatos,
+                                 .textoError = texto::kDatoErroneo,
                                  .campos = kCamposCR,
                                  .comprobaciones = kComprobacionesCR,
                                  .opcionPiezas = true,
                                  .olvidaPiezas = false,
                                  .guarda = GuardaCR};
-constexpr DefDialogo kFrTransfRC{.nombre = "FrTransfRC",
+constexpr DefDialogo kFrTransfRC{.tipo = TipoPieza::rc,
+                                 .nombre = "FrTransfRC",
                                  .clave = "TransRC",
                                  .poneTipo = true,
-                                 .textoTitulo = 12,
-                                 .textoVacio = 15,
-                                 .textoError = 20,
+                                 .textoTitulo = texto::kTransRC,
+                                 .textoVacio = texto::kFaltanDatos,
+                                 .textoError = texto::kDatoErroneo,
                                  .campos = kCamposRC,
                                  .comprobaciones = kComprobacionesRC,
                                  .opcionPiezas = true,

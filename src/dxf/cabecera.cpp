@@ -7,7 +7,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "dxf/anotacion.h"
+#include "annotation/anotacion.h"
 #include "dxf/numero_dxf.h"
 #include "state/estado.h"
 

@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "dxf/numero_dxf.h"
+#include "piece/numeros_texto.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 
@@ -40,7 +41,7 @@ void AnadeColor(std::string& s, std::int16_t color) {
 
 /// The lines up to the layer. `comienzo` holds those before the handle.
 std::string Cabeza(std::string_view comienzo, std::string& capa, std::size_t reserva) {
-  if (estado.iHandleDxf > kUltimoHandle) throw ErrorCorrida(kTextoDemasiadas);
+  if (estado.iHandleDxf > kUltimoHandle) throw ErrorCorrida(texto::kDemasiadas);
   std::string s;
   s.reserve(kReserva + reserva + capa.size());
   s += comienzo;

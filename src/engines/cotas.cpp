@@ -2,44 +2,23 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <optional>
-#include <span>
-
-#include "dxf/anotacion.h"
-#include "state/estado.h"
+#include <utility>
 
 namespace duktores {
 
 namespace {
 
-// What a row names. FM is F(h+1), FN F(N+1), B the low end of the split line; Min and Max hold the levels. Izq is the
-// one further left of C(1) and F(1), Der the one further right of C(6) and F(N+1), and IzqOtro, DerOtro are the others.
-enum Ref : std::uint8_t { F1, FM, FN, C1, C2, C3, C4, C5, C6, B, Min, Max, Izq, IzqOtro, Der, DerOtro, kRefs };
-using Nombrados = std::array<Punto2, kRefs>;
-
-enum class Eje : std::uint8_t { H, V };
 using enum Eje;
 
-// From (x of `x1`, y of `y1`) to (x of `x2`, y of `y2`).
-struct Extension {
-  Ref x1 = F1, y1 = F1, x2 = F1, y2 = F1;
-};
+// What a row names. FM is F(h+1), FN F(N+1), B the low end of the split line; Min and Max hold the levels. Izq is the
+// one further left of C(1) and F(1), Der the one further right of C(6) and F(N+1), and IzqOtro, DerOtro are the others.
+enum Nombrado : Ref { F1, FM, FN, C1, C2, C3, C4, C5, C6, B, Min, Max, Izq, IzqOtro, Der, DerOtro, kNombrados };
+
 constexpr Extension HastaX(Ref punto, Ref nivel) { return {punto, punto, nivel, punto}; }
 constexpr Extension HastaY(Ref punto, Ref nivel) { return {punto, punto, punto, nivel}; }
 
-// A horizontal row measures from the x of `de` to the x of `a`, at the y of `base`; its line stands `pasos` steps above
-// the y of `nivel`. A vertical one likewise with x and y exchanged.
-struct Fila {
-  Eje eje;
-  Ref de, a, base, nivel;
-  double pasos;
-  std::array<Extension, 2> extensiones{};
-  std::optional<double> pasosCircular{};  // instead of `pasos` above a circular base; 0: no such row there
-};
-
 // clang-format off
-constexpr Fila kCotas[]{
+constexpr FilaCota kCotas[]{
     {H, F1, FN, Max, Max,  1, {HastaY(F1, Max), HastaY(FN, Max)}},
     {H, C1, C2, Min, Min, -2, {HastaY(C1, Min), HastaY(C2, Min)}},
     {V, C1, C2, Min, Min, -1, {HastaX(C1, Min), HastaX(C2, Min)}},
@@ -54,7 +33,7 @@ constexpr Fila kCotas[]{
     {H, C5, C6, Min, Min, -2, {HastaY(C5, Min), HastaY(C6, Min)}},
     {V, C5, C6, Max, Max,  1, {HastaX(C6, Max), HastaX(C5, Max)}},
 };
-constexpr Fila kCotasCircular[]{
+constexpr FilaCota kCotasCircular[]{
     {H, F1, FN, Max, Max,  1, {HastaY(F1, Max), HastaY(FN, Max)}},
     {H, C1, C6, Min, Min, -2, {HastaY(C1, Min), HastaY(C6, Min)}},
     {H, C1, C2, C1,  Min, -1},
@@ -69,10 +48,10 @@ constexpr Fila kCotasCircular[]{
     {H, C5, C6, Min, Min, -1},
     {V, C5, C6, Max, Max,  1, {HastaX(C6, Max), HastaX(C5, Max)}},
 };
-constexpr Fila kCotasPieza1[]{
-    {H, F1, FM, Max, Max,  3, {HastaY(F1, Max), HastaY(FM, Max)}, 1},
-    {H, C1, B,  Min, Min, -3, {HastaY(C1, Min), HastaY(B, Min)}, -2},
-    {H, C1, C2, Min, Min, -2, {}, 0},
+constexpr FilaCota kCotasPieza1[]{
+    {H, F1, FM, Max, Max,  3, {HastaY(F1, Max), HastaY(FM, Max)}},
+    {H, C1, B,  Min, Min, -3, {HastaY(C1, Min), HastaY(B, Min)}},
+    {H, C1, C2, Min, Min, -2},
     {V, C1, F1, Min, Min, -2, {HastaX(C1, Min), HastaX(F1, Min)}},
     {V, C4, FM, Max, Max,  1, {Extension{B, C4, Max, C4}, HastaX(FM, Max)}},
     {V, C1, C2, Min, Min, -1, {HastaX(C2, Min), HastaX(C1, Min)}},
@@ -80,33 +59,48 @@ constexpr Fila kCotasPieza1[]{
     {V, C2, C3, Min, Min, -2.0 / 3, {HastaX(C3, Min), HastaX(C2, Min)}},
     {H, C3, B,  Min, Min, -1},
 };
-constexpr Fila kCotasPieza2[]{
+constexpr FilaCota kCotasPieza2[]{
     {H, FM, FN, Max, Max,  1, {HastaY(FM, Max), HastaY(FN, Max)}},
-    {H, B,  C6, Min, Min, -3, {HastaY(C6, Min), HastaY(B, Min)}, -2},
+    {H, B,  C6, Min, Min, -3, {HastaY(C6, Min), HastaY(B, Min)}},
     {V, C4, FM, Min, Min, -1, {HastaX(FM, Min)}},
     {V, C6, FN, Max, Max,  2, {HastaX(C6, Max), HastaX(FN, Max)}},
     {V, C6, C5, Max, Max,  1, {HastaX(C6, Max), HastaX(C5, Max)}},
     {H, C4, C5, Min, Min, -1, {HastaY(C4, Min), HastaY(C5, Min)}},
     {V, C4, C5, Max, Max,  2.0 / 3, {HastaX(C5, Max), HastaX(C4, Max)}},
-    {H, C5, C6, Min, Min, -2, {}, 0},
+    {H, C5, C6, Min, Min, -2},
     {H, C4, B,  Min, Min, -1, {HastaY(C4, Min), HastaY(B, Min)}},
 };
 // clang-format on
 
-std::span<const Fila> Filas(Parte parte, ListaCotas lista) {
+// Above a circular base other widths stand at other levels: each row of these is that of the table before with other
+// steps.
+template <std::size_t n>
+constexpr std::array<FilaCota, n> Circular(const FilaCota (&filas)[n],
+                                           std::array<std::pair<std::size_t, double>, 2> pasos, std::size_t fuera) {
+  std::array<FilaCota, n> otras{};
+  std::copy(std::begin(filas), std::end(filas), otras.begin());
+  for (const auto& [i, otros] : pasos) otras[i].pasos = otros;
+  otras[fuera].pasos = 0;
+  return otras;
+}
+constexpr auto kCotasPieza1Circular = Circular(kCotasPieza1, {{{0, 1}, {1, -2}}}, 2);
+constexpr auto kCotasPieza2Circular = Circular(kCotasPieza2, {{{0, 1}, {1, -2}}}, 7);
+
+std::span<const FilaCota> Filas(Parte parte, ListaCotas lista) {
+  const bool circular = lista == ListaCotas::baseCircular;
   switch (parte) {
     case Parte::primera:
-      return kCotasPieza1;
+      return circular ? std::span<const FilaCota>(kCotasPieza1Circular) : kCotasPieza1;
     case Parte::segunda:
-      return kCotasPieza2;
+      return circular ? std::span<const FilaCota>(kCotasPieza2Circular) : kCotasPieza2;
     case Parte::entera:
       break;
   }
-  return lista == ListaCotas::baseCircular ? std::span<const Fila>(kCotasCircular) : kCotas;
+  return circular ? std::span<const FilaCota>(kCotasCircular) : kCotas;
 }
 
 // The second piece counts the last point and corner of the first one too, but its left level is the split line's end.
-void PonNiveles(Nombrados& puntos, const Transicion& t, Parte parte) {
+void PonNiveles(std::vector<Punto2>& puntos, const Transicion& t, Parte parte) {
   const int N = t.dPuntosPlano.Cuenta() - 1, h = N / 2;
   const bool primera = parte == Parte::primera, segunda = parte == Parte::segunda;
   Punto2 minimo{99999, 99999}, maximo{-99999, -99999};
@@ -116,16 +110,19 @@ void PonNiveles(Nombrados& puntos, const Transicion& t, Parte parte) {
   };
   for (int k = segunda ? h : 1; k <= (primera ? h + 1 : N + 1); ++k) incluye(t.dPuntosPlano(k));
   for (int j = segunda ? 3 : 1; j <= (primera ? 3 : 6); ++j) incluye(t.dVerticesPlano(j));
-  if (segunda) minimo.x = t.dCorteBajo2.x;
+  if (segunda) minimo.x = puntos[B].x;
   puntos[Min] = minimo;
   puntos[Max] = maximo;
 }
 
-Nombrados PuntosDe(const Transicion& t, Parte parte, Punto2 base) {
+}  // namespace
+
+CotasFilas CotasDe(const Transicion& t, Parte parte, Punto2 corte, ListaCotas lista) {
   const auto& F = t.dPuntosPlano;
   const auto& C = t.dVerticesPlano;
   const int N = F.Cuenta() - 1;
-  Nombrados puntos{F(1), F(N / 2 + 1), F(N + 1), C(1), C(2), C(3), C(4), C(5), C(6), t.dCorteBajo2};
+  std::vector<Punto2> puntos{F(1), F(N / 2 + 1), F(N + 1), C(1), C(2), C(3), C(4), C(5), C(6), corte};
+  puntos.resize(kNombrados);
   PonNiveles(puntos, t, parte);
   puntos[Izq] = F(1);
   puntos[IzqOtro] = C(1);
@@ -133,28 +130,7 @@ Nombrados PuntosDe(const Transicion& t, Parte parte, Punto2 base) {
   puntos[Der] = F(N + 1);
   puntos[DerOtro] = C(6);
   if (C(6).x > F(N + 1).x) std::swap(puntos[Der], puntos[DerOtro]);
-  for (Punto2& p : puntos) p = p + base;
-  return puntos;
-}
-
-}  // namespace
-
-void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista, Punto2 base) {
-  const Nombrados p = PuntosDe(t, parte, base);
-  for (const Fila& fila : Filas(parte, lista)) {
-    const double pasos = lista == ListaCotas::baseCircular ? fila.pasosCircular.value_or(fila.pasos) : fila.pasos;
-    if (pasos == 0) continue;
-    if (fila.eje == H) {
-      const double y = p[fila.base].y;
-      const Punto2 de{p[fila.de].x, y}, a{p[fila.a].x, y};
-      Acota(axew, de, a, {de.x, p[fila.nivel].y + pasos * estado.dPasoTablaY});
-    } else {
-      const double x = p[fila.base].x;
-      const Punto2 de{x, p[fila.de].y}, a{x, p[fila.a].y};
-      Acota(axew, de, a, {p[fila.nivel].x + pasos * estado.dPasoTablaX, de.y});
-    }
-    for (const auto [x1, y1, x2, y2] : fila.extensiones) Extiende(axew, {p[x1].x, p[y1].y}, {p[x2].x, p[y2].y});
-  }
+  return {Filas(parte, lista), std::move(puntos)};
 }
 
 }  // namespace duktores

@@ -1,18 +1,15 @@
 #pragma once
-// The dimensions around a pattern: its overall sizes and the places of its corners, all horizontal or vertical. Each
-// stands at a level of the pattern, an extreme coordinate of its points, a few steps `dPasoTablaX` or `dPasoTablaY`
-// away from it. The steps are drawing units, in inches too.
+// The dimensions around the pattern of a transition: its overall sizes and the places of its corners, all horizontal or
+// vertical. Each stands at a level of the pattern, an extreme coordinate of its points, a few steps away from it.
 
-#include "engines/marcas.h"
-#include "engines/transicion.h"
-#include "viewer/ewdraw.h"
+#include "engines/motor.h"
 
 namespace duktores {
 
-/// Which list of dimensions a pattern gets.
-enum class ListaCotas { baseRectangular, baseCircular };
+/// Which fans of bend lines a shape holds: all, or those of one piece of two.
+enum class Parte : std::uint8_t { entera, primera, segunda };
 
-/// Draws the dimensions of a pattern, or of a piece of it, translated by `base`. The pieces need CortePieza1.
-void GeneraCotas(EWdraw& axew, const Transicion& t, Parte parte, ListaCotas lista, Punto2 base);
+/// `corte` is the lower end of the split line, which only the pieces measure.
+CotasFilas CotasDe(const Transicion& t, Parte parte, Punto2 corte, ListaCotas lista);
 
 }  // namespace duktores

@@ -1,80 +1,66 @@
-#include "engines/trans_elip.h"
-
 #include <cmath>
 
-#include "engines/contorno.h"
-#include "engines/solido.h"
-#include "engines/trans_cr.h"
+#include "engines/comun.h"
+#include "engines/elecciones.h"
+#include "engines/motor.h"
 #include "geometry/rotacion.h"
-#include "state/textos.h"
+#include "piece/numeros_texto.h"
 
 namespace duktores {
 
 namespace {
 
-// Of two results as far away the choice falls on B, and rounding must not make a difference of such a tie. While the
-// first fan is laid C(3) is still the origin.
-Punto2 CirculoDerecha(const ParPuntos& AB, const Transicion& t, int m, int) {
-  constexpr double kEmpate = 1e-9;
-  const Punto2 esquina = t.dVerticesPlano(m - 1);
-  return Distancia(AB.A, esquina) > Distancia(AB.B, esquina) + kEmpate ? AB.A : AB.B;
-}
-
-Punto2 EsquinaDerecha(const ParPuntos& AB, const Transicion& t, int, int k) {
-  const Punto2 anterior = t.dPuntosPlano(k - 1);
-  return Distancia(AB.A, anterior) > Distancia(AB.B, anterior) ? AB.A : AB.B;
-}
-
-// The point of an ellipse with the full axes a along X and b along Y that is seen from its centre at the angle `polar`.
-Punto3 EnElipse(Punto3 centro, double a, double b, double polar) {
-  const double c = std::cos(polar), s = std::sin(polar);
-  const double r = a / 2 * (b / 2) / std::hypot(b / 2 * c, a / 2 * s);
+// The point of an ellipse that is seen from its centre at the angle `polar`, so that its chords are not equal.
+Punto3 EnElipse(Punto3 centro, const Boca& ejes, double polar) {
+  const double a = ejes.LX / 2, b = ejes.LY / 2, c = std::cos(polar), s = std::sin(polar);
+  const double r = a * b / std::hypot(b * c, a * s);
   return centro + Punto3{r * c, r * s, 0};
+}
+
+MotorTransicion::Vista Vista(const Pieza& pieza) {
+  const Boca& ejes = pieza.corregidas.arriba;
+  const Punto3 centro{pieza.AX, pieza.AY, pieza.H};
+  const auto enAngulo = [&](double a) { return Rota(EnElipse(centro, ejes, a), centro, kEjeY, pieza.Alfa); };
+  return {PuntosCurva(pieza.divisiones, enAngulo),
+          EsquinasCentradas(pieza.corregidas.abajo, 0),
+          {true, centro, ejes.LX / 2, ejes.LY / 2, pieza.Alfa}};
+}
+
+// The usual pattern tilts against the solid's sense.
+EnEspacio Espacio(const Pieza& pieza, Regla regla) {
+  const PosicionInicio& inicio = Inicio(pieza.inicio);
+  const auto& [arriba, abajo] = pieza.corregidas;
+  const double Ax = pieza.AX, Ay = -pieza.AY, grados = regla == Regla::exacta ? pieza.Alfa : -pieza.Alfa;
+  const Punto3 centro{abajo.LX / 2 + Ax, abajo.LY / 2 + Ay, pieza.H};
+  const auto enAngulo = [&](double a) { return Rota(EnElipse(centro, arriba, a), centro, kEjeY, grados); };
+  return SobreRectangulo(Recorrido(pieza.divisiones, inicio.a0, enAngulo), inicio, abajo, {Ax, Ay});
+}
+
+std::vector<FilaBloque> Filas(const Pieza& pieza) {
+  const auto& [arriba, abajo] = pieza.entradas;
+  const auto comun = [](int numero, ValorBloque valor) { return FilaBloque{{.texto = numero, .comun = true}, valor}; };
+  std::vector<FilaBloque> filas = FilasNombre(pieza, texto::kTransElip);
+  filas.insert(filas.end(), {comun(texto::kH, Longitud{pieza.H}), comun(texto::kEjeMayor, Longitud{arriba.LX}),
+                             comun(texto::kEjeMenor, Longitud{arriba.LY}), comun(texto::kLi, Longitud{abajo.LX}),
+                             comun(texto::kAi, Longitud{abajo.LY}), comun(texto::kAlfa, Angulo{pieza.Alfa})});
+  if (pieza.AX != 0) filas.push_back(comun(texto::kAX, Longitud{pieza.AX}));
+  if (pieza.AY != 0) filas.push_back(comun(texto::kAY, Longitud{pieza.AY}));
+  filas.push_back({{.texto = texto::kDivisionesElip}, pieza.divisiones});
+  filas.push_back({{.texto = texto::kPosicionInicioElip}, pieza.inicio});
+  return filas;
 }
 
 }  // namespace
 
-const ReglasPlano kReglasElip{CirculoDerecha, EsquinaDerecha, kReglasCR.circuloIzquierda, kReglasCR.esquinaIzquierda,
-                              kReglasCR.cierre};
-
-PuntosSolido clTransBaRectBoElip::Solido(double L1Base, double L2Base, double RadioAlto, double RadioBajo,
-                                         std::int16_t inumPuntos, double Ax, double Ay, double Altura,
-                                         double Inclinacion) {
-  const Punto3 centro{-Ax, -Ay, Altura};
-  return {Boca(inumPuntos,
-               [&](double a) { return Rota(EnElipse(centro, RadioAlto, RadioBajo, a), centro, kEjeY, -Inclinacion); }),
-          EsquinasCentradas(L1Base, L2Base, 0)};
-}
-
-void clTransBaRectBoElip::GeneraDibujo(double L1Base, double L2Base, double RadioAlto, double RadioBajo,
-                                       std::int16_t inumPuntos, double Ax, double Ay, double Altura, double Inclinacion,
-                                       EWdraw& axew) {
-  CursorEspera(true);
-  axew.EwClear();
-  const Punto3 centro{-Ax, -Ay, Altura};
-  const auto elipse = axew.EwAddEllipse(centro, RadioAlto / 2, RadioBajo / 2, {0, 0, 1});
-  axew.EwRotate(elipse, centro, kEjeY, -Inclinacion);
-  axew.EwSetColor(elipse, kColorSolido);
-  DibujaRectanguloYGeneratrices(axew,
-                                Solido(L1Base, L2Base, RadioAlto, RadioBajo, inumPuntos, Ax, Ay, Altura, Inclinacion));
-}
-
-void clTransBaRectBoElip::GeneraPuntos(EWdraw& axew, double L1Base, double L2Base, double RadioTop, double RadioDown,
-                                       std::int16_t inumDoblado, double Ax, double Ay, double Altura,
-                                       double Inclinacion, std::int16_t iInicio) {
-  axew.EwClear();
-  const PosicionInicio& inicio = Inicio(iInicio);
-  const Punto3 centro{L1Base / 2 + Ax, L2Base / 2 + Ay, Altura};
-  modelo_ = {};
-  PonBoca(modelo_, inumDoblado, inicio.a0,
-          [&](double a) { return Rota(EnElipse(centro, RadioTop, RadioDown, a), centro, kEjeY, Inclinacion); });
-  ColocaSobreRectangulo(modelo_, inicio, L1Base, L2Base, Ax, Ay, kReglasElip);
-}
-
-void clTransBaRectBoElip::GeneraDesarrollo(EWdraw& axew, std::int16_t inumPuntos) {
-  duktores::GeneraDesarrollo(
-      modelo_, axew, inumPuntos,
-      {.cotas = ListaCotas::baseRectangular, .cotasPrimero = false, .cajetin = kCajetinElip, .soloCaja1 = true});
-}
+constinit const MotorTransicion clTransBaRectBoElip{.vista = Vista,
+                                                    .espacio = Espacio,
+                                                    .reglas = kReglasElip,
+                                                    .sentido = 1,
+                                                    .girado = true,
+                                                    .cotas = ListaCotas::baseRectangular,
+                                                    .cotasAntes = false,
+                                                    .bloque = EstiloBloque::eliptica,
+                                                    .soloCaja1 = true,
+                                                    .filas = Filas};
 
 }  // namespace duktores

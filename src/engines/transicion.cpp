@@ -2,12 +2,11 @@
 
 #include <array>
 #include <cmath>
-
-#include "state/estado.h"
+#include <utility>
 
 namespace duktores {
 
-const PosicionInicio& Inicio(std::int16_t iInicio) {
+const PosicionInicio& Inicio(int iInicio) {
   // clang-format off
   static constexpr std::array<PosicionInicio, 4> posiciones{{
       // a0             P(1)    P(2)    P(3)    P(4)      ladoY  signo
@@ -20,27 +19,40 @@ const PosicionInicio& Inicio(std::int16_t iInicio) {
   return posiciones.at(static_cast<std::size_t>(iInicio - 1));
 }
 
-void PonBoca(Transicion& t, int N, double a0, const std::function<Punto3(double)>& enAngulo) {
+Puntos3 Recorrido(int N, double a0, const std::function<Punto3(double)>& enAngulo) {
   const int h = N / 2;
   const double paso = 2 * dPi / N;
-  t.dPuntos3D = Puntos3(N + 2);
-  for (int c = 1; c <= N + 2; ++c) t.dPuntos3D(c) = enAngulo(a0 + (c <= h + 1 ? 1 - c : c - h - 2) * paso);
-  t.dPuntosPlano = Puntos2(N + 1);
-  t.dVerticesPlano = Puntos2(6);
+  Puntos3 Q(N + 2);
+  for (int c = 1; c <= N + 2; ++c) Q(c) = enAngulo(a0 + (c <= h + 1 ? 1 - c : c - h - 2) * paso);
+  return Q;
 }
 
-void PonEsquinas(Transicion& t, const PosicionInicio& inicio, double L1, double L2) {
-  t.dVertices3D = Puntos3(5);
+Puntos3 Esquinas(const PosicionInicio& inicio, double L1, double L2) {
+  Puntos3 P(5);
   for (int j = 1; j <= 4; ++j) {
     const Punto2 esquina = inicio.esquinas[j - 1];
-    t.dVertices3D(j) = {esquina.x * L1, esquina.y * L2, 0};
+    P(j) = {esquina.x * L1, esquina.y * L2, 0};
   }
-  t.dVertices3D(5) = t.dVertices3D(2);
+  P(5) = P(2);
+  return P;
 }
 
-void PonFuera(Transicion& t, const PosicionInicio& inicio, bool fueraX, bool fueraY) {
-  t.bFueraCierre = inicio.ladoY ? fueraY : fueraX;
-  t.bFueraLado = inicio.ladoY ? fueraX : fueraY;
+EnEspacio SobreRectangulo(Puntos3 Q, const PosicionInicio& inicio, const Boca& rectangulo, Punto2 desvio) {
+  const double L1 = rectangulo.LX, L2 = rectangulo.LY;
+  const auto [Ax, Ay] = desvio;
+  const bool ladoY = inicio.ladoY, fueraX = std::abs(Ax) >= L1 / 2, fueraY = std::abs(Ay) >= L2 / 2;
+  EnEspacio t;
+  t.dPuntos3D = std::move(Q);
+  t.dVertices3D = Esquinas(inicio, L1, L2);
+  const Punto3 P1 = t.dVertices3D(1);
+  t.dPtoInicio = ladoY ? Punto3{P1.x, L2 / 2 + Ay, 0} : Punto3{L1 / 2 + Ax, P1.y, 0};
+  t.bFueraCierre = ladoY ? fueraY : fueraX;
+  t.bFueraLado = ladoY ? fueraX : fueraY;
+  t.ladoA = ladoY ? L1 : L2;
+  t.ladoB = ladoY ? L2 : L1;
+  t.primera = {0, Distancia(t.dPtoInicio, t.dPuntos3D(1))};
+  t.C4 = {ladoY ? L2 / 2 + inicio.signo * Ay : L1 / 2 + inicio.signo * Ax, 0};
+  return t;
 }
 
 Punto2 MasDerecha(const ParPuntos& AB) { return AB.A.x <= AB.B.x ? AB.B : AB.A; }
@@ -49,7 +61,7 @@ Punto2 MasIzquierda(const ParPuntos& AB) { return AB.A.x >= AB.B.x ? AB.B : AB.A
 namespace {
 
 // Right half: F(h+2) to F(N+1), around C(4) until q points stand, then around C(5).
-void ColocaDerecha(Transicion& t, double ladoA, const ReglasPlano& reglas) {
+void ColocaDerecha(Transicion& t, const ReglasPlano& reglas) {
   const auto& Q = t.dPuntos3D;
   const auto& P = t.dVertices3D;
   auto& F = t.dPuntosPlano;
@@ -62,28 +74,28 @@ void ColocaDerecha(Transicion& t, double ladoA, const ReglasPlano& reglas) {
     F(k) = reglas.circuloDerecha(AB, t, m, k - 1);
     if (c == q + 1) {
       j = 2;
-      C(5) = reglas.esquinaDerecha(InterseccionCirculos(F(k), Distancia(Q(c), P(j)), C(4), ladoA), t, m, k);
+      C(5) = reglas.esquinaDerecha(InterseccionCirculos(F(k), Distancia(Q(c), P(j)), C(4), t.ladoA), t, m, k);
       m = 5;
     }
   }
 }
 
 // Left half: C(3), then F(h) down to F(1), with a new corner after each q points.
-void ColocaIzquierda(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas) {
+void ColocaIzquierda(Transicion& t, const ReglasPlano& reglas) {
   const auto& Q = t.dPuntos3D;
   const auto& P = t.dVertices3D;
   auto& F = t.dPuntosPlano;
   auto& C = t.dVerticesPlano;
   const int N = F.Cuenta() - 1, h = N / 2, q = N / 4;
   int j = 3, m = 3;
-  C(3) = MasIzquierda(InterseccionCirculos(F(h + 1), Distancia(Q(h + 2), P(3)), C(4), ladoB));
+  C(3) = MasIzquierda(InterseccionCirculos(F(h + 1), Distancia(Q(h + 2), P(3)), C(4), t.ladoB));
   for (int k = h; k >= 1; --k) {
     const int c = N + 3 - k;
     const auto AB = InterseccionCirculos(C(m), Distancia(Q(c), P(j)), F(k + 1), Distancia(Q(c), Q(c - 1)));
     F(k) = reglas.circuloIzquierda(AB, t, m, k + 1);
     if (k == q + 1 || k == 1) {
       ++j;
-      const double lado = k == 1 ? ladoB : ladoA;
+      const double lado = k == 1 ? t.ladoB : t.ladoA;
       C(m - 1) = reglas.esquinaIzquierda(InterseccionCirculos(F(k), Distancia(Q(c), P(j)), C(m), lado), t, m, k);
       --m;
     }
@@ -104,10 +116,10 @@ void ColocaCostura(Transicion& t, const ReglasPlano& reglas) {
 
 // Where a height stands on the side a-b of the rectangle. The exact pattern takes the middle too where the foot would
 // fall beside the side.
-Punto2 PieDeLado(Punto2 alto, Punto2 a, Punto2 b, bool fuera) {
+Punto2 PieDeLado(Punto2 alto, Punto2 a, Punto2 b, bool fuera, Regla regla) {
   const Punto2 medio = PuntoMedio(b, a), pie = fuera ? medio : PieDePerpendicular(alto, a, b);
   const bool aparte = Distancia(pie, medio) > Distancia(a, b) / 2;
-  return estado.iExacto != 0 && aparte ? medio : pie;
+  return regla == Regla::exacta && aparte ? medio : pie;
 }
 
 // The exact pattern: each triangle is a plane piece of the solid, and the frame of the edge that it shares with the one
@@ -164,7 +176,7 @@ void ColocaTira(Transicion& t) {
     }
   }
   const Punto2 esquina = C(1);
-  C(1) = PieDeLado(F(1), esquina, C(2), t.bFueraCierre);
+  C(1) = PieDeLado(F(1), esquina, C(2), t.bFueraCierre, Regla::exacta);
   const double lado = Distancia(C(2), esquina), parte = lado > 0 ? Distancia(C(1), esquina) / lado : 0;
   const Punto3 costura = P(5) + parte * (P(4) - P(5));
   C(6) = Arista{F(N + 1), C(5), Q(h + 1), P(2)}.Siguiente(costura);
@@ -172,24 +184,32 @@ void ColocaTira(Transicion& t) {
 
 }  // namespace
 
-void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas) {
-  if (estado.iExacto != 0) return ColocaTira(t);
-  ColocaDerecha(t, ladoA, reglas);
-  ColocaIzquierda(t, ladoA, ladoB, reglas);
-  ColocaCostura(t, reglas);
+Transicion ColocaPlano(EnEspacio espacio, const ReglasPlano& reglas, Regla regla) {
+  const int N = espacio.dPuntos3D.Cuenta() - 2;
+  Transicion t{std::move(espacio), Puntos2(N + 1), Puntos2(6), regla};
+  t.dPuntosPlano(N / 2 + 1) = t.primera;
+  t.dVerticesPlano(4) = t.C4;
+  if (regla == Regla::exacta) {
+    ColocaTira(t);
+  } else {
+    ColocaDerecha(t, reglas);
+    ColocaIzquierda(t, reglas);
+    ColocaCostura(t, reglas);
+  }
+  return t;
 }
 
 LineaLado LineaDeLado(const Transicion& t, int turno) {
   const auto& C = t.dVerticesPlano;
   const Punto2 alto = t.dPuntosPlano(turno * (t.dPuntosPlano.Cuenta() - 1) / 4 + 1);
   const bool fuera = turno == 2 ? t.bFueraCierre : t.bFueraLado;
-  return {alto, PieDeLado(alto, C(turno + 1), C(turno + 2), fuera)};
+  return {alto, PieDeLado(alto, C(turno + 1), C(turno + 2), fuera, t.regla)};
 }
 
-void CortePieza1(Transicion& t) {
+Corte CortePieza1(const Transicion& t) {
   const LineaLado corte = LineaDeLado(t, 2);
-  t.dCorteBajo = corte.bajo;
-  t.dCorteBajo2 = estado.iExacto != 0 ? corte.bajo : t.bFueraCierre ? corte.Pie() : Punto2{};
+  if (t.regla == Regla::exacta) return {corte.bajo, corte.bajo};
+  return {corte.bajo, t.bFueraCierre ? corte.Pie() : Punto2{}};
 }
 
 double CalculaDistCentro(double Angulo, double Altura) { return Altura / std::tan(Radianes(Angulo)); }

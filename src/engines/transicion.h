@@ -8,30 +8,18 @@
 // P(2). S: foot of the circle's centre on the start side. F(k): flat points of the circle, left to right. C(j): flat
 // corners, C(1) and C(6) the seam's ends; C(3)-C(4) is the start side, on the X axis, and S the flat origin.
 //
-// Development frame: the rectangle's corner at the origin, sides along X and Y. Lengths in the configured unit.
+// Development frame: the rectangle's corner at the origin, sides along X and Y, the rectangle below and the circle
+// above. It is a mirror image of the solid, so that the pattern shows the outer side: with a rectangular base Y is
+// mirrored, with a rectangular mouth Z. Lengths in the configured unit.
 
-#include <cstdint>
+#include <array>
 #include <functional>
 
 #include "geometry/planas.h"
 #include "geometry/puntos.h"
+#include "piece/patron.h"
 
 namespace duktores {
-
-struct Transicion {
-  Puntos3 dPuntos3D;          ///< Q(1..N+2)
-  Puntos3 dVertices3D;        ///< P(1..5)
-  Punto3 dPtoInicio;          ///< S
-  Puntos2 dPuntosPlano;       ///< F(1..N+1)
-  Puntos2 dVerticesPlano;     ///< C(1..6)
-  bool bFueraCierre = false;  ///< the circle's centre projects at or beyond the half-length of the closing side
-  bool bFueraLado = false;    ///< the same for the two sides next to the start side
-
-  // Two pieces: the line from F(h+1) that splits the start side, in flat coordinates.
-  Punto2 dCorteBajo;   ///< its end on the rectangle, for the first piece
-  Punto2 dCorteBajo2;  ///< the same end for the second piece; the flat origin when the end is a foot, but for the exact
-                       ///< pattern
-};
 
 /// What a start position means: `a0` is the angle of Q(1), `esquinas` are P(1) to P(4) in units of the sides, and the
 /// start side runs along Y (`ladoY`) or X, with `signo` the sense in which the offset lengthens the part S-P(1).
@@ -43,17 +31,37 @@ struct PosicionInicio {
 };
 
 /// `iInicio` is 1 to 4; anything else is std::out_of_range.
-const PosicionInicio& Inicio(std::int16_t iInicio);
+const PosicionInicio& Inicio(int iInicio);
 
-/// Sizes the lists for N divisions and fills Q(c) with the points `enAngulo` of the mouth: in the first half the angle
-/// falls from a0, in the second it rises from there again.
-void PonBoca(Transicion& t, int N, double a0, const std::function<Punto3(double)>& enAngulo);
+/// A transition in space, and where its pattern begins.
+struct EnEspacio {
+  Puntos3 dPuntos3D;            ///< Q(1..N+2)
+  Puntos3 dVertices3D;          ///< P(1..5)
+  Punto3 dPtoInicio;            ///< S
+  bool bFueraCierre = false;    ///< the circle's centre projects at or beyond the half-length of the closing side
+  bool bFueraLado = false;      ///< the same for the two sides next to the start side
+  double ladoA = 0, ladoB = 0;  ///< the lengths P(1)-P(2) and P(1)-P(3)
+  Punto2 primera, C4;           ///< F(h+1) and C(4)
+};
 
-/// Fills P(j) with the corners at z = 0.
-void PonEsquinas(Transicion& t, const PosicionInicio& inicio, double L1, double L2);
+struct Transicion : EnEspacio {
+  Puntos2 dPuntosPlano;    ///< F(1..N+1)
+  Puntos2 dVerticesPlano;  ///< C(1..6)
+  Regla regla = Regla::usual;
+};
 
-/// Sets the flags: `fueraX`, `fueraY` say that the centre lies outside along that axis.
-void PonFuera(Transicion& t, const PosicionInicio& inicio, bool fueraX, bool fueraY);
+/// Q(1..N+2) of the mouth whose points `enAngulo` gives: in the first half the angle falls from a0, in the second it
+/// rises from there again.
+Puntos3 Recorrido(int N, double a0, const std::function<Punto3(double)>& enAngulo);
+
+/// P(1..5) at z = 0.
+Puntos3 Esquinas(const PosicionInicio& inicio, double L1, double L2);
+
+/// A curve of the points Q over a level rectangle; `desvio` are the offsets of its centre in the development frame.
+EnEspacio SobreRectangulo(Puntos3 Q, const PosicionInicio& inicio, const Boca& rectangulo, Punto2 desvio);
+
+/// The tilt as the development of a circle has always taken it, to the last digit: by way of radians.
+inline double PorRadianes(double grados) { return Grados(Radianes(grados)); }
 
 /// Picks one result of an intersection of circles around C(m) and F(k).
 using Eleccion = Punto2 (*)(const ParPuntos& AB, const Transicion& t, int m, int k);
@@ -71,15 +79,13 @@ struct ReglasPlano {
 Punto2 MasDerecha(const ParPuntos& AB);
 Punto2 MasIzquierda(const ParPuntos& AB);
 
-/// Lays the transition flat by true lengths. Needs Q, P, F(h+1), C(4), both flags, and the lists of F and C in their
-/// full size. With `estado.iExacto` the rules are not asked: the triangles are laid out as a strip, each beside the one
-/// before. `ladoA` is the length P(1)-P(2), `ladoB` that of P(1)-P(3). Circles that don't meet put their point at
-/// (0, 0).
-void ColocaPlano(Transicion& t, double ladoA, double ladoB, const ReglasPlano& reglas);
+/// Lays the transition flat by true lengths. The exact rule doesn't ask for choices: the triangles are laid out as a
+/// strip, each beside the one before. Circles that don't meet put their point at (0, 0).
+Transicion ColocaPlano(EnEspacio espacio, const ReglasPlano& reglas, Regla regla);
 
 /// A side line: the height of the plane triangle between two fans, from F(k) to the side of the rectangle below it. It
 /// ends at the foot of the perpendicular, or at the middle of the side where the offset leaves the foot without
-/// meaning; with `estado.iExacto` also where the foot falls beside the side.
+/// meaning; by the exact rule also where the foot falls beside the side.
 struct LineaLado {
   Punto2 alto, bajo;  ///< on the circle, on the side
   /// The end with the smaller y.
@@ -88,8 +94,12 @@ struct LineaLado {
 /// `turno` 1 to 3 from left to right, at k = turno*q + 1; 2 is that of the start side.
 LineaLado LineaDeLado(const Transicion& t, int turno);
 
-/// Leaves the line that splits a pattern in two pieces.
-void CortePieza1(Transicion& t);
+/// The lower end of the line that splits a pattern in two pieces.
+struct Corte {
+  Punto2 dCorteBajo;   ///< for the first piece
+  Punto2 dCorteBajo2;  ///< for the second; by the usual rules the flat origin when the end is a foot
+};
+Corte CortePieza1(const Transicion& t);
 
 /// A height's horizontal run at a slope of `Angulo` degrees.
 double CalculaDistCentro(double Angulo, double Altura);

@@ -1,5 +1,9 @@
 #include "shell/catalogo.h"
 
+#include <vector>
+
+#include "piece/numeros_texto.h"
+#include "shell/lista.h"
 #include "state/caracteres.h"
 #include "state/textos.h"
 
@@ -9,34 +13,48 @@ namespace {
 
 using enum ClaseFila;
 
-constexpr std::string_view kInicial = "PresentDuktores.bmp", kEspeciales = "PresentTransEspeciales.bmp";
+constexpr std::string_view kInicial = "PresentDuktores.bmp", kEspeciales = "PresentTransEspeciales.bmp",
+                           kElipticas = "PresentTransElip.bmp";
+constexpr std::array kRotuloEspeciales{texto::kDuktores, texto::kEspeciales};
+constexpr FilaCatalogo kHueco{hueco, 0, " ", false, {}, {}};
 
+struct CabezaGrupo {
+  Grupo grupo;
+  FilaCatalogo fila;
+};
 // clang-format off
-constexpr std::array kFilas{
-    // kind                 text  gap  capitals picture                 caption   window
-    FilaCatalogo{categoria,   3,  {},  true,    kInicial,               { 3,  0}, {}},
-    FilaCatalogo{hueco,       0,  "",  false,   {},                     {},       {}},
-    FilaCatalogo{pieza,      11,  {},  false,   "TransBasRect.bmp",     {},       "FrTransfCR"},
-    FilaCatalogo{pieza,      12,  {},  false,   "TransBasCirc.bmp",     {},       "FrTransfRC"},
-    FilaCatalogo{hueco,       0,  " ", false,   {},                     {},       {}},
-    FilaCatalogo{categoria,  41,  {},  false,   kEspeciales,            { 3, 47}, {}},
-    FilaCatalogo{categoria,  47,  {},  false,   kEspeciales,            { 3, 47}, {}},
-    FilaCatalogo{hueco,       0,  " ", false,   {},                     {},       {}},
-    FilaCatalogo{pieza,      42,  {},  false,   "Transespe1.bmp",       {},       "FrTransfEsp1"},
-    FilaCatalogo{pieza,      43,  {},  false,   "Transespe2.bmp",       {},       "FrTansfEsp2"},
-    FilaCatalogo{pieza,      44,  {},  false,   "Transespe3.bmp",       {},       "FrTransfEsp3"},
-    FilaCatalogo{pieza,      45,  {},  false,   "Transespe4.bmp",       {},       "FrTransEsp4"},
-    FilaCatalogo{pieza,      46,  {},  false,   "Transespe5.bmp",       {},       "FrTransEspe5"},
-    FilaCatalogo{hueco,       0,  " ", false,   {},                     {},       {}},
-    FilaCatalogo{categoria,  49,  {},  false,   "PresentTransElip.bmp", {49,  0}, {}},
-    FilaCatalogo{hueco,       0,  " ", false,   {},                     {},       {}},
-    FilaCatalogo{pieza,      50,  {},  false,   "TransBoElip.bmp",      {},       "FrTransBaRectBoElip"},
+constexpr CabezaGrupo kCabezas[]{
+    // group                kind       text                    gap  capitals picture      caption
+    {Grupo::rectangulares, {categoria, texto::kDuktores,        {},  true,  kInicial,    {texto::kDuktores, 0}}},
+    {Grupo::rectangulares, {hueco,     0,                       "",  false, {},          {}}},
+    {Grupo::especiales,    {categoria, texto::kGrupoEspeciales, {},  true,  kEspeciales, kRotuloEspeciales}},
+    {Grupo::especiales,    {categoria, texto::kEspeciales,      {},  true,  kEspeciales, kRotuloEspeciales}},
+    {Grupo::especiales,    kHueco},
+    {Grupo::elipticas,     {categoria, texto::kGrupoElipticas,  {},  true,  kElipticas,  {texto::kGrupoElipticas, 0}}},
+    {Grupo::elipticas,     kHueco},
 };
 // clang-format on
 
+std::vector<FilaCatalogo> Filas() {
+  std::vector<FilaCatalogo> filas;
+  for (const Grupo grupo : {Grupo::rectangulares, Grupo::especiales, Grupo::elipticas}) {
+    if (!filas.empty()) filas.push_back(kHueco);
+    for (const auto& cabeza : kCabezas) {
+      if (cabeza.grupo == grupo) filas.push_back(cabeza.fila);
+    }
+    for (const FilaPieza& p : FilasPieza()) {
+      if (p.grupo == grupo) filas.push_back({pieza, p.dialogo.textoTitulo, {}, false, p.imagen, {}, p.tipo});
+    }
+  }
+  return filas;
+}
+
 }  // namespace
 
-std::span<const FilaCatalogo> FilasCatalogo() { return kFilas; }
+std::span<const FilaCatalogo> FilasCatalogo() {
+  static const std::vector<FilaCatalogo> filas = Filas();
+  return filas;
+}
 
 std::string TextoFila(const FilaCatalogo& fila) {
   if (fila.texto == 0) return std::string(fila.hueco);

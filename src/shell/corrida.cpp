@@ -1,146 +1,96 @@
 #include "shell/corrida.h"
 
-#include <algorithm>
-#include <array>
 #include <exception>
 #include <memory>
-#include <string_view>
-#include <tuple>
+#include <utility>
 
+#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
-#include "engines/trans_cr.h"
-#include "engines/trans_elip.h"
-#include "engines/trans_rc.h"
-#include "special/despliega_especial.h"
-#include "special/solido_especial.h"
+#include "sheet/hoja.h"
+#include "shell/lista.h"
+#include "shell/veredicto.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
+#include "state/numeros.h"
 #include "state/textos.h"
 
 namespace duktores {
 
 namespace {
 
-constexpr std::int16_t kPasosEspecial = 36;  // steps round the circle to a division
-
-// What each engine's solid is made of; its view and the check take the same.
-auto ArgumentosCR() {
-  return std::tuple(estado.dL1Base, estado.dL2Base, estado.dRadioAlto, estado.iDivisiones, -estado.dAx, -estado.dAy,
-                    estado.dAltura, -estado.dAlfa);
-}
-auto ArgumentosRC() {
-  return std::tuple(estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.iDivisiones, -estado.dAx, -estado.dAy,
-                    estado.dAltura, -estado.dAlfa);
-}
-auto ArgumentosElip() {
-  return std::tuple(estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip, estado.iDivisiones,
-                    -estado.dAx, -estado.dAyElip, estado.dAltura, -estado.dAlfa);
+std::int32_t AnadeCurva(EWdraw& axew, const Curva& curva) {
+  constexpr Punto3 kEje{0, 1, 0}, kNormal{0, 0, 1};
+  const auto id = curva.elipse ? axew.EwAddEllipse(curva.centro, curva.semiejeX, curva.semiejeY, kNormal)
+                               : axew.EwAddCircle(curva.centro, curva.semiejeX, kNormal);
+  if (curva.grados != 0) axew.EwRotate(id, curva.centro, kEje, curva.grados);
+  return id;
 }
 
-template <class Engine, auto argumentos>
-void Dibuja(EWdraw& axew) {
-  std::apply([&](auto... a) { Engine().GeneraDibujo(a..., axew); }, argumentos());
-}
-
-void DespliegaCR(EWdraw& axew) {
-  estado.inumDoblado = estado.iDivisiones;
-  clTransCR motor;
-  motor.GeneraPuntos(axew, estado.dL1Base, estado.dL2Base, estado.dRadioAlto, estado.inumDoblado, estado.dAx,
-                     -estado.dAy, estado.dAltura, Radianes(estado.dAlfa), estado.iPosIni);
-  motor.GeneraDesarrollo(axew, estado.inumDoblado);
-}
-
-void DespliegaRC(EWdraw& axew) {
-  estado.inumDoblado = estado.iDivisiones;
-  clTransRC motor;
-  motor.GeneraPuntos(axew, estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC, estado.inumDoblado, -estado.dAx,
-                     -estado.dAy, estado.dAltura, -Radianes(estado.dAlfa), estado.iPosIni);
-  motor.GeneraDesarrollo(axew, estado.inumDoblado);
-}
-
-// Unlike the other two this engine takes the tilt in degrees, and its usual pattern tilts against the solid's sense.
-void DespliegaElip(EWdraw& axew) {
-  estado.inumDoblado = estado.iDivisiones;
-  estado.MultinumDoblado = 20;
-  clTransBaRectBoElip motor;
-  motor.GeneraPuntos(axew, estado.dL1Elip, estado.dL2Elip, estado.dEjeMayorElip, estado.dEjeMenorElip,
-                     estado.inumDoblado, estado.dAx, -estado.dAyElip, estado.dAltura,
-                     estado.iExacto != 0 ? estado.dAlfa : -estado.dAlfa, estado.iPosIniElip);
-  motor.GeneraDesarrollo(axew, estado.inumDoblado);
-}
-
-void DibujaEspecial(EWdraw& axew) { GeneraDibujo3D(PiezaDeEstado(), estado.iDivisiones, axew); }
-
-void DespliegaEspecial(EWdraw& axew) {
-  estado.MultinumDoblado = kPasosEspecial;
-  DesarrollaEspecial(axew);
-}
-
-Solido SolidoDeCR() { return EnOrden(std::apply(clTransCR::Solido, ArgumentosCR()), estado.iPosIni, 1); }
-Solido SolidoDeRC() { return EnOrden(std::apply(clTransRC::Solido, ArgumentosRC()), estado.iPosIni, -1); }
-
-// The usual pattern of an ellipse tilts against the solid's sense. Without offsets that is the same piece, begun at its
-// other end.
-Solido SolidoDeElip() {
-  auto argumentos = ArgumentosElip();
-  double &Ax = std::get<5>(argumentos), &Inclinacion = std::get<8>(argumentos);
-  if (estado.iExacto == 0 && Ax == 0 && estado.dAyElip == 0) Inclinacion = -Inclinacion;
-  return EnOrden(std::apply(clTransBaRectBoElip::Solido, argumentos), estado.iPosIniElip, 1);
-}
-
-Solido SolidoDeEspecial() {
-  return SolidoEspecial{PiezaDeEstado(), kPasosEspecial * estado.iDivisiones, kPasosEspecial};
-}
-
-struct Motor {
-  std::string_view clave;
-  void (*dibuja)(EWdraw&);
-  Solido (*solido)();
-  void (*despliega)(EWdraw&);
-};
-
-constexpr std::array kMotores{
-    Motor{"TransCR", Dibuja<clTransCR, ArgumentosCR>, SolidoDeCR, DespliegaCR},
-    Motor{"TransRC", Dibuja<clTransRC, ArgumentosRC>, SolidoDeRC, DespliegaRC},
-    Motor{"TransEsp1", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
-    Motor{"TransEsp2", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
-    Motor{"TransEsp3", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
-    Motor{"TransEsp4", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
-    Motor{"TransEsp5", DibujaEspecial, SolidoDeEspecial, DespliegaEspecial},
-};
-// Any other key.
-constexpr Motor kMotorElip{"", Dibuja<clTransBaRectBoElip, ArgumentosElip>, SolidoDeElip, DespliegaElip};
-
-const Motor& MotorActual() {
-  const auto* motor = std::ranges::find(kMotores, estado.sTipoPieza, &Motor::clave);
-  return motor == kMotores.end() ? kMotorElip : *motor;
+std::int32_t AnadeLinea(EWdraw& axew, const Solido& solido, const std::vector<int>& linea) {
+  const auto en = [&](int i) { return solido.puntos[static_cast<std::size_t>(i)]; };
+  if (linea.size() == 2) return axew.EwAddLine(en(linea[0]), en(linea[1]));
+  axew.EwBeginPolyline3D();
+  for (const int i : linea) axew.EwAddVertex3D(en(i).x, en(i).y, en(i).z);
+  return axew.EwEndPolyline3D(false);
 }
 
 }  // namespace
 
+Solido SolidoDe(const Pieza& pieza) { return FilaDe(pieza.tipo).solido(pieza); }
+
+Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido) {
+  return FilaDe(pieza.tipo).desarrollo(pieza, solido, estado.iExacto != 0 ? Regla::exacta : Regla::usual);
+}
+
+void DibujaSolido(EWdraw& axew, const Solido& solido) {
+  axew.EwClear();
+  if (solido.curva) axew.EwSetColor(AnadeCurva(axew, *solido.curva), kColorSolido);
+  for (const auto& linea : solido.alambre) axew.EwSetColor(AnadeLinea(axew, solido, linea), kColorSolido);
+}
+
 void Dibuja3D(EWdraw& axew) {
-  MotorActual().dibuja(axew);
+  if (!estado.pieza) return;
+  CursorEspera(true);
+  DibujaSolido(axew, SolidoDe(*estado.pieza));
   CursorEspera(false);
 }
 
-Solido SolidoActual() { return MotorActual().solido(); }
+FormatoHoja FormatoDeEstado() {
+  const EstadoPrograma& e = estado;
+  return {.milimetros = e.iUnidad == 1,
+          .altura = e.dTamanoTexto,
+          .colorDoblez = e.iColorDoblez,
+          .cotas = EnteroCorto(NumeroDeTexto(e.sDimensiones)) == 1,
+          .pasoX = e.dPasoTablaX,
+          .pasoY = e.dPasoTablaY,
+          .caja = e.iBox,
+          .densidad = NumeroDeTexto(e.sDensidad),
+          .espesor = e.dEspesor};
+}
 
-FinCorrida Despliega(EWdraw& axew) {
+Corrida Despliega(EWdraw& axew) {
+  if (!estado.pieza) return {};
+  return Despliega(axew, DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)));
+}
+
+Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
-  estado.Formas.clear();
   try {
-    MotorActual().despliega(axew);
-    return FinCorrida::completo;
+    FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
+    const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
+    return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
   } catch (const EleccionRechazada&) {
-    return FinCorrida::eleccionRechazada;
+    return {FinCorrida::eleccionRechazada, {}};
   } catch (const ErrorCorrida& error) {
     MuestraMensaje(Texto(error.NumeroTexto()), EstiloMensaje::exclamacion, "");
   } catch (const std::exception&) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
-  return FinCorrida::error;
+  return {};
 }
+
+Veredicto Juzga(const Solido& solido, const Patron& patron) { return Comprueba(solido, patron, ToleranciaPatron()); }
 
 }  // namespace duktores

@@ -1,23 +1,42 @@
 #pragma once
-// The run driver: which engine serves which piece, and the signs and units between the dialogs' values and each
-// engine's arguments. It reads the piece from `estado`.
+// The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
+// type it is. Without one nothing is drawn.
 
-#include "check/solido_mostrado.h"
+#include <vector>
+
+#include "check/veredicto.h"
+#include "piece/patron.h"
+#include "sheet/formato_hoja.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
 
-/// Draws the solid of the current piece on the control. A type key that names no other piece is the elliptical one.
-void Dibuja3D(EWdraw& axew);
+/// The solid of a piece, and what it unfolds to by the configured rule.
+Solido SolidoDe(const Pieza& pieza);
+Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido);
 
-/// The points of that solid, for the check of its pattern. An unfolding changes the piece in `estado`: take it before.
-Solido SolidoActual();
+/// Draws the wire view of the accepted piece on the emptied control.
+void Dibuja3D(EWdraw& axew);
+void DibujaSolido(EWdraw& axew, const Solido& solido);
+
+/// How patterns are drawn, as `estado` has it.
+FormatoHoja FormatoDeEstado();
 
 /// How an unfolding has ended. In all three cases what has been drawn stays.
 enum class FinCorrida { completo, eleccionRechazada, error };
 
-/// Unfolds the current piece into the control and a new `estado.oDrawing`. Never throws: a refused pick ends the run
+struct Corrida {
+  FinCorrida fin = FinCorrida::error;
+  Patron hoja;  ///< of a complete one: the pattern as it stands on the sheet
+};
+
+/// Unfolds the accepted piece into the control and a new `estado.oDrawing`. Never throws: a refused pick ends the run
 /// quietly, an error of the run is told to the user.
-FinCorrida Despliega(EWdraw& axew);
+Corrida Despliega(EWdraw& axew);
+/// The same of a pattern that has been made already.
+Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);
+
+/// The pattern against the solid, within the tolerance of the configured unit.
+Veredicto Juzga(const Solido& solido, const Patron& patron);
 
 }  // namespace duktores

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "dxf/escritor.h"
-#include "state/error_corrida.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -37,8 +37,16 @@ void Mira(EWdraw& axew, Punto3 desde) {
   axew.EwRegen();
 }
 
-bool Falla(int texto, const std::string& ruta) {
-  MuestraMensaje(Texto(texto) + " " + ruta, EstiloMensaje::exclamacion, "");
+void PreparaHoja(EWdraw& axew) {
+  CursorEspera(true);
+  axew.EwClear();
+  axew.EwBeginPolyline();
+  ComandoVista(axew, "F1", false);
+  estado.iHandleDxf = kPrimerHandle;
+}
+
+bool Falla(int numero, const std::string& ruta) {
+  MuestraMensaje(Texto(numero) + " " + ruta, EstiloMensaje::exclamacion, "");
   CursorEspera(false);
   return false;
 }
@@ -56,15 +64,18 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen) {
   }
 }
 
-FinCorrida Desplegado(EWdraw& axew) {
-  CursorEspera(true);
-  axew.EwClear();
-  axew.EwBeginPolyline();
-  ComandoVista(axew, "F1", false);
-  estado.iHandleDxf = kPrimerHandle;
-  const FinCorrida fin = Despliega(axew);
+Corrida Desplegado(EWdraw& axew) {
+  PreparaHoja(axew);
+  Corrida corrida = Despliega(axew);
   CursorEspera(false);
-  return fin;
+  return corrida;
+}
+
+Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo) {
+  PreparaHoja(axew);
+  Corrida corrida = Despliega(axew, std::move(desarrollo));
+  CursorEspera(false);
+  return corrida;
 }
 
 std::string NombreDxf(const std::string& elegido) {
@@ -78,10 +89,10 @@ bool GuardaDibujo(std::string elegido) {
   elegido = NombreDxf(elegido);
   const std::string auxiliar = estado.sRutaPrograma + "AuxDxf.dxf";
   if (!estado.oDXF || !estado.oDXF->InsertEntities(estado.oDrawing)) return false;
-  if (!HayPlantilla()) return Falla(kTextoPlantilla, RutaPlantilla());
-  if (!estado.oDXF->Save(auxiliar)) return Falla(kTextoNoGuardado, auxiliar);
+  if (!HayPlantilla()) return Falla(texto::kPlantilla, RutaPlantilla());
+  if (!estado.oDXF->Save(auxiliar)) return Falla(texto::kNoGuardado, auxiliar);
   // Written anew, not copied: by now another program of this installation may have put its own drawing there.
-  if (!estado.oDXF->Save(elegido)) return Falla(kTextoNoGuardado, elegido);
+  if (!estado.oDXF->Save(elegido)) return Falla(texto::kNoGuardado, elegido);
   MuestraMensaje("OK", EstiloMensaje::informacion, "");
   CursorEspera(false);
   return true;

@@ -23,8 +23,10 @@ std::span<const VistaFija> VistasFijas();
 /// nothing.
 void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 
-/// The unfold command: empties the control, looks at it from above, starts the handles at 500, unfolds.
-FinCorrida Desplegado(EWdraw& axew);
+/// The unfold command: empties the control, looks at it from above, starts the handles at 500, unfolds the accepted
+/// piece, or draws what it unfolds to.
+Corrida Desplegado(EWdraw& axew);
+Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
 
 /// The name that a drawing gets: with the ending ".dxf" if it has none.
 std::string NombreDxf(const std::string& elegido);

@@ -4,11 +4,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "dxf/anotacion.h"
-#include "special/cajetin_especial.h"
-#include "special/coloca.h"
-#include "state/estado.h"
-
 namespace duktores {
 
 namespace {
@@ -39,29 +34,15 @@ std::array<int, 2> Desplazamientos(Reparto tramo, int k, int q) {
   return {q - k, 2 * q - k};
 }
 
-std::size_t Cuadrante(double Ax, double Ay) {
-  if (Ay < 0) return Ax < 0 ? 0 : 1;
-  return Ax < 0 ? 3 : 2;
-}
-
-Sector Mueve(Sector sector, Punto2 v) {
-  for (auto* orilla : {&sector.base, &sector.boca}) {
-    for (Punto2& p : *orilla) p = p + v;
-  }
-  if (sector.vertice) sector.vertice = *sector.vertice + v;
-  return sector;
-}
-
-std::vector<Punto2> Contorno(const Sector& sector) {
-  std::vector<Punto2> contorno = sector.base;
-  contorno.insert(contorno.end(), sector.boca.rbegin(), sector.boca.rend());
-  contorno.push_back(sector.base.front());
-  return contorno;
+std::size_t Cuadrante(Punto2 desvio) {
+  if (desvio.y < 0) return desvio.x < 0 ? 0 : 1;
+  return desvio.x < 0 ? 3 : 2;
 }
 
 }  // namespace
 
-double AnguloInicial(double x, double y, int iiTem, bool bCambio) {
+double AnguloInicial(Punto2 desvio, int iiTem, bool bCambio) {
+  const auto [x, y] = desvio;
   const double sx = iiTem <= 2 ? 1 : -1, sy = iiTem == 1 || iiTem == 4 ? 1 : -1, sentido = bCambio ? -1 : 1;
   return sentido * sx * x > 0 && sentido * sy * y > 0 ? 0 : dPi;
 }
@@ -72,34 +53,23 @@ double LejosDeCero(double v) {
   return std::abs(v) < kDesvioMinimo - kIgual ? kDesvioMinimo : v;
 }
 
-void ColocaSector(EWdraw& axew, int c, const std::optional<Sector>& sector, Punto2 ancla) {
-  estado.PoliContorno.clear();
-  const Punto2 sitio =
-      PideSitio(axew, Forma::esquina, c, sector ? Contorno(Mueve(*sector, Punto2{} - ancla)) : std::vector<Punto2>{});
-  if (!sector) return;
-  const Sector colocado = Mueve(*sector, sitio - ancla);
-  DibujaForma(axew, Forma::esquina, c, Contorno(colocado));
-  DibujaDoblados(axew, colocado);
-  if (HayCotas()) GeneraCotaCono(axew, colocado);
-  if (estado.iBox != 0) GeneraCajetinCono(axew, colocado);
-}
-
-void clCono::GeneraPuntos(double Radiobase, double RadioAlto, double Altura, int inumPuntos, double DistCentrox,
-                          double DistCentroy, int iiTem, bool bCambio) {
+void clCono::GeneraPuntos(const Cono& cono) {
+  cono_ = cono;
   dDesBase_ = dDesBoca_ = {};
   dLongBase_.clear();
   tramo_.reset();
+  const auto& [Radiobase, RadioAlto, Altura, inumPuntos, desvio, iiTem, bCambio] = cono_;
   if (Radiobase == RadioAlto) return;
-  const double Xa = std::abs(std::hypot(DistCentrox, DistCentroy) * Radiobase / (RadioAlto - Radiobase));
+  const double Xa = std::abs(std::hypot(desvio.x, desvio.y) * Radiobase / (RadioAlto - Radiobase));
   const double Za = std::abs(Altura * Radiobase / (RadioAlto - Radiobase));
   if (!(Za > 0) || !std::isfinite(Xa + Za)) return;
 
-  const double a0 = AnguloInicial(DistCentrox, DistCentroy, iiTem, bCambio);
+  const double a0 = AnguloInicial(desvio, iiTem, bCambio);
   for (int i = 0; i <= inumPuntos; ++i) {
     const double a = a0 + i * 2 * dPi / inumPuntos;
     dLongBase_.push_back(std::hypot(Za, std::hypot(Xa + Radiobase * std::cos(a), Radiobase * std::sin(a))));
   }
-  if (!DesarrollaBase(Radiobase, Xa, a0, inumPuntos)) {
+  if (!DesarrollaBase(Xa, a0)) {
     dDesBase_ = {};
     return;
   }
@@ -111,7 +81,9 @@ void clCono::GeneraPuntos(double Radiobase, double RadioAlto, double Altura, int
 // By the angles at the apex between neighbouring elements, from the middle outwards. With L and M the lengths of two
 // neighbours and c the chord between them, the angle is 2*asin(sqrt((c^2 - (L - M)^2) / (4*L*M))); L - M comes from
 // L^2 - M^2 = 2*Xa*(px - qx), which loses no digits for near-equal lengths.
-bool clCono::DesarrollaBase(double Rb, double Xa, double a0, int n) {
+bool clCono::DesarrollaBase(double Xa, double a0) {
+  const double Rb = cono_.Radiobase;
+  const int n = cono_.inumPuntos;
   const double paso = 2 * dPi / n, cuerda = 2 * Rb * std::sin(paso / 2);
   dDesBase_ = Puntos2(n + 1);
   const int medio = n / 2 + 1;
@@ -139,9 +111,9 @@ int clCono::CalcPtoInicPtoFin(double s) const {
   return 0;
 }
 
-std::optional<std::array<int, 2>> clCono::EligeTramo(double arco, double Ax, double Ay, int iiTem, bool bCambio) const {
+std::optional<std::array<int, 2>> clCono::EligeTramo(double arco) const {
   const int n = dDesBase_.Cuenta() - 1, medio = n / 2 + 1, k = CalcPtoInicPtoFin(arco);
-  const Reparto tramo = kTramos[bCambio ? 1 : 0][iiTem - 1][Cuadrante(Ax, Ay)];
+  const Reparto tramo = kTramos[cono_.bCambio ? 1 : 0][cono_.iiTem - 1][Cuadrante(cono_.desvio)];
   std::array<int, 2> extremos = Desplazamientos(tramo, k, n / 4);
   for (int& extremo : extremos) {
     extremo += medio;
@@ -155,14 +127,14 @@ std::optional<std::array<int, 2>> clCono::EligeTramo(double arco, double Ax, dou
 // Each element of the span, shortened or lengthened to its true length between the lower mouth and the cut. The real
 // lower rim stays; the other point moves along the element. `alDerecho`: the quarter's points go with the elements in
 // the same order, else the last point with the first element.
-void clCono::CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, bool alDerecho) {
+void clCono::CalculaCorte(const PiezaEspecial& pieza, bool alDerecho) {
   const PlanoCorte plano = PlanoDeCorte(pieza);
   const int n = dDesBase_.Cuenta() - 1, q = n / 4;
   const auto [iHasiera, iBukaera] = *tramo_;
   for (int j = iHasiera, paso = 0; j <= iBukaera && paso <= q; ++j, ++paso) {
-    const Elemento e = ElementoDe(pieza, plano, iiTem, alDerecho ? 1 + paso : q + 1 - paso, n);
-    const Punto2 bajo = bCambio ? dDesBoca_(j) : dDesBase_(j);
-    Punto2& alto = bCambio ? dDesBase_(j) : dDesBoca_(j);
+    const Elemento e = ElementoDe(pieza, plano, cono_.iiTem, alDerecho ? 1 + paso : q + 1 - paso, n);
+    const Punto2 bajo = cono_.bCambio ? dDesBoca_(j) : dDesBase_(j);
+    Punto2& alto = cono_.bCambio ? dDesBase_(j) : dDesBoca_(j);
     const double largo = Distancia(bajo, alto);
     if (largo > 0) alto = bajo + Distancia(e.bajo, e.corte) / largo * (alto - bajo);
   }
@@ -170,7 +142,8 @@ void clCono::CalculaCorte(const PiezaEspecial& pieza, int iiTem, bool bCambio, b
 
 // The development's apex is its origin.
 Sector clCono::SectorDelTramo() const {
-  Sector sector{{}, {}, Punto2{}};
+  Sector sector;
+  sector.vertice = Punto2{};
   const auto [iHasiera, iBukaera] = *tramo_;
   for (int i = iHasiera; i <= iBukaera; ++i) {
     sector.base.push_back(dDesBase_(i));
@@ -179,17 +152,22 @@ Sector clCono::SectorDelTramo() const {
   return sector;
 }
 
-void clCono::GeneraDesarrollo1(EWdraw& axew, const PiezaEspecial& pieza, double Ax, double Ay, int inumPuntos,
-                               int iiTem, bool bCambio) {
+std::optional<Sector> clCono::GeneraDesarrollo1(const PiezaEspecial& pieza) {
+  const auto& [Radiobase, RadioAlto, Altura, inumPuntos, desvio, iiTem, bCambio] = cono_;
   if (dDesBase_.Cuenta() == inumPuntos + 1) {
-    const double psi = std::atan2(std::abs(Ay), std::abs(Ax));
-    tramo_ = EligeTramo(psi * (bCambio ? pieza.r1(iiTem) : pieza.r2(iiTem)), Ax, Ay, iiTem, bCambio);
+    const double psi = std::atan2(std::abs(desvio.y), std::abs(desvio.x));
+    tramo_ = EligeTramo(psi * (bCambio ? pieza.r1(iiTem) : pieza.r2(iiTem)));
   }
-  if (!tramo_) return ColocaSector(axew, iiTem, std::nullopt, {});
-  // The pick is where element 1 of the uncut cone would end.
+  if (!tramo_) return std::nullopt;
+  // What is placed is where element 1 of the uncut cone would end.
   const Punto2 ancla = dDesBoca_(1);
-  CalculaCorte(pieza, iiTem, bCambio, bCambio && !(iiTem == 1 && Ax < 0 && Ay < 0));
-  ColocaSector(axew, iiTem, SectorDelTramo(), ancla);
+  const bool alDerecho = bCambio && !(iiTem == 1 && desvio.x < 0 && desvio.y < 0);
+  CalculaCorte(pieza, alDerecho);
+  Sector sector = SectorDelTramo();
+  sector.ancla = ancla;
+  sector.bCambio = bCambio;
+  sector.alDerecho = alDerecho;
+  return sector;
 }
 
 }  // namespace duktores

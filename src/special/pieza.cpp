@@ -3,59 +3,34 @@
 #include <cmath>
 
 #include "geometry/rotacion.h"
-#include "state/estado.h"
 
 namespace duktores {
 
-PiezaEspecial MedidasDeEstado() {
-  const EstadoPrograma& e = estado;
-  return {Cuatro(e.dR11, e.dR12, e.dR13, e.dR14),
-          Cuatro(e.dR21, e.dR22, e.dR23, e.dR24),
-          e.dLX1,
-          e.dLY1,
-          e.dLX2,
-          e.dLY2,
-          e.dAltura,
-          e.dAx,
-          e.dAy,
-          e.dAlfa,
-          e.dBeta};
-}
+PiezaEspecial ComoEspecial(const Pieza& pieza) { return ComoEspecial(pieza, pieza.corregidas); }
 
-PiezaEspecial PiezaDeEstado() {
-  const EstadoPrograma& e = estado;
-  PiezaEspecial pieza = MedidasDeEstado();
-  const double mitad = e.dLY2 / 2;
-  if (e.sTipoPieza == "TransEsp2" || e.sTipoPieza == "TransEsp3") {
-    pieza.r1 = Cuatro(e.dRadioEsp);
-    pieza.r2 = e.sTipoPieza == "TransEsp2" ? Cuatro(mitad) : Cuatro(0, 0, mitad, mitad);
-    pieza.LX1 = pieza.LY1 = 2 * e.dRadioEsp;
-  } else if (e.sTipoPieza == "TransEsp4") {
-    pieza.r1 = Cuatro(e.dR11);
-    pieza.LX1 = pieza.LY1 = 2 * e.dR11;
-  } else if (e.sTipoPieza == "TransEsp5") {
-    pieza.r2 = Cuatro(0.005);
-  }
-  return pieza;
+PiezaEspecial ComoEspecial(const Pieza& pieza, const Bocas& bocas) {
+  return {bocas, pieza.H, pieza.AX, pieza.AY, pieza.Alfa, pieza.Beta};
 }
 
 EsquinaEspecial Esquina(const PiezaEspecial& pieza, int c) {
   const double sx = c <= 2 ? -1 : 1, sy = c == 2 || c == 3 ? 1 : -1;
   const double rb = pieza.r2(c), rt = pieza.r1(c);
+  const auto& [arriba, abajo] = pieza.bocas;
   return {3 * dPi / 2 - (c - 1) * dPi / 2,
-          {sx * (pieza.LX2 / 2 - rb), sy * (pieza.LY2 / 2 - rb), 0},
-          {pieza.AX + sx * (pieza.LX1 / 2 - rt), pieza.AY + sy * (pieza.LY1 / 2 - rt), pieza.H}};
+          {sx * (abajo.LX / 2 - rb), sy * (abajo.LY / 2 - rb), 0},
+          {pieza.AX + sx * (arriba.LX / 2 - rt), pieza.AY + sy * (arriba.LY / 2 - rt), pieza.H}};
 }
 
 PlanoCorte PlanoDeCorte(const PiezaEspecial& pieza) {
   // The shop's drawings stand on this value of pi.
   constexpr double kPiCorto = 3.141592;
   const double A = Grados(pieza.Alfa * kPiCorto / 180), B = Grados(pieza.Beta * kPiCorto / 180);
-  const double oeste = pieza.AX - pieza.LX1 / 2, este = pieza.AX + pieza.LX1 / 2;
-  const double norte = pieza.AY + pieza.LY1 / 2, sur = pieza.AY - pieza.LY1 / 2;
+  const Boca& boca = pieza.bocas.arriba;
+  const double oeste = pieza.AX - boca.LX / 2, este = pieza.AX + boca.LX / 2;
+  const double norte = pieza.AY + boca.LY / 2, sur = pieza.AY - boca.LY / 2;
   const auto inclina = [&](double x, double y) {
-    const Punto3 p = Rota({x, y, pieza.H}, {oeste, pieza.AY, pieza.H}, {0, 1, 0}, -A);
-    return Rota(p, {pieza.AX, norte, pieza.H}, {1, 0, 0}, -B);
+    const Punto3 p = Rota({x, y, pieza.H}, {oeste, pieza.AY, pieza.H}, {0, 1, 0}, A);
+    return Rota(p, {pieza.AX, norte, pieza.H}, {1, 0, 0}, B);
   };
   // The 2 keeps the third point off the line through the others, whatever the sides.
   const Punto3 P = inclina(oeste, norte), u = inclina(este, norte) - P, v = inclina(este + 2, sur) - P;
@@ -77,6 +52,17 @@ Elemento ElementoDe(const PiezaEspecial& pieza, const PlanoCorte& plano, int c, 
   const Punto3 hacia{std::cos(a), std::sin(a), 0};
   const Punto3 Q = esquina.bajo + pieza.r2(c) * hacia, T = esquina.alto + pieza.r1(c) * hacia;
   return {Q, PuntoDeCorte(plano, Q, T)};
+}
+
+bool CompruebaValido(const PiezaEspecial& pieza, int n) {
+  constexpr double kBajoCero = -1e-9;
+  const PlanoCorte plano = PlanoDeCorte(pieza);
+  for (int c = 1; c <= 4; ++c) {
+    for (int p = 1; p <= n / 4 + 1; ++p) {
+      if (ElementoDe(pieza, plano, c, p, n).corte.z < kBajoCero) return false;
+    }
+  }
+  return true;
 }
 
 }  // namespace duktores

@@ -1,72 +1,68 @@
 #include "special/rectangulo.h"
 
-#include <algorithm>
-#include <string>
+#include <cmath>
+#include <utility>
 
-#include "dxf/anotacion.h"
-#include "geometry/planas.h"
-#include "special/coloca.h"
-#include "state/estado.h"
+#include "piece/numeros_texto.h"
 
 namespace duktores {
 
 namespace {
 
 // The exact panel lies in its own plane: along the upper edge, or along the lower one where the upper is a point.
-std::array<Punto2, 4> AplanaExacto(const Lado& lado, Punto2 A) {
+std::array<Punto2, 4> AplanaExacto(const Lado& lado) {
   const Punto3 P11 = lado[0], P12 = lado[1], P21 = lado[2], P22 = lado[3];
   const bool conBoca = Distancia(P11, P12) > 1e-9;
   const Punto3 borde = conBoca ? P12 - P11 : P21 - P22, u = (1 / Norma(borde)) * borde;
   const auto aparte = [&](Punto3 P) { return P - P11 - Escalar(P - P11, u) * u; };
   const Punto3 abajo = Norma(aparte(P21)) > Norma(aparte(P22)) ? aparte(P21) : aparte(P22);
   const Punto3 v = (1 / Norma(abajo)) * abajo;
-  const auto plano = [&](Punto3 P) { return A - Punto2{Escalar(P - P11, u), Escalar(P - P11, v)}; };
-  return {A, plano(P12), plano(P21), plano(P22)};
+  const auto plano = [&](Punto3 P) { return Punto2{} - Punto2{Escalar(P - P11, u), Escalar(P - P11, v)}; };
+  return {Punto2{}, plano(P12), plano(P21), plano(P22)};
 }
-
-std::array<Punto2, 4> Aplana(const Lado& lado, Punto2 A) {
-  if (estado.iExacto != 0) return AplanaExacto(lado, A);
-  const auto& [P11, P12, P21, P22] = lado;
-  const Punto2 B = A - Punto2{Distancia(P11, P12), 0};
-  const auto bajas = InterseccionCirculos(B, Distancia(P12, P21), A, Distancia(P11, P21));
-  const Punto2 C = bajas.A.y < bajas.B.y ? bajas.A : bajas.B;
-  const auto laterales = InterseccionCirculos(C, Distancia(P21, P22), A, Distancia(P11, P22));
-  const Punto2 D = laterales.A.x > laterales.B.x ? laterales.A : laterales.B;
-  return {A, B, C, D};
-}
-
-std::vector<Punto2> Contorno(const std::array<Punto2, 4>& p) { return {p[0], p[1], p[2], p[3], p[0]}; }
 
 }  // namespace
 
-void clRectangulo::GeneraDesarrollo(EWdraw& axew, const Lado& lado, int numero) {
-  estado.PoliContorno.clear();
-  const Punto2 sitio = PideSitio(axew, Forma::lado, numero, Contorno(Aplana(lado, {})));
-  dPuntosPieza_ = Aplana(lado, sitio);
-  DibujaForma(axew, Forma::lado, numero, Contorno(dPuntosPieza_));
-  DibujaNumerosLados(axew);
+Lado LadoCortado(const PiezaEspecial& pieza, const PlanoCorte& plano, int c) {
+  const auto& [arriba, abajo] = pieza.bocas;
+  const auto extremo = [&](int esquina, double angulo) {
+    const auto [a0, Q0, T0] = Esquina(pieza, esquina);
+    const double hx = std::nearbyint(std::cos(angulo)), hy = std::nearbyint(std::sin(angulo));
+    const Punto3 Q{hx == 0 ? Q0.x : hx * abajo.LX / 2, hy == 0 ? Q0.y : hy * abajo.LY / 2, Q0.z};
+    const Punto3 T{hx == 0 ? T0.x : pieza.AX + hx * arriba.LX / 2, hy == 0 ? T0.y : pieza.AY + hy * arriba.LY / 2,
+                   T0.z};
+    return std::pair(Q, PuntoDeCorte(plano, Q, T));
+  };
+  // Both ends stand square on the side: a corner ends, and the next begins, at the angle of the side's outward normal.
+  const double normal = Esquina(pieza, c).a0 - dPi / 2;
+  const auto [P22, P11] = extremo(c, normal);
+  const auto [P21, P12] = extremo(Siguiente(c), normal);
+  return {P11, P12, P21, P22};
 }
 
-void clRectangulo::DibujaNumerosLados(EWdraw& axew) const {
-  const auto& [A, B, C, D] = dPuntosPieza_;
-  const Punto2 medios[]{PuntoMedio(A, D), PuntoMedio(B, C), PuntoMedio(C, D), PuntoMedio(A, B)};
-  for (int i = 0; i < 4; ++i) {
-    std::string numero = std::to_string(i + 1);
-    DibujaTexto(axew, medios[i].x + 1, medios[i].y, numero, estado.dTamanoTexto, kColorNumero, 0);
+FormaPatron FormaLado(const Lado& lado, int c, Regla regla, const Solido& solido, const OrdenEspecial& orden) {
+  enum { A, B, C, D };
+  FormaPatron f;
+  f.nombre = {Forma::lado, c};
+  f.aviso = texto::kColocarPieza;
+  f.rotulo = texto::kLado;
+  if (regla == Regla::usual) f.panel = lado;
+  const auto p = f.panel ? TiendePanel(lado, {}) : AplanaExacto(lado);
+  // The border towards the corner before lies at the right.
+  const int puntos[]{orden.Punto(c, orden.q, true), orden.Punto(Siguiente(c), 0, true),
+                     orden.Punto(Siguiente(c), 0, false), orden.Punto(c, orden.q, false)};
+  for (const int i : {A, B, C, D, A}) f.contorno.push_back({p[static_cast<std::size_t>(i)], puntos[i]});
+  for (const auto& [i, j] : {std::pair(A, D), {B, C}, {C, D}, {A, B}}) {
+    f.lineas.push_back({f.En(i), f.En(j), Clase::borde, i, j});
   }
-}
-
-void clRectangulo::GeneraCota(EWdraw& axew) const {
-  const auto& [A, B, C, D] = dPuntosPieza_;
-  const double dx = estado.dPasoTablaX, dy = estado.dPasoTablaY;
-  const double izquierda = std::min(B.x, C.x), abajo = std::min(C.y, D.y), derecha = std::max(A.x, D.x);
-  Acota(axew, {A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
-  Acota(axew, {izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
-  B.x > C.x + kNivel ? Extiende(axew, B, {C.x, B.y}) : Extiende(axew, {B.x, C.y}, C);
-  Acota(axew, {C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
-  C.y > D.y + kNivel ? Extiende(axew, C, {C.x, D.y}) : Extiende(axew, {D.x, C.y}, D);
-  Acota(axew, {derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
-  A.x > D.x + kNivel ? Extiende(axew, {A.x, D.y}, D) : Extiende(axew, A, {D.x, A.y});
+  // Where the cut passes below the base the panel lies upside down.
+  const auto bajoCero = [&](int i) { return solido.puntos[static_cast<std::size_t>(puntos[i])].z < 0; };
+  f.facetas = {{bajoCero(A) ? std::array<int, 3>{A, D, C} : std::array<int, 3>{A, C, D}, orden.Lado(c)},
+               {bajoCero(B) ? std::array<int, 3>{A, C, B} : std::array<int, 3>{A, B, C}, orden.Lado(c)}};
+  f.antes = {D, A};
+  f.despues = {C, B};
+  f.cotas = CotasPanel{};
+  return f;
 }
 
 }  // namespace duktores

@@ -28,7 +28,7 @@ class ConoEntero {
     Punto3 D = esquina_.bajo - esquina_.alto;
     const double x = LejosDeCero(D.x), y = LejosDeCero(D.y);
     if (std::hypot(D.x, D.y) < kIgual) D = {x, y, 0};  // a right cone has no direction of its own
-    medio_ = std::atan2(sentido_ * D.y, sentido_ * D.x) + AnguloInicial(x, y, c, bCambio) + dPi;
+    medio_ = std::atan2(sentido_ * D.y, sentido_ * D.x) + AnguloInicial({x, y}, c, bCambio) + dPi;
   }
 
   Recta En(double delta) const {
@@ -93,13 +93,13 @@ struct Rodillo {
 
 }  // namespace
 
-SectorAnclado SectorExacto(const PiezaEspecial& pieza, int c, int n, bool bCambio) {
+Sector SectorExacto(const PiezaEspecial& pieza, int c, int n, bool bCambio) {
   const ConoEntero cono(pieza, c, bCambio);
   const PlanoCorte plano = PlanoDeCorte(pieza);
   const double paso = 2 * dPi / n, inicio = cono.Inicio();
   const int q = n / 4;
-  SectorAnclado resultado;
-  Sector& sector = resultado.sector;
+  Sector sector;
+  sector.bCambio = sector.alDerecho = bCambio;
   sector.base.resize(static_cast<std::size_t>(q) + 1);
   sector.boca = sector.base;
 
@@ -128,10 +128,10 @@ SectorAnclado SectorExacto(const PiezaEspecial& pieza, int c, int n, bool bCambi
   for (int i = cercano - 1; i >= 0; --i) pon(izquierda, i);
 
   costura.Lleva(-dPi, paso);
-  resultado.ancla = costura.boca;
+  sector.ancla = costura.boca;
   const double vertice = cono.Vertice();
   if (std::isfinite(vertice)) sector.vertice = vertice * Rodillo{cono}.boca;
-  return resultado;
+  return sector;
 }
 
 }  // namespace duktores

@@ -5,17 +5,11 @@
 // On the sheet the wider rim lies at the bottom, with the outer side up. The element that stands straight and the
 // anchor are those of the usual development.
 
-#include "special/anotacion_cono.h"
-#include "special/pieza.h"
+#include "special/sector.h"
 
 namespace duktores {
 
-struct SectorAnclado {
-  Sector sector;
-  Punto2 ancla;  ///< the point of the sector's frame that the pick places
-};
-
 /// Corner `c` of `pieza` in n steps round the circle; `bCambio`: the wider rim is the upper one.
-SectorAnclado SectorExacto(const PiezaEspecial& pieza, int c, int n, bool bCambio);
+Sector SectorExacto(const PiezaEspecial& pieza, int c, int n, bool bCambio);
 
 }  // namespace duktores

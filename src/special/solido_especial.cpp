@@ -1,76 +1,71 @@
-#include "special/solido_especial.h"
+#include <utility>
 
-#include <cstdint>
-#include <vector>
-
-#include "state/textos.h"
+#include "special/especial.h"
+#include "special/orden.h"
 
 namespace duktores {
 
 namespace {
 
-constexpr int kPasosPorDivision = 36;
+// From left to right seen from outside: against the order of the elements.
+Cara Tira(const OrdenEspecial& orden, int c, int tira) {
+  Cara cara{{Forma::esquina, c}, {}, {}};
+  const int desde = (tira + 1) * kPasosPorDivision;
+  for (int p = desde; p >= desde - kPasosPorDivision; --p) {
+    cara.bajo.push_back(orden.Punto(c, p, false));
+    cara.alto.push_back(orden.Punto(c, p, true));
+  }
+  return cara;
+}
 
-struct Borde {
-  std::vector<Elemento> elementos;
-  const Elemento& Primero() const { return elementos.front(); }
-  const Elemento& Ultimo() const { return elementos.back(); }
-};
+Cara Panel(const OrdenEspecial& orden, int c) {
+  const auto canto = [&](bool corte) {
+    return std::vector{orden.Punto(Siguiente(c), 0, corte), orden.Punto(c, orden.q, corte)};
+  };
+  return {{Forma::lado, c}, canto(false), canto(true)};
+}
+
+// The rims of a corner, and the lines across it where it is marked.
+void PonAlambre(Solido& solido, const OrdenEspecial& orden, int c) {
+  for (const bool corte : {false, true}) {
+    auto& orilla = solido.alambre.emplace_back();
+    for (int p = 0; p <= orden.q; ++p) orilla.push_back(orden.Punto(c, p, corte));
+  }
+  for (int p = 0; p <= orden.q; p += kPasosPorDivision) {
+    solido.alambre.push_back({orden.Punto(c, p, false), orden.Punto(c, p, true)});
+  }
+}
 
 // A side that the arcs take whole has no length but that of its rounding.
-void DibujaLado(EWdraw& axew, Punto3 p, Punto3 q) {
+void PonLado(Solido& solido, int p, int q) {
   constexpr double kIgual = 1e-9;
-  if (Distancia(p, q) > kIgual) axew.EwSetColor(axew.EwAddLine(p, q), kColorSolido);
-}
-
-void DibujaRim(EWdraw& axew, const Borde& borde, Punto3 Elemento::*punto) {
-  axew.EwBeginPolyline3D();
-  for (const Elemento& e : borde.elementos) axew.EwAddVertex3D((e.*punto).x, (e.*punto).y, (e.*punto).z);
-  axew.EwSetColor(axew.EwEndPolyline3D(false), kColorSolido);
-}
-
-Borde DibujaEsquina(EWdraw& axew, const PiezaEspecial& pieza, const PlanoCorte& plano, int c, int n) {
-  Borde borde;
-  for (int p = 1; p <= n / 4 + 1; ++p) borde.elementos.push_back(ElementoDe(pieza, plano, c, p, n));
-  DibujaRim(axew, borde, &Elemento::bajo);
-  DibujaRim(axew, borde, &Elemento::corte);
-  for (std::size_t k = 0; k < borde.elementos.size(); ++k) {
-    const bool extremo = k + 1 == borde.elementos.size();
-    const Elemento& e = borde.elementos[k];
-    if (extremo || k % kPasosPorDivision == 0) axew.EwSetColor(axew.EwAddLine(e.bajo, e.corte), kColorSolido);
-  }
-  return borde;
+  const auto en = [&](int i) { return solido.puntos[static_cast<std::size_t>(i)]; };
+  if (Distancia(en(p), en(q)) > kIgual) solido.alambre.push_back({p, q});
 }
 
 }  // namespace
 
-void GeneraDibujo3D(const PiezaEspecial& pieza, int divisiones, EWdraw& axew) {
-  CursorEspera(true);
-  axew.EwClear();
-  const PlanoCorte plano = PlanoDeCorte(pieza);
-  std::array<Borde, 4> bordes;
+Solido GeneraDibujo3D(const Pieza& pieza) {
+  const PiezaEspecial especial = ComoEspecial(pieza);
+  const PlanoCorte plano = PlanoDeCorte(especial);
+  const OrdenEspecial orden(pieza.divisiones);
+  Solido solido;
+  solido.puntos.reserve(static_cast<std::size_t>(8 * (orden.q + 1)));
   for (int c = 1; c <= 4; ++c) {
-    bordes[static_cast<std::size_t>(c - 1)] = DibujaEsquina(axew, pieza, plano, c, kPasosPorDivision * divisiones);
+    for (int p = 1; p <= orden.q + 1; ++p) {
+      const auto [bajo, corte] = ElementoDe(especial, plano, c, p, orden.n);
+      solido.puntos.insert(solido.puntos.end(), {bajo, corte});
+    }
+    for (int tira = 0; tira < orden.m; ++tira) solido.caras.push_back(Tira(orden, c, tira));
+    solido.caras.push_back(Panel(orden, c));
+    PonAlambre(solido, orden, c);
   }
-  for (const auto punto : {&Elemento::corte, &Elemento::bajo}) {
+  for (const bool corte : {true, false}) {
     for (const int c : {2, 3, 4, 1}) {
-      const Borde& de = bordes[static_cast<std::size_t>(c - 1)];
-      const Borde& a = bordes[static_cast<std::size_t>(Siguiente(c) - 1)];
-      DibujaLado(axew, de.Ultimo().*punto, a.Primero().*punto);
+      PonLado(solido, orden.Punto(c, orden.q, corte), orden.Punto(Siguiente(c), 0, corte));
     }
   }
-  CursorEspera(false);
-}
-
-bool CompruebaValido(const PiezaEspecial& pieza, int n) {
-  constexpr double kBajoCero = -1e-9;
-  const PlanoCorte plano = PlanoDeCorte(pieza);
-  for (int c = 1; c <= 4; ++c) {
-    for (int p = 1; p <= n / 4 + 1; ++p) {
-      if (ElementoDe(pieza, plano, c, p, n).corte.z < kBajoCero) return false;
-    }
-  }
-  return true;
+  return solido;
 }
 
 }  // namespace duktores

@@ -17,11 +17,4 @@ class ErrorCorrida : public std::runtime_error {
   int numeroTexto_;
 };
 
-inline constexpr int kTextoNoGuardado = 80;       ///< the file could not be saved
-inline constexpr int kTextoPlantilla = 81;        ///< the template is missing or unusable
-inline constexpr int kTextoDemasiadas = 82;       ///< run ended early: no handle left
-inline constexpr int kTextoMedidaImposible = 83;  ///< run ended early: a coordinate is no number
-inline constexpr int kTextoIncompleto = 120;      ///< run ended early, whatever the reason
-inline constexpr int kTextoConfiguracion = 121;   ///< the configuration can't be used
-
 }  // namespace duktores

@@ -5,25 +5,18 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "geometry/puntos.h"
+#include "piece/pieza.h"
 #include "platform/plataforma.h"
 
 namespace duktores {
 
 class cDrawing;
 class cDXF;
-
-/// A shape of a pattern that has been drawn: what it is, its number, and its outline's id on the control. The pattern
-/// of a transition is `entera`, or `mitad` 1 and 2.
-enum class Forma { entera, mitad, esquina, lado };
-struct FormaDibujada {
-  Forma forma;
-  int numero;
-  std::int32_t id;
-};
 
 struct EstadoPrograma {
   // Places and host, set at start-up. Paths of folders end in a separator.
@@ -47,6 +40,9 @@ struct EstadoPrograma {
   std::int16_t iBox = 0;          ///< any value but 0 switches the title block on
   std::int16_t iExacto = 0;       ///< any value but 0: patterns of exact lengths instead of the usual rules
   double dPasoTablaX = 60.0, dPasoTablaY = 30.0;  ///< spacing of the drawn dimensions, in drawing units
+
+  /// The piece that a dialog has accepted last; all that follows names its values one by one.
+  std::optional<Pieza> pieza;
 
   // Piece, set by the catalogue, the dialogs and the run driver.
   std::string sTipoPieza;  ///< piece type key
@@ -74,9 +70,8 @@ struct EstadoPrograma {
   // The current run.
   std::shared_ptr<cDrawing> oDrawing;
   std::shared_ptr<cDXF> oDXF;
-  std::vector<Punto2> PoliContorno;   ///< the outline being built
-  std::vector<FormaDibujada> Formas;  ///< in the order in which they were drawn
-  std::int32_t iHandleDxf = 0;        ///< DXF handle of the next entity, 500 at the start of a run; none above 32767
+  std::vector<Punto2> PoliContorno;  ///< the outline being built
+  std::int32_t iHandleDxf = 0;       ///< DXF handle of the next entity, 500 at the start of a run; none above 32767
   double ExtMinX = 0, ExtMinY = 0, ExtMinZ = 0, ExtMaxX = 0, ExtMaxY = 0, ExtMaxZ = 0;  ///< extent of the last save
 
   Plataforma* plataforma = nullptr;  ///< not owned; null is a world in which nothing happens

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/campo_texto.h"
@@ -29,13 +30,17 @@ QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), stati
 
 }  // namespace
 
-FrDialogo::FrDialogo(const DefDialogo& def, std::string_view imagen, QWidget* padre)
-    : QDialog(padre), dialogo_(def), columnas_(Columnas(def)), proporcion_(*this, Diseno(def)) {
+FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
+    : QDialog(padre),
+      dialogo_(fila.dialogo),
+      columnas_(Columnas(fila.dialogo)),
+      proporcion_(*this, Diseno(fila.dialogo)) {
+  const DefDialogo& def = fila.dialogo;
   setObjectName(Q(def.nombre));
   setWindowTitle(dialogo_.Titulo() ? Q(*dialogo_.Titulo()) : Q("duktores"));
   auto* image1 = new Imagen(this);
   image1->setObjectName("Image1");
-  image1->Carga(imagen);
+  image1->Carga(fila.imagen);
   proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
   Campos();
   Pie(Diseno(def).height() - kAltoPie);
@@ -54,8 +59,8 @@ void FrDialogo::Campos() {
   }
   if (!dialogo_.Definicion().opcionPiezas) return;
   const int x = 2 * kMargen + kAnchoImagen, y = kMargen + filas * kAltoFila;
-  auto* una = new QRadioButton(Q(Texto(13)), this);
-  auto* dos = new QRadioButton(Q(Texto(14)), this);
+  auto* una = new QRadioButton(Q(Texto(texto::kUnaPieza)), this);
+  auto* dos = new QRadioButton(Q(Texto(texto::kDosPiezas)), this);
   una->setObjectName("OpUnapieza");
   dos->setObjectName("OpDosPiezas");
   dos->setChecked(dialogo_.dosPiezas);
@@ -94,8 +99,8 @@ void FrDialogo::Pie(int y) {
   proporcion_.Coloca(*lblerror_, {kMargen, y, kAnchoImagen, kAltoBoton});
 
   const bool chino = estado.dIdioma == kChino;
-  auto* aceptar = new QPushButton(Q(Texto(17)), this);
-  auto* cancelar = new QPushButton(Q(Texto(18)), this);
+  auto* aceptar = new QPushButton(Q(Texto(texto::kAceptar)), this);
+  auto* cancelar = new QPushButton(Q(Texto(texto::kCancelar)), this);
   PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
   PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
   aceptar->setDefault(true);

@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <vector>
 
-#include "dialogs/dialogo.h"
+#include "shell/lista.h"
 #include "windows/proporcion.h"
 
 namespace duktores {
@@ -16,7 +16,7 @@ class Imagen;
 class FrDialogo : public QDialog {
   Q_OBJECT
  public:
-  FrDialogo(const DefDialogo& def, std::string_view imagen, QWidget* padre);
+  FrDialogo(const FilaPieza& fila, QWidget* padre);
 
  protected:
   void showEvent(QShowEvent* suceso) override;

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include "dialogs/dialogo.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/fr_dialogo.h"
@@ -28,12 +28,12 @@ FrListaDuktores::FrListaDuktores()
   LstDuktores_->setObjectName("LstDuktores");
   LblGeneral_->setObjectName("LblGeneral");
   PicDuktores_->setObjectName("PicDuktores");
-  auto* continuar = new QPushButton(QString::fromStdString(Texto(1)), this);
-  auto* salir = new QPushButton(QString::fromStdString(Texto(2)), this);
+  auto* continuar = new QPushButton(QString::fromStdString(Texto(texto::kContinuar)), this);
+  auto* salir = new QPushButton(QString::fromStdString(Texto(texto::kSalir)), this);
   const bool chino = estado.dIdioma == kChino;
   PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
   PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
-  setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(3)));
+  setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
 
   QFont negrita = font();
   negrita.setBold(true);
@@ -82,9 +82,8 @@ void FrListaDuktores::Activa() {
 
 void FrListaDuktores::CmdContinuar() {
   estado.sTipoPieza = TextoFila(Fila());
-  const DefDialogo* def = VentanaDe(Fila().dialogo);
-  if (!def) return;
-  FrDialogo(*def, Fila().imagen, this).exec();
+  if (!Fila().pieza) return;
+  FrDialogo(FilaDe(*Fila().pieza), this).exec();
   if (!isVisible()) return;  // the program is ending
   TraeAlFrente(*this);
   Activa();

@@ -8,10 +8,10 @@
 #include <QShortcut>
 #include <array>
 
-#include "check/comprueba.h"
 #include "dxf/dibujo.h"
+#include "piece/numeros_texto.h"
+#include "shell/veredicto.h"
 #include "shell/visor.h"
-#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/iconos.h"
@@ -37,8 +37,6 @@ constexpr std::array kZoom{
     BotonZoom{"CmdZoomAll", 97, MandoVista::zoomAll, &EWdraw::EwZoomAll},
     BotonZoom{"CmdZoomwindow", 98, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
-constexpr int kTextoElige = 102, kTextoReemplazar = 105;
-
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
@@ -46,7 +44,7 @@ QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 FrmViewUnfold::FrmViewUnfold(QWidget* padre)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
-      solido_(SolidoActual()),
+      solido_(SolidoDe(estado.pieza.value())),
       lienzo_(new Lienzo(EWdraw_, this)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
@@ -64,7 +62,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
 
   EWdraw_.EwInicia(true);
-  Dibuja3D(EWdraw_);
+  DibujaSolido(EWdraw_, solido_);
   CmdSave_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
 }
@@ -131,9 +129,9 @@ void FrmViewUnfold::CmdDesplegado() {
   FrmView_->setEnabled(false);
   FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
-  const FinCorrida fin = Desplegado(EWdraw_);
+  const Corrida corrida = Desplegado(EWdraw_);
   if (!vivo) return;
-  MuestraVeredicto(fin);
+  MuestraVeredicto(corrida);
   CmdDesplegado_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
 }
@@ -146,7 +144,8 @@ void FrmViewUnfold::CmdSave() {
     const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
     // The dialog has asked about the name as it was typed.
     const bool otro = final != elegido && QFileInfo::exists(final);
-    if (otro && QMessageBox::question(this, {}, Q(Texto(kTextoReemplazar)) + " " + final) != QMessageBox::Yes) continue;
+    if (otro && QMessageBox::question(this, {}, Q(Texto(texto::kReemplazar)) + " " + final) != QMessageBox::Yes)
+      continue;
     GuardaDibujo(final.toStdString());
     return;
   }
@@ -164,20 +163,20 @@ void FrmViewUnfold::MuestraEleccion(bool empieza) {
 void FrmViewUnfold::MuestraPunto(QPointF punto) {
   const int decimales = estado.iUnidad == 1 ? 2 : 3;
   const std::string& rotulo = EWdraw_.RotuloFantasma();
-  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(kTextoElige)) +
+  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(texto::kElige)) +
                       QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
 }
 
 // A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
-void FrmViewUnfold::MuestraVeredicto(FinCorrida fin) {
-  const bool completo = fin == FinCorrida::completo;
-  const Veredicto veredicto = completo ? Comprueba(solido_, EWdraw_) : Veredicto();
-  const QString texto = Q(completo ? TextoVeredicto(veredicto) : Texto(kTextoIncompleto));
+void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
+  const bool completo = corrida.fin == FinCorrida::completo;
+  const Veredicto veredicto = completo ? Juzga(solido_, corrida.hoja) : Veredicto();
+  const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
   if (!completo || !veredicto.Cierto())
     LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
-  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(texto, Qt::ElideRight, LblEstado_->width()));
-  LblEstado_->setToolTip(texto);
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
+  LblEstado_->setToolTip(linea);
 }
 
 void FrmViewUnfold::done(int resultado) {

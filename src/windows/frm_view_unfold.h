@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "check/solido_mostrado.h"
 #include "shell/corrida.h"
 #include "viewer/ewdraw.h"
 #include "windows/lienzo.h"
@@ -17,7 +16,7 @@ namespace duktores {
 class FrmViewUnfold : public QDialog {
   Q_OBJECT
  public:
-  /// Draws the solid of the piece in `estado`.
+  /// Draws the solid of the accepted piece.
   explicit FrmViewUnfold(QWidget* padre);
   ~FrmViewUnfold() override;
 
@@ -36,10 +35,10 @@ class FrmViewUnfold : public QDialog {
   void CmdSave();
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
-  void MuestraVeredicto(FinCorrida fin);
+  void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;
-  const Solido solido_;  // as it is shown: each unfolding changes the piece in `estado`
+  const Solido solido_;
   EWdraw EWdraw_;
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;

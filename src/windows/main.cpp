@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
+#include "piece/numeros_texto.h"
 #include "state/arranque.h"
-#include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/fr_lista_duktores.h"
@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
   TraeAlFrente(lista);
   CursorEspera(false);
   if (!ConfiguracionSirve())
-    MuestraMensaje(Texto(kTextoConfiguracion) + " " + estado.sRutaIni, EstiloMensaje::exclamacion, "");
+    MuestraMensaje(Texto(texto::kConfiguracion) + " " + estado.sRutaIni, EstiloMensaje::exclamacion, "");
   const int salida = QApplication::exec();
   plataforma.PonPrincipal(nullptr);
   estado.plataforma = nullptr;

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <memory>
 
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/ventanas.h"
@@ -68,7 +69,7 @@ void PlataformaQt::VentanaMensaje(std::string_view texto) {
   lblmsgbox->setText(Q(texto));
   lblmsgbox->setMinimumWidth(360);
   lblmsgbox->setObjectName("lblmsgbox");
-  auto* aceptar = new QPushButton(Q(Texto(17)));
+  auto* aceptar = new QPushButton(Q(Texto(texto::kAceptar)));
   aceptar->setObjectName("CmdAceptar");
   auto* columna = new QVBoxLayout(&ventana);
   columna->addWidget(lblmsgbox);

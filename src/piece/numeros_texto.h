@@ -1,0 +1,41 @@
+#pragma once
+// The numbers of the texts that reach a user, by name. The texts themselves, in seven languages, are state/textos.h's.
+
+namespace duktores::texto {
+
+inline constexpr int kContinuar = 1, kSalir = 2, kDuktores = 3;
+inline constexpr int kUnaPieza = 13, kDosPiezas = 14, kFaltanDatos = 15, kAceptar = 17, kCancelar = 18;
+inline constexpr int kDivisiones = 19, kDatoErroneo = 20, kDatoErroneoEsp3 = 40, kGrados = 66;
+inline constexpr int kAlfaChino = 67, kBetaChino = 68;
+
+// The names of the pieces, which are their dialogs' titles too, and of their groups.
+inline constexpr int kTransCR = 11, kTransRC = 12, kTransElip = 50;
+inline constexpr int kTransEsp1 = 42, kTransEsp2 = 43, kTransEsp3 = 44, kTransEsp4 = 45, kTransEsp5 = 46;
+inline constexpr int kGrupoEspeciales = 41, kEspeciales = 47, kGrupoElipticas = 49;
+
+// The title block.
+inline constexpr int kFibraMedia = 21, kFibraInterior = 22, kFibraExterior = 23;
+inline constexpr int kFibra = 24, kEspesor = 25, kDenominacion = 26, kPosicionInicio = 27;
+inline constexpr int kDensidad = 28, kPerimetro = 29, kAreaPieza = 30, kAreaRectangulo = 31, kPesoPieza = 32;
+inline constexpr int kPesoRectangulo = 33, kDesperdicio = 34, kParteDesperdicio = 35;
+// Of the elliptical piece: the same in every language but for two.
+inline constexpr int kH = 51, kEjeMayor = 52, kEjeMenor = 53, kAX = 54, kAY = 55, kAlfa = 56, kLi = 59, kAi = 60;
+inline constexpr int kDivisionesElip = 57, kPosicionInicioElip = 58, kFaltanDatosElip = 61;
+
+// Prompts, and what hangs on the pointer.
+inline constexpr int kColocarPieza = 63, kColocarSegunda = 64, kColocarCajetin = 65;
+inline constexpr int kEsquina = 103, kLado = 104, kCajetin = 106, kElige = 102, kReemplazar = 105;
+
+inline constexpr int kNoGuardado = 80;       ///< the file could not be saved
+inline constexpr int kPlantilla = 81;        ///< the template is missing or unusable
+inline constexpr int kDemasiadas = 82;       ///< run ended early: no handle left
+inline constexpr int kMedidaImposible = 83;  ///< run ended early: a coordinate is no number
+inline constexpr int kIncompleto = 120;      ///< run ended early, whatever the reason
+inline constexpr int kConfiguracion = 121;   ///< the configuration can't be used
+
+// The verdict.
+inline constexpr int kCierto = 107, kFalso = 108, kLargo = 109, kVuelta = 110, kFalta = 111, kRepetida = 112;
+inline constexpr int kCruce = 113, kVecinas = 114, kNumeros = 115, kDoblez = 116, kEntera = 117, kMitad = 118;
+inline constexpr int kDesviacion = 119;
+
+}  // namespace duktores::texto
