@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "dxf/cabecera.h"
+#include "plantilla_cabecera.h"
 #include "state/estado.h"
 
 namespace duktores {

@@ -15,8 +15,9 @@ namespace duktores {
 
 class cDrawing {
  public:
-  std::string Name;                        ///< when the drawing serves as a block
-  double BaseX = 0, BaseY = 0, BaseZ = 0;  ///< base point as a block
+  // When the drawing serves as a block; no file holds them.
+  std::string Name;
+  double BaseX = 0, BaseY = 0, BaseZ = 0;  ///< base point
 
   // Each is false, and changes nothing, for a missing object only. An entity that finds no handle left throws
   // ErrorCorrida before anything has changed.

@@ -2,7 +2,8 @@
 // The entities of the drawing model. Coordinates and sizes are in drawing units, angles in degrees, texts UTF-8.
 // DxfEntity gives the entity's whole DXF text, each line ended by CR LF. LINE, ARC, TEXT and LWPOLYLINE take the handle
 // `estado.iHandleDxf` in plain decimal digits and raise it by one; when no handle is left (beyond 32767) they throw
-// ErrorCorrida. An empty layer or line type name is replaced in the object before it is written.
+// ErrorCorrida. An empty layer or line type name is replaced in the object before it is written. Never written: the
+// line type of a line, an arc or an outline, the colour of an outline, the font of a text.
 
 #include <cstdint>
 #include <string>

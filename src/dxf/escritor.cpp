@@ -124,6 +124,12 @@ std::string LeePlantilla() {
 
 }  // namespace
 
+VistaDxf VistaDeExtension() {
+  const EstadoPrograma& e = estado;
+  return {(e.ExtMaxX - e.ExtMinX) / 2 + e.ExtMinX, (e.ExtMaxY - e.ExtMinY) / 2 + e.ExtMinY,
+          std::max({std::abs(e.ExtMaxX), std::abs(e.ExtMaxY), std::abs(e.ExtMinX), std::abs(e.ExtMinY)})};
+}
+
 bool cGlobals::GetBlockBorder(std::string_view sName, double& xMin, double& yMin, double& zMin, double& xMax,
                               double& yMax, double& zMax) const {
   const std::string buscado = Mayusculas(Recorta(sName));
@@ -153,32 +159,21 @@ bool cDXF::Save(const std::string& sDXFFile) {
   }
 }
 
-bool cDXF::SetLayers(std::vector<std::string> LayerNames, std::vector<std::int16_t> LayerFlags,
-                     std::vector<std::int16_t> LayerColorIndex, std::vector<std::string> LayerLineTypeName) {
-  return header_.SetLayers(std::move(LayerNames), std::move(LayerFlags), std::move(LayerColorIndex),
-                           std::move(LayerLineTypeName));
-}
-
-int cDXF::GetLayers(std::vector<std::string>& LayerNames, std::vector<std::int16_t>& LayerFlags,
-                    std::vector<std::int16_t>& LayerColorIndex, std::vector<std::string>& LayerLineTypeName) const {
-  return header_.GetLayers(LayerNames, LayerFlags, LayerColorIndex, LayerLineTypeName);
-}
-
 bool cDXF::SetFonts(std::vector<std::string> Fonts, int FontCharSet) {
   FontCharSet_ = FontCharSet;
-  return header_.SetFonts(std::move(Fonts));
+  return AjustesDxf::SetFonts(std::move(Fonts));
 }
 
 int cDXF::GetFonts(std::vector<std::string>& Fonts, int& FontCharSet) const {
   FontCharSet = FontCharSet_;
-  return header_.GetFonts(Fonts);
+  return AjustesDxf::GetFonts(Fonts);
 }
 
 void cDXF::InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks) {
   if (Blocks.empty()) return;
-  Blocks_.clear();
-  std::ranges::copy_if(Blocks, std::back_inserter(Blocks_), [](const auto& bloque) { return bloque != nullptr; });
-  globals_.SetBlocks(Blocks_);
+  std::vector<std::shared_ptr<cDrawing>> presentes;
+  std::ranges::copy_if(Blocks, std::back_inserter(presentes), [](const auto& bloque) { return bloque != nullptr; });
+  globals_.SetBlocks(std::move(presentes));
 }
 
 std::string RutaPlantilla() { return estado.sRutaPrograma + "Template/Template.dxf"; }

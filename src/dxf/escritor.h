@@ -8,13 +8,19 @@
 #include <string_view>
 #include <vector>
 
-#include "dxf/cabecera.h"
+#include "dxf/ajustes.h"
 
 namespace duktores {
 
 class cDrawing;
 
-/// The blocks of a cDXF, for look-up by name.
+/// What the active view shows of the extent of `estado`: its centre, and as height the largest absolute coordinate.
+struct VistaDxf {
+  double x = 0, y = 0, altura = 0;
+};
+VistaDxf VistaDeExtension();
+
+/// The blocks of a cDXF, for look-up by name only: no file holds them.
 class cGlobals {
  public:
   void SetBlocks(std::vector<std::shared_ptr<cDrawing>> Blocks) { Blocks_ = std::move(Blocks); }
@@ -26,7 +32,7 @@ class cGlobals {
   std::vector<std::shared_ptr<cDrawing>> Blocks_;
 };
 
-class cDXF {
+class cDXF : public AjustesDxf {
  public:
   bool InsertEntities(std::shared_ptr<cDrawing> Entities);  ///< false for a missing drawing
 
@@ -36,24 +42,16 @@ class cDXF {
   /// or a place that can't be written.
   bool Save(const std::string& sDXFFile);
 
-  void LineTypeScale(double v) { header_.LineTypeScale(v); }
-  double LineTypeScale() const { return header_.LineTypeScale(); }
-  bool SetLayers(std::vector<std::string> LayerNames, std::vector<std::int16_t> LayerFlags,
-                 std::vector<std::int16_t> LayerColorIndex, std::vector<std::string> LayerLineTypeName);
-  int GetLayers(std::vector<std::string>& LayerNames, std::vector<std::int16_t>& LayerFlags,
-                std::vector<std::int16_t>& LayerColorIndex, std::vector<std::string>& LayerLineTypeName) const;
+  // None of what follows, nor the settings of AjustesDxf, has an effect on any file that Save writes: all that is not
+  // the drawing comes from the template.
   bool SetFonts(std::vector<std::string> Fonts, int FontCharSet);
   int GetFonts(std::vector<std::string>& Fonts, int& FontCharSet) const;
-  bool SetLineTypes(std::vector<std::string> LineTypes) { return header_.SetLineTypes(std::move(LineTypes)); }
-  int GetLineTypes(std::vector<std::string>& LineTypes) const { return header_.GetLineTypes(LineTypes); }
   /// Takes the present blocks over; an empty list changes nothing.
   void InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks);
   const cGlobals& Globals() const { return globals_; }
 
  private:
-  cHeader header_;
   std::shared_ptr<cDrawing> Entities_;
-  std::vector<std::shared_ptr<cDrawing>> Blocks_;
   int FontCharSet_ = 0;
   cGlobals globals_;
 };

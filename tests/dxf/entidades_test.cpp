@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "ayudas.h"
-#include "dxf/anotacion.h"
+#include "annotation/anotacion.h"
 #include "dxf/entidades.h"
 #include "dxf/numero_dxf.h"
 #include "state/error_corrida.h"
