@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <random>
 
-#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
@@ -26,34 +25,42 @@ struct Mesa : VistaEWdraw {
 };
 
 // With marks, dimensions, title block and table.
-void PonPieza(const char* tipo, std::int16_t divisiones) {
+void PonPieza(TipoPieza tipo, int divisiones) {
   estado = {};
   estado.sRutaPrograma = RAIZ_DATOS;
-  estado.sTipoPieza = tipo;
-  estado.dL1Base = estado.dL1BaseRC = estado.dL1Elip = 400;
-  estado.dL2Base = estado.dL2BaseRC = estado.dL2Elip = 300;
-  estado.dRadioAlto = 100;
-  estado.dRadioRC = 200;
-  estado.dEjeMayorElip = 250;
-  estado.dEjeMenorElip = 150;
-  estado.dR11 = estado.dR12 = estado.dR13 = estado.dR14 = 40;
-  estado.dR21 = estado.dR22 = estado.dR23 = estado.dR24 = 90;
-  estado.dLX1 = estado.dLY1 = 200;
-  estado.dLX2 = estado.dLY2 = 400;
-  estado.dAltura = 300;
-  estado.dAx = 30;
-  estado.dAlfa = 12;
   estado.dTamanoTexto = 10;
   estado.sDimensiones = "1";
   estado.iBox = estado.iUnidad = 1;
   estado.sDensidad = "7.85";
   estado.dEspesor = 1;
-  estado.iPosIni = estado.iPosIniElip = 1;
-  estado.iDivisiones = divisiones;
+  Pieza pieza;
+  pieza.tipo = tipo;
+  const Boca rectangulo{400, 300, {}};
+  switch (tipo) {
+    case TipoPieza::cr:
+      pieza.corregidas = {Circulo(100), rectangulo};
+      break;
+    case TipoPieza::rc:
+      pieza.corregidas = {rectangulo, Circulo(200)};
+      break;
+    case TipoPieza::elip:
+      pieza.corregidas = {{250, 150, {}}, rectangulo};
+      break;
+    default:
+      pieza.corregidas = {{200, 200, Cuatro(40)}, {400, 400, Cuatro(90)}};
+  }
+  pieza.entradas = pieza.corregidas;
+  pieza.H = 300;
+  pieza.AX = 30;
+  pieza.Alfa = 12;
+  pieza.divisiones = divisiones;
+  pieza.inicio = 1;
+  pieza.fibra = Fibra::media;
+  estado.pieza = pieza;
 }
 
-void Desarrollo(benchmark::State& s, const char* tipo, std::int16_t exacto = 0) {
-  PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
+void Desarrolla(benchmark::State& s, TipoPieza tipo, std::int16_t exacto = 0) {
+  PonPieza(tipo, static_cast<int>(s.range(0)));
   estado.iExacto = exacto;
   Mesa mesa;
   EWdraw axew;
@@ -63,44 +70,35 @@ void Desarrollo(benchmark::State& s, const char* tipo, std::int16_t exacto = 0) 
     benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
   }
 }
-BENCHMARK_CAPTURE(Desarrollo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrollo, RC, "TransRC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrollo, Elip, "")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, CR, TipoPieza::cr)->Name("Desarrollo/CR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, RC, TipoPieza::rc)->Name("Desarrollo/RC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, Elip, TipoPieza::elip)->Name("Desarrollo/Elip")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 
-BENCHMARK_CAPTURE(Desarrollo, ExactCR, "TransCR", 1)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrollo, ExactEsp1, "TransEsp1", 1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, ExactCR, TipoPieza::cr, 1)->Name("Desarrollo/ExactCR")->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, ExactEsp1, TipoPieza::esp1, 1)->Name("Desarrollo/ExactEsp1")->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
-// The usual rules adjust the radii, so that each time starts anew.
-void Especial(benchmark::State& s) {
-  Mesa mesa;
-  EWdraw axew;
-  axew.PonVista(&mesa);
-  for (auto _ : s) {
-    s.PauseTiming();
-    PonPieza("TransEsp1", static_cast<std::int16_t>(s.range(0)));
-    s.ResumeTiming();
-    Desplegado(axew);
-    benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
-  }
-}
-BENCHMARK(Especial)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, Especial, TipoPieza::esp1)
+    ->Name("Especial")
+    ->Arg(16)
+    ->Arg(908)
+    ->Unit(benchmark::kMicrosecond);
 
 // The check of a pattern that lies there.
-void Cotejo(benchmark::State& s, const char* tipo) {
+void Cotejo(benchmark::State& s, TipoPieza tipo) {
   Mesa mesa;
   EWdraw axew;
   axew.PonVista(&mesa);
-  PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
-  const Solido solido = SolidoActual();
-  Desplegado(axew);
-  for (auto _ : s) benchmark::DoNotOptimize(Comprueba(solido, axew).desviacion);
+  PonPieza(tipo, static_cast<int>(s.range(0)));
+  const Solido solido = SolidoDe(*estado.pieza);
+  const Patron hoja = Desplegado(axew).hoja;
+  for (auto _ : s) benchmark::DoNotOptimize(Juzga(solido, hoja).desviacion);
 }
-BENCHMARK_CAPTURE(Cotejo, CR, "TransCR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Cotejo, Esp1, "TransEsp1")->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Cotejo, CR, TipoPieza::cr)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Cotejo, Esp1, TipoPieza::esp1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
 // One frame of the viewer while the solid turns.
-void PintaSolido(benchmark::State& s, const char* tipo) {
-  PonPieza(tipo, static_cast<std::int16_t>(s.range(0)));
+void PintaSolido(benchmark::State& s, TipoPieza tipo) {
+  PonPieza(tipo, static_cast<int>(s.range(0)));
   EWdraw axew;
   Dibuja3D(axew);
   axew.EwViewDirection(1, -1, 1);
@@ -111,8 +109,8 @@ void PintaSolido(benchmark::State& s, const char* tipo) {
     Pinta(pintor, axew, Ajusta(axew, imagen.size()), imagen.size(), Fondo::oscuro);
   }
 }
-BENCHMARK_CAPTURE(PintaSolido, CR, "TransCR")->Arg(120)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(PintaSolido, Esp1, "TransEsp1")->Arg(16)->Arg(908)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PintaSolido, CR, TipoPieza::cr)->Arg(120)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PintaSolido, Esp1, TipoPieza::esp1)->Arg(16)->Arg(908)->Unit(benchmark::kMillisecond);
 
 std::vector<double> Numeros() {
   std::mt19937 azar(1);
@@ -165,7 +163,7 @@ void LineasEnTexto(benchmark::State& s) {
 BENCHMARK(LineasEnTexto)->Unit(benchmark::kMicrosecond);
 
 void Save(benchmark::State& s) {
-  PonPieza("TransCR", 120);
+  PonPieza(TipoPieza::cr, 120);
   cDXF dxf;
   dxf.InsertEntities(Lineas(Numeros()));
   const auto fichero = std::filesystem::temp_directory_path() / "duktores_bench.dxf";

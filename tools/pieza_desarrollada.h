@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "shell/lista.h"
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 

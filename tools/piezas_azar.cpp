@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 
 namespace duktores {
 

@@ -25,7 +25,7 @@
 #include "mancha.h"
 #include "piezas_azar.h"
 #include "shell/lista.h"
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 #include "state/fichero.h"

@@ -8,7 +8,6 @@
 
 #include "annotation/finitos.h"
 #include "dxf/dibujo.h"
-#include "dxf/escritor.h"
 #include "geometry/redondeo.h"
 #include "state/caracteres.h"
 #include "state/estado.h"

@@ -8,7 +8,7 @@
 #include "piece/numeros_texto.h"
 #include "sheet/hoja.h"
 #include "shell/lista.h"
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/caracteres.h"
 #include "state/estado.h"

@@ -8,6 +8,7 @@
 
 #include "check/cotejo.h"
 #include "check/cruce.h"
+#include "check/marcas.h"
 
 namespace duktores {
 

@@ -1,5 +1,5 @@
 #pragma once
-// A shape against the solid: the worst length and the worst turned facet.
+// The lengths and facets of a shape against the solid: the worst of each.
 
 #include <vector>
 
@@ -39,24 +39,21 @@ class Cotejo {
   Orilla OrillaDe(const Borde& borde) const;
 
  private:
-  std::size_t Lugar(int vertice) const;
-  Punto2 En(int vertice) const { return forma_->contorno[Lugar(vertice)].p; }
-  Punto3 EnEspacio(int vertice) const;
-  double Parte(int vertice) const;
+  void PonPuntos();
   void Largo(int a, int b);
   void Triangulo(const Faceta& faceta);
   void Orillas();
+  Punto2 En(int vertice) const { return plano_[static_cast<std::size_t>(vertice)]; }
+  Punto3 EnEspacio(int vertice) const { return espacio_[static_cast<std::size_t>(vertice)]; }
+  Punto3 Punto(int i) const { return solido_->puntos[static_cast<std::size_t>(i)]; }
+  double Parte(std::size_t vertice) const;
 
   const Solido* solido_;
   const FormaPatron* forma_;
   Lectura lectura_;
+  std::vector<Punto2> plano_;    // the vertices as they are read
+  std::vector<Punto3> espacio_;  // and what they stand for
   Peor largo_, vuelta_;
 };
-
-/// Where two lines of the pattern don't stand, or don't bear their numbers, as the shape asks for.
-struct Marcas {
-  Peor numero, doblez;
-};
-Marcas CotejaMarcas(const FormaPatron& forma);
 
 }  // namespace duktores

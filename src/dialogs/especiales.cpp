@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "piece/numeros_texto.h"
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 

@@ -189,6 +189,4 @@ bool ExisteFichero(const std::string& ruta) {
   return !fallo && bytes > 0;
 }
 
-void SustituyeCaracter(std::string& texto, char busca, char pone) { std::ranges::replace(texto, busca, pone); }
-
 }  // namespace duktores

@@ -62,7 +62,5 @@ std::string RutaPlantilla();
 bool HayPlantilla();
 
 bool ExisteFichero(const std::string& ruta);  ///< a file with a length above 0
-/// Overwrites every `busca` in the text by `pone`.
-void SustituyeCaracter(std::string& texto, char busca, char pone);
 
 }  // namespace duktores

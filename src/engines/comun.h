@@ -7,8 +7,8 @@
 
 #include "geometry/puntos.h"
 #include "piece/bloque.h"
-#include "piece/cotas.h"
 #include "piece/pieza.h"
+#include "piece/reglas_cotas.h"
 
 namespace duktores {
 

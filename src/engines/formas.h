@@ -8,7 +8,7 @@
 #include <array>
 #include <vector>
 
-#include "engines/cotas.h"
+#include "engines/cotas_transicion.h"
 #include "engines/motor.h"
 
 namespace duktores {

@@ -1,6 +1,6 @@
 #include "engines/motor.h"
 
-#include "engines/cotas.h"
+#include "engines/cotas_transicion.h"
 #include "engines/formas.h"
 
 namespace duktores {

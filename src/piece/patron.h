@@ -10,9 +10,9 @@
 
 #include "geometry/puntos.h"
 #include "piece/bloque.h"
-#include "piece/cotas.h"
 #include "piece/panel.h"
 #include "piece/pieza.h"
+#include "piece/reglas_cotas.h"
 #include "piece/solido.h"
 
 namespace duktores {

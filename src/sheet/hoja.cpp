@@ -7,7 +7,7 @@
 #include "annotation/anotacion.h"
 #include "piece/numeros_texto.h"
 #include "sheet/cajetin.h"
-#include "sheet/cotas.h"
+#include "sheet/cotas_forma.h"
 #include "state/error_corrida.h"
 #include "state/textos.h"
 

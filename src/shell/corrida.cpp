@@ -9,7 +9,7 @@
 #include "dxf/escritor.h"
 #include "sheet/hoja.h"
 #include "shell/lista.h"
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/numeros.h"

@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 
 namespace duktores {
 

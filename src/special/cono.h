@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "geometry/puntos.h"
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 #include "special/sector.h"
 
 namespace duktores {

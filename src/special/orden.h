@@ -2,7 +2,7 @@
 // Places in the lists of a special piece's solid.
 
 #include "piece/solido.h"
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 
 namespace duktores {
 

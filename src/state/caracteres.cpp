@@ -174,4 +174,6 @@ std::string Mayusculas(std::string_view utf8) {
   return Utf8(unidades);
 }
 
+void SustituyeCaracter(std::string& texto, char busca, char pone) { std::ranges::replace(texto, busca, pone); }
+
 }  // namespace duktores

@@ -19,5 +19,6 @@ std::string Cp1252DeUtf8(std::string_view utf8);
 
 std::string_view Recorta(std::string_view texto);  ///< without the blanks, tabs and line ends around it
 std::string Mayusculas(std::string_view utf8);     ///< letters of western Europe in capitals, "ß" as it is
+void SustituyeCaracter(std::string& texto, char busca, char pone);  ///< every `busca` in the text becomes `pone`
 
 }  // namespace duktores

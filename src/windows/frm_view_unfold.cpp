@@ -10,7 +10,7 @@
 
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 #include "state/textos.h"

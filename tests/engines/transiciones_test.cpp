@@ -8,7 +8,7 @@
 
 #include "dxf/anotacion.h"
 #include "engines/cajetin.h"
-#include "engines/cotas.h"
+#include "engines/cotas_transicion.h"
 #include "engines/marcas.h"
 #include "engines/trans_cr.h"
 #include "engines/trans_elip.h"

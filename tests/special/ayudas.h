@@ -12,7 +12,7 @@
 #include "dxf/dibujo.h"
 #include "geometry/puntos.h"
 #include "special/despliega_especial.h"
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 #include "state/estado.h"
 #include "state/textos.h"
 #include "viewer/ewdraw.h"

@@ -1,4 +1,4 @@
-#include "shell/veredicto.h"
+#include "shell/texto_veredicto.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "special/pieza.h"
+#include "special/pieza_especial.h"
 
 #include <cmath>
 

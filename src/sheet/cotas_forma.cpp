@@ -1,4 +1,4 @@
-#include "sheet/cotas.h"
+#include "sheet/cotas_forma.h"
 
 #include <algorithm>
 #include <cmath>

@@ -8,7 +8,7 @@
 
 #include "annotation/anotacion.h"
 #include "annotation/finitos.h"
-#include "dxf/escritor.h"
+#include "state/caracteres.h"
 #include "geometry/planas.h"
 #include "geometry/redondeo.h"
 #include "state/estado.h"

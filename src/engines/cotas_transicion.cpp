@@ -1,4 +1,4 @@
-#include "engines/cotas.h"
+#include "engines/cotas_transicion.h"
 
 #include <algorithm>
 #include <array>
