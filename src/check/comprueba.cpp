@@ -42,9 +42,9 @@ std::vector<Esperada> Esperadas(const Solido& solido) {
   return esperadas;
 }
 
-class Comprobacion {
+class Examen {
  public:
-  Comprobacion(const Solido& solido, const Patron& patron, double tolerancia)
+  Examen(const Solido& solido, const Patron& patron, double tolerancia)
       : solido_(solido), patron_(patron), tolerancia_(tolerancia) {}
 
   Veredicto Haz() && {
@@ -177,7 +177,7 @@ class Comprobacion {
 }  // namespace
 
 Veredicto Comprueba(const Solido& solido, const Patron& patron, double tolerancia) {
-  return Comprobacion(solido, patron, tolerancia).Haz();
+  return Examen(solido, patron, tolerancia).Haz();
 }
 
 }  // namespace duktores

@@ -56,22 +56,22 @@ struct Sustitucion {
 };
 
 /// What follows on a line that reads like `marca` in any mix of case.
-struct Regla {
+struct Reemplazo {
   std::string_view marca;
   std::vector<Sustitucion> sustituciones;
 };
 
 /// The rules for the extent that `estado` holds.
-std::vector<Regla> Reglas() {
+std::vector<Reemplazo> Reemplazos() {
   const VistaDxf vista = VistaDeExtension();
   return {{"$EXTMIN", {{1, estado.ExtMinX}, {1, estado.ExtMinY}}},
           {"$EXTMAX", {{1, estado.ExtMaxX}, {1, estado.ExtMaxY}}},
           {"*ACTIVE", {{11, vista.x}, {1, vista.y}, {25, vista.altura}}}};
 }
 
-bool Aplica(const Regla& regla, Copiadora& copiadora) {
+bool Aplica(const Reemplazo& reemplazo, Copiadora& copiadora) {
   std::string_view anterior;
-  for (const auto& [lineas, valor] : regla.sustituciones) {
+  for (const auto& [lineas, valor] : reemplazo.sustituciones) {
     if (!std::isfinite(valor) || !copiadora.Copia(lineas) || !copiadora.Lee(anterior)) return false;
     copiadora.Escribe(DxfNumeroTexto(valor));
   }
@@ -91,7 +91,7 @@ void AnadeCp1252(std::string& destino, std::string_view utf8) {
 }
 
 /// The whole file; false if the template is cut short.
-bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::string_view entidades,
+bool Compone(std::string_view plantilla, const std::vector<Reemplazo>& reemplazos, std::string_view entidades,
              std::string& fichero) {
   fichero.reserve(2 * plantilla.size() + entidades.size());
   Copiadora copiadora(plantilla, fichero);
@@ -110,8 +110,8 @@ bool Compone(std::string_view plantilla, const std::vector<Regla>& reglas, std::
       }
       return cerrado && acabado;
     }
-    const auto regla = std::ranges::find(reglas, marca, &Regla::marca);
-    if (regla != reglas.end() && !Aplica(*regla, copiadora)) return false;
+    const auto reemplazo = std::ranges::find(reemplazos, marca, &Reemplazo::marca);
+    if (reemplazo != reemplazos.end() && !Aplica(*reemplazo, copiadora)) return false;
   }
   return false;
 }
@@ -152,8 +152,8 @@ bool cDXF::Save(const std::string& sDXFFile) {
     EstadoPrograma& e = estado;
     Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
     std::string fichero;
-    return Compone(LeePlantilla(), Reglas(), Entities_->GetEntities(), fichero) && EscribeFichero(sDXFFile, fichero) &&
-           ExisteFichero(sDXFFile);
+    return Compone(LeePlantilla(), Reemplazos(), Entities_->GetEntities(), fichero) &&
+           EscribeFichero(sDXFFile, fichero) && ExisteFichero(sDXFFile);
   } catch (const std::exception&) {
     return false;
   }

@@ -57,7 +57,6 @@ ParPuntos CorteRectaCirculo(double m, double b, Punto2 c, double r) {
 }
 
 Punto3 CorteRectas(double m1, double b1, double x1, double m2, double b2, double x2) {
-  constexpr double kVertical = 1e9;
   if (m1 == kVertical) return {x1, m2 * x1 + b2, 0};
   if (m2 == kVertical) return {x2, m1 * x2 + b1, 0};
   const double x = Redondea((b2 - b1) / (m1 - m2), 8);

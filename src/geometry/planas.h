@@ -23,8 +23,10 @@ ParPuntos InterseccionCirculos(Punto2 c1, double r1, Punto2 c2, double r2);
 /// gives (0, 0) twice. Touch and miss are judged on the discriminant rounded to 8 decimals.
 ParPuntos CorteRectaCirculo(double m, double b, Punto2 c, double r);
 
-/// The meeting point of y = m1*x + b1 and y = m2*x + b2, z = 0. A slope of exactly 1E+9 marks a vertical line, which
-/// lies at its `x1` or `x2`. x is rounded to 8 decimals unless a line is vertical. Parallel lines must not be passed.
+inline constexpr double kVertical = 1e9;  ///< the slope that marks a vertical line
+
+/// The meeting point of y = m1*x + b1 and y = m2*x + b2, z = 0. A line of slope `kVertical` lies at its `x1` or `x2`. x
+/// is rounded to 8 decimals unless a line is vertical. Parallel lines must not be passed.
 Punto3 CorteRectas(double m1, double b1, double x1, double m2, double b2, double x2);
 
 /// The direction from `p1` to `p2`, counter-clockwise from the positive x axis, in degrees from 0 up to 360.

@@ -22,6 +22,12 @@ inline constexpr int kPesoRectangulo = 33, kDesperdicio = 34, kParteDesperdicio 
 inline constexpr int kH = 51, kEjeMayor = 52, kEjeMenor = 53, kAX = 54, kAY = 55, kAlfa = 56, kLi = 59, kAi = 60;
 inline constexpr int kDivisionesElip = 57, kPosicionInicioElip = 58, kFaltanDatosElip = 61;
 
+// The buttons of the solid's window: the ten fixed views, the ways of looking, what leaves it.
+inline constexpr int kDesdeArriba = 84, kDesdeAbajo = 85, kDesdeIzquierda = 86, kDesdeDerecha = 87;
+inline constexpr int kDesdeDelante = 88, kDesdeDetras = 89, kIsoDelante = 90, kIsoDerecha = 91, kIsoDetras = 92;
+inline constexpr int kIsoIzquierda = 93, kMueve = 94, kOrbita = 95, kZoom = 96, kZoomTodo = 97, kZoomVentana = 98;
+inline constexpr int kDesplegado = 99, kGuarda = 100, kCierraVisor = 101;
+
 // Prompts, and what hangs on the pointer.
 inline constexpr int kColocarPieza = 63, kColocarSegunda = 64, kColocarCajetin = 65;
 inline constexpr int kEsquina = 103, kLado = 104, kCajetin = 106, kElige = 102, kReemplazar = 105;

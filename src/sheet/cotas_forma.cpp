@@ -31,7 +31,7 @@ void DibujaFilas(EWdraw& axew, const CotasFilas& cotas, const FormatoHoja& forma
 
 // ---- A sector.
 
-struct Sector {
+struct SectorAcotado {
   const FormaPatron& forma;
   const CotasSector& cotas;
   const FormatoHoja& formato;
@@ -56,7 +56,7 @@ void AcotaAltura(EWdraw& axew, double nivel, double paso, Punto2 p, Punto2 q) {
   Extiende(axew, pieQ, q);
 }
 
-void AcotaAlturas(EWdraw& axew, const Sector& sector, const Bordes& b) {
+void AcotaAlturas(EWdraw& axew, const SectorAcotado& sector, const Bordes& b) {
   const double columna = sector.cotas.vertice.value_or(b.BI).x;
   double izquierda = columna, derecha = columna;
   for (const Vertice& v : sector.forma.contorno) {
@@ -68,7 +68,7 @@ void AcotaAlturas(EWdraw& axew, const Sector& sector, const Bordes& b) {
   AcotaAltura(axew, derecha, sector.formato.pasoX, b.BF, crece ? b.MF : b.MI);
 }
 
-void AcotaBase(EWdraw& axew, const Sector& sector, const Bordes& b) {
+void AcotaBase(EWdraw& axew, const SectorAcotado& sector, const Bordes& b) {
   double abajo = b.BI.y;
   for (int i = 0; i <= sector.Ultimo(); ++i) abajo = std::min(abajo, sector.Base(i).y);
   const Punto2 pieI{b.BI.x, abajo}, pieF{b.BF.x, abajo};
@@ -79,7 +79,7 @@ void AcotaBase(EWdraw& axew, const Sector& sector, const Bordes& b) {
 
 // Where the lines of the two border elements meet.
 Punto2 Apice(const Bordes& b) {
-  constexpr double kVertical = 1e9, kIgual = 1e-9;
+  constexpr double kIgual = 1e-9;
   const auto pendiente = [](Punto2 p, Punto2 q) {
     return std::abs(q.x - p.x) <= kIgual ? kVertical : (q.y - p.y) / (q.x - p.x);
   };
@@ -97,7 +97,7 @@ void AcotaApertura(EWdraw& axew, const FormatoHoja& formato, const Bordes& b, Pu
 }
 
 // Each element's length stands on a line of its own over the element's.
-void AcotaElementos(EWdraw& axew, const Sector& sector, Punto2 A) {
+void AcotaElementos(EWdraw& axew, const SectorAcotado& sector, Punto2 A) {
   for (int i = 0; i <= sector.Ultimo(); i += sector.cotas.paso) {
     const Punto2 M = sector.Boca(i);
     if (!EstaSobre(A, M)) continue;
@@ -119,7 +119,7 @@ void AcotaBoca(EWdraw& axew, const FormatoHoja& formato, const Bordes& b, std::o
   if (sobreF) Extiende(axew, {b.MF.x, A->y}, b.MF);
 }
 
-void GeneraCotaCono(EWdraw& axew, const Sector& sector) {
+void GeneraCotaCono(EWdraw& axew, const SectorAcotado& sector) {
   const Bordes b{sector.Base(0), sector.Base(sector.Ultimo()), sector.Boca(0), sector.Boca(sector.Ultimo())};
   AcotaAlturas(axew, sector, b);
   AcotaBase(axew, sector, b);

@@ -17,17 +17,17 @@ constexpr std::int32_t kPrimerHandle = 500;
 
 // clang-format off
 constexpr std::array kVistas{
-    //        button         key   text  from
-    VistaFija{"cmdTop",      "F1",  84, { 0,  0,  1}},
-    VistaFija{"cmdBottom",   "F2",  85, { 0,  0, -1}},
-    VistaFija{"CmdLeft",     "F3",  86, {-1,  0,  0}},
-    VistaFija{"CmdRight",    "F4",  87, { 1,  0,  0}},
-    VistaFija{"cmdfront",    "F5",  88, { 0, -1,  0}},
-    VistaFija{"cmdRear",     "F6",  89, { 0,  1,  0}},
-    VistaFija{"CmdIsofront", "F7",  90, { 0, -1,  1}},
-    VistaFija{"cmdisoright", "F8",  91, { 1,  0,  1}},
-    VistaFija{"CmdIsoclear", "F9",  92, { 0,  1,  1}},
-    VistaFija{"cmdisoleft",  "F10", 93, {-1,  0,  1}},
+    //        button         key    text                    from
+    VistaFija{"cmdTop",      "F1",  texto::kDesdeArriba,    { 0,  0,  1}},
+    VistaFija{"cmdBottom",   "F2",  texto::kDesdeAbajo,     { 0,  0, -1}},
+    VistaFija{"CmdLeft",     "F3",  texto::kDesdeIzquierda, {-1,  0,  0}},
+    VistaFija{"CmdRight",    "F4",  texto::kDesdeDerecha,   { 1,  0,  0}},
+    VistaFija{"cmdfront",    "F5",  texto::kDesdeDelante,   { 0, -1,  0}},
+    VistaFija{"cmdRear",     "F6",  texto::kDesdeDetras,    { 0,  1,  0}},
+    VistaFija{"CmdIsofront", "F7",  texto::kIsoDelante,     { 0, -1,  1}},
+    VistaFija{"cmdisoright", "F8",  texto::kIsoDerecha,     { 1,  0,  1}},
+    VistaFija{"CmdIsoclear", "F9",  texto::kIsoDetras,      { 0,  1,  1}},
+    VistaFija{"cmdisoleft",  "F10", texto::kIsoIzquierda,   {-1,  0,  1}},
 };
 // clang-format on
 

@@ -31,11 +31,11 @@ struct BotonZoom {
   void (EWdraw::*orden)();
 };
 constexpr std::array kZoom{
-    BotonZoom{"cmdmove", 94, MandoVista::pan, &EWdraw::EwPan},
-    BotonZoom{"cmdorbit", 95, MandoVista::orbit, &EWdraw::EwOrbit},
-    BotonZoom{"CmdZoom", 96, MandoVista::zoom, &EWdraw::EwZoom},
-    BotonZoom{"CmdZoomAll", 97, MandoVista::zoomAll, &EWdraw::EwZoomAll},
-    BotonZoom{"CmdZoomwindow", 98, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
+    BotonZoom{"cmdmove", texto::kMueve, MandoVista::pan, &EWdraw::EwPan},
+    BotonZoom{"cmdorbit", texto::kOrbita, MandoVista::orbit, &EWdraw::EwOrbit},
+    BotonZoom{"CmdZoom", texto::kZoom, MandoVista::zoom, &EWdraw::EwZoom},
+    BotonZoom{"CmdZoomAll", texto::kZoomTodo, MandoVista::zoomAll, &EWdraw::EwZoomAll},
+    BotonZoom{"CmdZoomwindow", texto::kZoomVentana, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
@@ -109,11 +109,11 @@ void FrmViewUnfold::Botones() {
     x += kPaso + 8;
     return boton;
   };
-  CmdDesplegado_ = suelto("CmdDesplegado", 99);
-  CmdSave_ = suelto("CmdSave", 100);
+  CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
+  CmdSave_ = suelto("CmdSave", texto::kGuarda);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
-  connect(suelto("CmdCancelar", 101), &QPushButton::clicked, this, &FrmViewUnfold::reject);
+  connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
   connect(suelto("CmdExit", 2), &QPushButton::clicked, this, [] { Termina(); });
 }
 
