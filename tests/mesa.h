@@ -1,6 +1,6 @@
 #pragma once
 // Who looks at a control without a window: gives the points of the picks in turn, refuses what is beyond them, and
-// notes what hung on the pointer and what was told.
+// notes what hung on the pointer, how much was drawn by then, and what was told.
 
 #include <optional>
 #include <span>
@@ -17,6 +17,8 @@ struct Mesa : VistaEWdraw, Plataforma {
   explicit Mesa(std::vector<Punto3> p = {}) : puntos(std::move(p)) {}
   std::optional<Punto3> EligePunto(EWdraw& axew) override {
     fantasmas.push_back(axew.Fantasma());
+    rotulos.push_back(axew.RotuloFantasma());
+    dibujado.push_back(axew.Entidades().size());
     const std::size_t i = fantasmas.size() - 1;
     return i < puntos.size() ? std::optional(puntos[i]) : std::nullopt;
   }
@@ -24,7 +26,8 @@ struct Mesa : VistaEWdraw, Plataforma {
 
   std::vector<Punto3> puntos;
   std::vector<std::vector<Punto2>> fantasmas;
-  std::vector<std::string> mensajes;
+  std::vector<std::string> rotulos, mensajes;
+  std::vector<std::size_t> dibujado;
 };
 
 /// The texts drawn: their places, seen from `origen`, and what they say.

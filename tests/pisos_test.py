@@ -1,4 +1,5 @@
-"""The floors of src/: no include goes upwards or sideways, and no Qt stands below paint/. Usage: pisos_test.py SRC"""
+"""The floors of src/: no include goes upwards or sideways, no Qt stands below paint/, and what computes pieces knows
+neither the program's state nor a screen nor a file. Usage: pisos_test.py SRC"""
 
 import pathlib
 import re
@@ -7,15 +8,21 @@ import sys
 FLOORS = {"platform": 1, "geometry": 1, "piece": 2, "viewer": 2, "state": 3, "engines": 3, "special": 3, "check": 3,
           "dxf": 4, "annotation": 5, "sheet": 6, "dialogs": 6, "shell": 7, "paint": 7, "batch": 8, "windows": 8}
 QT = ("paint", "batch", "windows")
+PURE, IMPURE = ("geometry", "piece", "engines", "special", "check"), ("state", "viewer", "dxf")
+NAME_STATE = ("state", "dxf", "annotation", "dialogs", "shell", "batch", "windows")
 
 src = pathlib.Path(sys.argv[1])
 files = [f for f in src.glob("*/*") if f.suffix in (".h", ".cpp", ".inc")]
-faults = []
+faults = [f"{folder}/ stands on no floor" for folder in {f.parent.name for f in files} - FLOORS.keys()]
 for file in files:
-    floor = file.parent.name
-    for name in re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)', file.read_text(), re.M):
+    floor, text = file.parent.name, file.read_text()
+    if floor not in NAME_STATE and re.search(r"\bestado\b", re.sub(r"//.*", "", text)):
+        faults.append(f"{file.relative_to(src)} names the state")
+    for name in re.findall(r'^\s*#\s*include\s*[<"]([^>"]+)', text, re.M):
         head = name.split("/")[0]
-        if head in FLOORS and "/" in name and head != floor and FLOORS[head] >= FLOORS[floor]:
+        if floor in PURE and head in IMPURE:
+            faults.append(f"{file.relative_to(src)} includes {name}, but computes pieces")
+        if head in FLOORS and "/" in name and head != floor and FLOORS[head] >= FLOORS.get(floor, 0):
             faults.append(f"{file.relative_to(src)} includes {name}, which doesn't stand below it")
         if re.match(r"Q[A-Z]|Qt", name) and floor not in QT:
             faults.append(f"{file.relative_to(src)} includes {name}: no Qt below paint/")

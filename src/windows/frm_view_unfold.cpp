@@ -114,7 +114,7 @@ void FrmViewUnfold::Botones() {
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
-  connect(suelto("CmdExit", 2), &QPushButton::clicked, this, [] { Termina(); });
+  connect(suelto("CmdExit", texto::kSalir), &QPushButton::clicked, this, [] { Termina(); });
 }
 
 // The drawing widget looks at the control, which would go before it.

@@ -90,17 +90,6 @@ class Faults(Batch):
         os.mkfifo(self.out / NAME)
         self.expect_refused([NAME])
 
-    def test_folder_goes_while_the_jobs_run(self):
-        jobs = [{**job, "name": f"{job['name']}-{i}"} for i in range(10) for job in JOBS]
-        (self.folder / "jobs").write_text(json.dumps(jobs))
-        with subprocess.Popen([*self.command(), "--jobs", "1"], stdout=subprocess.PIPE, text=True) as process:
-            answers = [process.stdout.readline()]
-            self.out.rename(self.folder / "away")
-            answers += process.stdout.readlines()
-        self.assertEqual([a.split(":")[0] for a in answers], [j["name"] for j in jobs])
-        self.assertIn(": refused name: ", answers[-1])
-        self.assertEqual((process.returncode, self.out.exists()), (1, False))
-
     def test_a_reader_of_the_old_file_keeps_it_whole_and_the_new_one_its_rights(self):
         (self.out / NAME).chmod(0o640)
         with open(self.out / NAME, "rb") as reader:

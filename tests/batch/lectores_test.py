@@ -1,10 +1,8 @@
 """Opens the sample drawings, of the usual rules and the exact ones, in other programs: they must find every entity
 where it was written."""
 
-import collections
 import itertools
 import math
-import os
 import pathlib
 import re
 import shutil
@@ -12,14 +10,11 @@ import subprocess
 import sys
 import tempfile
 import unittest
-import zlib
 
 import ezdxf
 from osgeo import gdal, ogr
 
 from lote import CONFIG, JOBS, PROGRAM, SAMPLES
-
-CELL, SCALE = 16, (567 / 12 + 433 / 9) / 2  # dots; LibreCAD's page for the drawings is 567 by 433, or 12 by 9 mm
 
 
 def plain(text):
@@ -52,21 +47,6 @@ def in_gdal(file):
     assert not gdal.GetLastErrorMsg(), (file, gdal.GetLastErrorMsg())
 
 
-def in_librecad(files, folder):
-    """The straight strokes of each file's page, in dots, as they start in cells of the page."""
-    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen", "HOME": str(folder), "XDG_RUNTIME_DIR": str(folder)}
-    subprocess.run(["librecad", "dxf2pdf", "-s", "1", "-t", folder, *files], env=environment, capture_output=True,
-                   check=True, timeout=240)
-    for file in files:
-        pdf = (folder / (file.stem + ".pdf")).read_bytes()
-        page = max((zlib.decompress(s) for s in re.findall(rb"(?<=stream\n)x.*?(?=endstream)", pdf, re.S)), key=len)
-        strokes = collections.defaultdict(list)
-        for stroke in re.findall(rb"(-?\d+) (-?\d+) m\n(-?\d+) (-?\d+) l\nS\n", page):
-            x, y, *end = map(int, stroke)
-            strokes[x // CELL, y // CELL].append((x, y, *end))
-        yield strokes
-
-
 class Readers(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -92,21 +72,6 @@ class Readers(unittest.TestCase):
                 self.assertEqual((*head, plain(text)), (*other_head, plain(other_text)), file)
                 for p, q in zip(points, other_points, strict=True):
                     self.assertLess(max(abs(p[0] - q[0]), abs(p[1] - q[1])), 1e-9, (file, head))
-
-    def test_librecad(self):
-        """Its converter draws every line to scale."""
-        files = self.files[len(JOBS):]  # German; the PDF files of the others would have the same names
-        for file, strokes in zip(files, in_librecad(files, self.folder)):
-            shapes = [[tuple(p)[:2] for p in points] for _, kind, points, _ in in_ezdxf(file)
-                      if kind in ("LINE", "LWPOLYLINE")]
-            (x, y), (left, top, *_) = shapes[0][0], next(iter(strokes.values()))[0]
-            for p, q in itertools.chain(*map(itertools.pairwise, shapes)):
-                if math.dist(p, q) < 0.1:
-                    continue  # less than a stroke
-                line = [v for px, py in (p, q) for v in (left + SCALE * (px - x), top - SCALE * (py - y))]
-                cells = itertools.product(*([int(v // CELL) + d for d in (-1, 0, 1)] for v in line[:2]))
-                away = min((math.dist(stroke, line) for cell in cells for stroke in strokes[cell]), default=math.inf)
-                self.assertLess(away, 4, (file, p, q))
 
     def test_template(self):
         """Its handles are below those of the drawing, and every pointer has its object."""

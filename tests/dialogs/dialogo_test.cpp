@@ -60,42 +60,42 @@ struct Guardado {
 // A good piece of each kind, on the boundaries: sums that equal their side, tilts of 90 and the like are no error. Its
 // faults, from the last check to the first, each of which hides the ones before.
 const struct Buena {
-  const char* clave;
+  const DefDialogo& def;
   int textoError;
   const char* textos;
   std::vector<Fallo> fallos;
   std::vector<Guardado> guarda;
 } kBuenas[]{
     // clang-format off
-    {"TransCR", 20, "300 200 400 300 6 7 90 12 2",
+    {kFrTransfCR, 20, "300 200 400 300 6 7 90 12 2",
      {{"TxtAlfa", "-90.01", "TxtAlfa"}, {"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtRS", "200.01", "TxtRS"},
       {"TxtAI", "0", "TxtAI"}, {"TxtLI", "0", "TxtLI"}, {"TxtRS", "0.00", "TxtRS"}, {"TxtH", "0", "TxtH"},
       {"TxtAlfa", "3-", "TxtAlfa"}, {"TxtAX", ".", "TxtAX"}},  // fields without a number come before all checks
      {{&E::dL1Base, 398, 2}, {&E::dL2Base, 298, 2}, {&E::dRadioAlto, 200, 1}, {&E::dAx, 6, 0}, {&E::dAy, 7, 0},
       {&E::dAlfa, 90, 0}, {&E::dRadioRC, 0, 0}}},
-    {"TransRC", 20, "300 150 400 300 6 7 -90 12 2", {{"TxtRI", "149.99", "TxtRI"}},
+    {kFrTransfRC, 20, "300 150 400 300 6 7 -90 12 2", {{"TxtRI", "149.99", "TxtRI"}},
      {{&E::dL1BaseRC, 398, 2}, {&E::dL2BaseRC, 298, 2}, {&E::dRadioRC, 150, 1}, {&E::dAx, 6, 0}, {&E::dAy, 7, 0},
       {&E::dAlfa, -90, 0}, {&E::dRadioAlto, 0, 0}}},
-    {"TransElip", 20, "300 200 200 400 350 6 7 90 12 2",
+    {kFrTransBaRectBoElip, 20, "300 200 200 400 350 6 7 90 12 2",
      {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxteMeS", "200.01", "TxteMaS"}, {"TxtA", "0", "TxtA"}},
      {{&E::dL1Elip, 398, 2}, {&E::dL2Elip, 348, 2}, {&E::dEjeMayorElip, 200, 1}, {&E::dEjeMenorElip, 200, 1},
       {&E::dAx, 6, 0}, {&E::dAyElip, 7, 0}, {&E::dAy, 0, 0}, {&E::dAlfa, 90, 0}}},
-    {"TransEsp1", 20, "300 50 50 50 50 60 60 60 60 100 100 120 120 0 0 9 8 12",
+    {kFrTransfEsp1, 20, "300 50 50 50 50 60 60 60 60 100 100 120 120 0 0 9 8 12",
      {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtR24", "60.01", "TxtR23"}, {"TxtR21", "60.01", "TxtR21"},
       {"TxtR14", "50.01", "TxtR13"}, {"TxtR13", "50.01", "TxtR12"}, {"TxtR11", "50.01", "TxtR11"}},
      {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, 60, 1}, {&E::dR24, 60, 1}, {&E::dLX1, 100, 1},
       {&E::dLY1, 100, 1}, {&E::dLY2, 120, 1}}},
-    {"TransEsp2", 20, "300 50 200 200 0 0 9 8 12",
+    {kFrTansfEsp2, 20, "300 50 200 200 0 0 9 8 12",
      {{"TxtAlfa", "90.01", "TxtAlfa"}, {"TxtLY", "200.01", "TxtLY"}},
      {{&E::dLX1, 100, 2}, {&E::dLY1, 100, 2}, {&E::dLY2, 200, 1}, {&E::dRadioEsp, 50, 1}, {&E::dRadioEsp2, 100, .5}}},
-    {"TransEsp3", 40, "300 50 100 200 0 0 9 8 12",
+    {kFrTransfEsp3, 40, "300 50 100 200 0 0 9 8 12",
      {{"TxtLX", "99.99", "TxtLY"}, {"TxtH", "1", "TxtAlfa"}},
      {{&E::dLX1, 100, 2}, {&E::dLY1, 100, 2}, {&E::dLY2, 200, 1}, {&E::dRadioEsp, 50, 1}, {&E::dRadioEsp2, 100, .5}}},
-    {"TransEsp4", 20, "300 50 60 60 60 60 120 120 0 0 9 8 12",
+    {kFrTransEsp4, 20, "300 50 60 60 60 60 120 120 0 0 9 8 12",
      {{"TxtR24", "60.01", "TxtR23"}, {"TxtR22", "60.01", "TxtR21"}, {"TxtH", "1", "TxtAlfa"}},
      {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, 60, 1}, {&E::dR24, 60, 1}, {&E::dLX1, 100, 2},
       {&E::dLY1, 100, 2}, {&E::dLY2, 120, 1}}},
-    {"TransEsp5", 20, "300 50 50 50 50 100 100 300 300 0 0 9 8 12",
+    {kFrTransEspe5, 20, "300 50 50 50 50 100 100 300 300 0 0 9 8 12",
      {{"TxtLX1", "99.99", "TxtR11"}, {"TxtR14", "50.01", "TxtR14"}, {"TxtR12", "50.01", "TxtR12"},
       {"TxtH", "1", "TxtAlfa"}},
      {{&E::dR11, 50, 1}, {&E::dR14, 50, 1}, {&E::dR21, .005, 0}, {&E::dR24, .005, 0}, {&E::dLX1, 100, 0},
@@ -103,7 +103,7 @@ const struct Buena {
     // clang-format on
 };
 
-void PrintTo(const Buena& buena, std::ostream* salida) { *salida << buena.clave; }
+void PrintTo(const Buena& buena, std::ostream* salida) { *salida << buena.def.clave; }
 
 class Dialogos : public testing::TestWithParam<Buena> {
  protected:
@@ -119,7 +119,7 @@ class Dialogos : public testing::TestWithParam<Buena> {
     estado.iUnidad = 1;
     estado.iFibra = 2;
     estado.iDivisiones = 24;
-    return *DialogoDe(GetParam().clave);
+    return GetParam().def;
   }
   int NumeroDe(std::string_view nombre) {
     const auto campos = dialogo.Definicion().campos;
@@ -134,7 +134,8 @@ class Dialogos : public testing::TestWithParam<Buena> {
     EXPECT_EQ(dialogo.Foco(), NumeroDe(f.foco)) << f.campo << " " << f.texto;
     EXPECT_EQ(dialogo.lblerror(), Texto(GetParam().textoError));
   }
-  const bool especial = std::string_view(GetParam().clave).starts_with("TransEsp");
+  static std::string_view Clave() { return GetParam().def.clave; }
+  const bool especial = Clave().starts_with("TransEsp");
   Dialogo dialogo{Nuevo()};
 };
 
@@ -148,7 +149,7 @@ TEST_P(Dialogos, StoreWhatTheyAcceptCorrectedForTheFibre) {
       EXPECT_EQ(estado.*dato, neutro + c * correccion) << &dato - &GetParam().guarda[0].dato;
     }
   }
-  const std::string_view tipo = GetParam().clave == std::string_view("TransElip") ? "row" : GetParam().clave;
+  const std::string_view tipo = Clave() == "TransElip" ? "row" : Clave();
   EXPECT_EQ(estado.sTipoPieza, tipo);
   EXPECT_TRUE(estado.dAltura == 300 && estado.iDivisiones == 12 && dialogo.lblerror().empty());
   EXPECT_EQ(tipo == "row" ? estado.iPosIniElip : estado.iPosIni, especial ? estado.iPosIni : 2);
@@ -161,14 +162,14 @@ TEST_P(Dialogos, CheckInTheirOrder) {
     for (const char* bueno : {"4", "908", "15.6"}) EXPECT_EQ(Con("TxtDivisiones", bueno), Respuesta::aceptado);
     EXPECT_EQ(estado.iDivisiones, 16);
     // Where the tilt is held against the base too, the height keeps it clear of it.
-    const bool mira = std::string_view(GetParam().clave) > "TransEsp2";
+    const bool mira = Clave() > "TransEsp2";
     if (mira) Con("TxtH", "99999999");
     for (const char* malo : {"0", "2", "912", "99999999", "13"}) ExpectError({"TxtDivisiones", malo, "TxtDivisiones"});
     if (!mira) ExpectError({"TxtBeta", "90.01", "TxtBeta"});
   }
   for (const Fallo& f : GetParam().fallos) ExpectError(f);
   if (especial) {
-    const bool conPunto = std::string_view(GetParam().clave) == "TransEsp4";
+    const bool conPunto = Clave() == "TransEsp4";
     EXPECT_EQ(Teclea(U'.', dialogo.CampoDe(NumeroDe("TxtH")), dialogo.Definicion().campos.back().filtro), conPunto);
   }
   // An empty field comes before all that is wrong, with a message of its own.
@@ -176,10 +177,11 @@ TEST_P(Dialogos, CheckInTheirOrder) {
   estado.plataforma = &mesa;
   EXPECT_EQ(Con("TxtAY", "  "), Respuesta::campoVacio);
   EXPECT_EQ(dialogo.Foco(), NumeroDe("TxtAY"));
-  EXPECT_EQ(mesa.mensajes, std::vector{Texto(GetParam().clave == std::string_view("TransElip") ? 61 : 15)});
+  EXPECT_EQ(mesa.mensajes, std::vector{Texto(Clave() == "TransElip" ? 61 : 15)});
 }
 
-INSTANTIATE_TEST_SUITE_P(Todos, Dialogos, testing::ValuesIn(kBuenas), [](const auto& p) { return p.param.clave; });
+INSTANTIATE_TEST_SUITE_P(Todos, Dialogos, testing::ValuesIn(kBuenas),
+                         [](const auto& p) { return std::string(p.param.def.clave); });
 
 TEST(Dialogo, LabelsByUnitAndLanguage) {
   enum { R = 1, EjeMayor = 1, Alfa = 6, PosIni = 8, PosIniElip };

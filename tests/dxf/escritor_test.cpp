@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <locale>
 
-#include "ayudas.h"
 #include "annotation/anotacion.h"
+#include "ayudas.h"
 #include "state/fichero.h"
 #include "state/textos.h"
 
@@ -101,17 +101,6 @@ TEST_F(Escritor, RefusalsLeaveWhatStoodThere) {
   cLine lejos{.x1 = -1.7e308, .x2 = 1.7e308};
   estado.oDrawing->InsertLine(&lejos);
   EsperaRechazo("a view without a centre");
-}
-
-TEST_F(Escritor, BlocksAreFoundByTheirName) {
-  estado.oDrawing->Name = " Marco ";
-  DibujaLinea(axew_, 1, 2, 3, 4, 7);
-  dxf_.InsertBlocks({nullptr, estado.oDrawing});
-  dxf_.InsertBlocks({});
-  double v[6] = {};
-  EXPECT_FALSE(dxf_.Globals().GetBlockBorder("otro", v[0], v[1], v[2], v[3], v[4], v[5]));
-  EXPECT_TRUE(dxf_.Globals().GetBlockBorder("MARCO", v[0], v[1], v[2], v[3], v[4], v[5]));
-  EXPECT_EQ(std::vector(v, v + 6), (std::vector<double>{1, 2, 0, 3, 4, 0}));
 }
 
 }  // namespace

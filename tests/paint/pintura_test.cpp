@@ -4,14 +4,12 @@
 #include <QBitmap>
 #include <QDir>
 #include <QFile>
-#include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <cmath>
 #include <csignal>
-#include <thread>
 #include <vector>
 
 #include "paint/pintura.h"
@@ -108,14 +106,6 @@ TEST(Pinta, TextsStandOnTheirBaselineWithTheHeightOfCapitals) {
   EsperaCaja(caja, caja.left(), 91, caja.right(), 190, 2);
   axew.EwRotate(texto, {10, -20, 0}, {0, 0, 1}, 90);  // its foot is to the right, it reads upwards
   EsperaCaja(Manchado(Imagen(axew, {{0, 0}, 2})), 121, 190 - hueco - caja.width(), 220, 190 - hueco, 2);
-}
-
-TEST(Pinta, ChineseCharactersAreNotMissing) {
-  if (QFontDatabase::families(QFontDatabase::SimplifiedChinese).isEmpty()) GTEST_SKIP() << "no Chinese font here";
-  EWdraw una, otra;
-  una.EwAddText("\u5468", "Arial Unicode MS", {}, 30, 0);
-  otra.EwAddText("\u957F", "Arial Unicode MS", {}, 30, 0);
-  EXPECT_NE(Imagen(una, {{0, 0}, 2}), Imagen(otra, {{0, 0}, 2})) << "missing characters are all the same box";
 }
 
 TEST(Pinta, EveryColourReadsOnPaper) {
@@ -219,23 +209,6 @@ TEST(GuardaImagen, WhatCannotBeWrittenLeavesWhatWasThere) {
     EXPECT_EQ(Lee(ruta), antes);
   }
   EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList("old")) << "no scraps";
-}
-
-TEST(GuardaImagen, SeveralThreadsAtOnce) {
-  const QTemporaryDir carpeta;
-  const auto ruta = [&](int hilo) { return carpeta.filePath(QString::number(hilo)); };
-  const auto guarda = [&](int hilo) {
-    EWdraw axew;
-    Llena(axew, 300, 200);
-    for (const Formato formato : {Formato::pdf, Formato::svg, Formato::png}) {
-      EXPECT_TRUE(GuardaImagen(axew, ruta(hilo).toStdString(), formato));
-    }
-  };
-  guarda(0);
-  std::vector<std::thread> hilos;
-  for (int hilo = 1; hilo <= 4; ++hilo) hilos.emplace_back(guarda, hilo);
-  for (std::thread& hilo : hilos) hilo.join();
-  for (int hilo = 1; hilo <= 4; ++hilo) EXPECT_EQ(Lee(ruta(hilo)), Lee(ruta(0)));
 }
 
 }  // namespace

@@ -12,67 +12,86 @@
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "mesa.h"
-#include "shell/corrida.h"
+#include "piece/numeros_texto.h"
+#include "pieza_tecleada.h"
+#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
-#include "state/estado.h"
 #include "state/fichero.h"
 #include "state/textos.h"
 
 namespace duktores {
 namespace {
 
-class Corrida : public testing::Test {
+class Corridas : public testing::Test {
  protected:
-  Corrida() {
-    EstadoPrograma& e = estado = {};
-    std::tie(e.sTipoPieza, e.dTamanoTexto, e.iDivisiones, e.iPosIni, e.iPosIniElip) =
-        std::tuple("TransCR", 10, 12, 2, 3);
-    std::tie(e.dAltura, e.dL1Base, e.dL2Base, e.dRadioAlto) = std::tuple(250, 400, 300, 90);
-    std::tie(e.dL1Elip, e.dL2Elip, e.dEjeMayorElip, e.dEjeMenorElip) = std::tuple(440, 340, 210, 150);
-    std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2, e.dRadioEsp) = std::tuple(200, 150, 310, 280, 60);
-    e.plataforma = &mesa;
+  Corridas() { Configura(); }
+  ~Corridas() override { estado = {}; }
+  void Acepta(TipoPieza tipo, const std::string& textos, bool dosPiezas = false) {
+    Aceptada(tipo, textos, dosPiezas);
+    estado.plataforma = &mesa;
     axew.PonVista(&mesa);
   }
-  ~Corrida() override { estado = {}; }
   EWdraw axew;
   Mesa mesa;
 };
+constexpr const char *kCR = "250 90 400 300 0 0 0 12 2",
+                     *kEsp1 = "300 50 50 50 50 50 50 50 50 200 200 300 300 0 0 0 0 4";
 
-// What the engines are given shows where their patterns are held against their solids.
-TEST_F(Corrida, LeavesItsDivisionsToTheTitleBlock) {
-  EXPECT_EQ(Desplegado(axew), FinCorrida::completo);
-  EXPECT_EQ(std::exchange(estado.inumDoblado, 0), 12);
-  estado.sTipoPieza = "any other";
-  EXPECT_EQ(Desplegado(axew), FinCorrida::completo);
-  EXPECT_TRUE(estado.inumDoblado == 12 && estado.MultinumDoblado == 20);
-  estado.sTipoPieza = "TransEsp1";
-  Dibuja3D(axew);
-  EXPECT_EQ(axew.Entidades()[0].puntos.size(), 36 * 12 / 4 + 1);
-  EXPECT_EQ(Desplegado(axew), FinCorrida::eleccionRechazada);
-  EXPECT_EQ(estado.MultinumDoblado, 36);
+// The engines' working values, for whoever looks at them behind a run.
+TEST_F(Corridas, LeavesItsWorkingValues) {
+  const std::tuple<TipoPieza, const char*, int, int> casos[] = {
+      {TipoPieza::cr, kCR, 12, 0},
+      {TipoPieza::elip, "250 210 150 440 340 0 0 0 24 3", 24, 20},
+      {TipoPieza::esp1, kEsp1, 144, 36},
+      {TipoPieza::esp2, "300 50 300 200 0 0 0 0 4", 144, 36},
+      {TipoPieza::esp5, "300 0 20 30 100 200 200 200 200 0 0 0 0 8", 288, 36}};
+  for (const auto& [tipo, textos, doblado, multiplo] : casos) {
+    Acepta(tipo, textos);
+    Desplegado(axew);
+    EXPECT_TRUE(estado.inumDoblado == doblado && estado.MultinumDoblado == multiplo) << textos;
+  }
+  // Of the last one the radii, before and after the usual rules have moved them; of those above what they leave.
+  const EstadoPrograma& e = estado;
+  EXPECT_EQ(std::tuple(e.dR11Ini, e.dR14Ini, e.dR11, e.dR14, e.dR21), std::tuple(0, 100, -.2, 100, .005));
+  EXPECT_EQ(std::tuple(e.dR21Ini, e.dRadioEspIni), std::tuple(50, 50));
+  EXPECT_NEAR(e.dRadioEsp, 49.995, 1e-12);
+  EXPECT_EQ(e.dRadioEsp2, 100);
 }
 
-TEST_F(Corrida, ARefusedPickKeepsTheFirstPiece) {
-  estado.bDosPiezas = true;
+// Radii that the usual rules move apart must not be moved again.
+TEST_F(Corridas, TheSecondOneDrawsWhatTheFirstDrew) {
+  Acepta(TipoPieza::esp1, kEsp1);
+  mesa.puntos.resize(32);
+  const Solido solido = SolidoDe(*estado.pieza);
+  const auto desarrolla = [&] {
+    const auto [fin, hoja] = Desplegado(axew);
+    EXPECT_EQ(fin, FinCorrida::completo);
+    return estado.oDrawing->GetEntities() + Textos(axew.Entidades()) + TextoVeredicto(Juzga(solido, hoja));
+  };
+  EXPECT_EQ(desarrolla(), desarrolla());
+}
+
+TEST_F(Corridas, ARefusedPickKeepsTheFirstPiece) {
+  Acepta(TipoPieza::cr, kCR, true);
+  estado.iBox = 0;
+  estado.sDimensiones = "0";
   mesa.puntos = {{100, 20, 0}};
   axew.EwAddPoint({});
   axew.EwViewDirection(1, 1, 1);
-  EXPECT_EQ(Desplegado(axew), FinCorrida::eleccionRechazada);
+  EXPECT_EQ(Desplegado(axew).fin, FinCorrida::eleccionRechazada);
   EXPECT_EQ(estado.oDrawing->Count(), 1 + 9 + 21);
   EXPECT_EQ(axew.EwEntityCount(), 1 + 9 + 21);
   EXPECT_EQ(estado.iHandleDxf, 500 + 1 + 9 + 21);
   EXPECT_EQ(axew.DireccionVista(), (Punto3{0, 0, 1}));
 }
 
-TEST_F(Corrida, AnErrorEndsTheRunAndIsTold) {
+TEST_F(Corridas, AnErrorEndsTheRunAndIsTold) {
+  EXPECT_EQ(Desplegado(axew).fin, FinCorrida::error) << "no piece";
+  Acepta(TipoPieza::cr, kCR);
   estado.iHandleDxf = 32760;
-  EXPECT_EQ(Despliega(axew), FinCorrida::error);
+  EXPECT_EQ(Despliega(axew).fin, FinCorrida::error);
   EXPECT_EQ(estado.oDrawing->Count(), 8);
-  EXPECT_EQ(mesa.mensajes, std::vector{Texto(82)});
-  estado.iPosIni = 9;
-  EXPECT_EQ(Despliega(axew), FinCorrida::error);
-  EXPECT_EQ(estado.oDrawing->Count(), 0);
-  EXPECT_EQ(mesa.mensajes.size(), 1U);
+  EXPECT_EQ(mesa.mensajes, std::vector{Texto(texto::kDemasiadas)});
 }
 
 namespace fs = std::filesystem;

@@ -103,14 +103,6 @@ TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
   EXPECT_EXIT(std::_Exit(enEspanol() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(Arranque, FilesAreReadAndWrittenWhole) {
-  const std::string fichero = raiz_ / "file", enlace = raiz_ / "link", bytes(100000, '\0');
-  for (const char* ruta : {raiz_.c_str(), "/proc/self/mem", enlace.c_str()}) EXPECT_EQ(LeeFichero(ruta), std::nullopt);
-  EXPECT_FALSE(EscribeFichero(raiz_, "x") || EscribeFichero(raiz_ / "none/x", "x") || !EscribeFichero(fichero, "old"));
-  fs::create_symlink("file", enlace);
-  EXPECT_TRUE(EscribeFichero(enlace, bytes) && fs::is_symlink(enlace) && LeeFichero(fichero) == bytes);
-}
-
 TEST(Ini, Values) {
   // clang-format off
   const std::pair<const char*, const char*> casos[] = {

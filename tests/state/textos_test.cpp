@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "piece/numeros_texto.h"
 #include "state/caracteres.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
@@ -52,7 +53,7 @@ TEST(Textos, ExactlyTheNumbersOfEachLanguageFitForTheirPlace) {
   }
   for (const double id : {-1.0, 1.5, 70001.0, 1e300, std::nan(""), HUGE_VAL}) EXPECT_EQ(Busca(id), "") << id;
   EXPECT_TRUE(Busca(52) == "eMaS " && Busca(10049) == "ELYPTIC TRANS.");
-  EXPECT_EQ(Busca(10000 + kTextoDemasiadas), "The unfolding ended early: too many entities");
+  EXPECT_EQ(Busca(10000 + texto::kDemasiadas), "The unfolding ended early: too many entities");
 }
 
 struct Anota : Plataforma {

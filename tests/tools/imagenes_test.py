@@ -1,4 +1,4 @@
-"""The pictures of Images/ against the program that draws them. Usage: imagenes_test.py PROGRAM IMAGES CATALOGUE_SOURCE
+"""The pictures of Images/ against the program that draws them. Usage: imagenes_test.py PROGRAM IMAGES SOURCE...
 
 Letters depend on the fonts of a machine, so the files are compared in size and form, not pixel by pixel.
 """
@@ -33,7 +33,7 @@ def faltas(fichero):
     return lista
 
 
-programa, imagenes, catalogo = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
+programa, imagenes, *fuentes = map(pathlib.Path, sys.argv[1:])
 quejas = []
 with tempfile.TemporaryDirectory() as temporal:
     subprocess.run([programa, temporal], check=True)
@@ -43,7 +43,7 @@ with tempfile.TemporaryDirectory() as temporal:
         quejas.append(f"{sorted(guardadas)} of {imagenes} and {sorted(nuevas)} as drawn differ in names or sizes")
     for fichero in [*nuevas.values(), *guardadas.values()]:
         quejas += [f"{fichero}: {falta}" for falta in faltas(fichero)]
-    pedidas = set(re.findall(r'"(\w+\.bmp)"', catalogo.read_text()))
+    pedidas = {nombre for fuente in fuentes for nombre in re.findall(r'"(\w+\.bmp)"', fuente.read_text())}
     if pedidas != set(guardadas):
         quejas.append(f"the catalogue asks for other pictures: {sorted(pedidas ^ set(guardadas))}")
 sys.exit("\n".join(quejas) or None)

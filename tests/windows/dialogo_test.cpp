@@ -1,5 +1,3 @@
-
-
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
@@ -9,12 +7,8 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QRadioButton>
-#include <map>
 
-#include "dialogs/dialogo.h"
-#include "dialogs/especiales.h"
-#include "dialogs/rectangulares.h"
-#include "shell/catalogo.h"
+#include "shell/lista.h"
 #include "state/textos.h"
 #include "windows/fr_dialogo.h"
 #include "windows/fr_lista_duktores.h"
@@ -36,40 +30,66 @@ class Lista : public ConVentanas {
   QListWidget* filas_ = &Hijo<QListWidget>(lista_, "LstDuktores");
 };
 
-TEST_F(Lista, PicturesAndCaptionsByRow) {
-  // clang-format off
-  constexpr const char* imagenes[]{
-      "PresentDuktores.bmp", "", "TransBasRect.bmp", "TransBasCirc.bmp", "", "PresentTransEspeciales.bmp",
-      "PresentTransEspeciales.bmp", "", "Transespe1.bmp", "Transespe2.bmp", "Transespe3.bmp", "Transespe4.bmp",
-      "Transespe5.bmp", "", "PresentTransElip.bmp", "", "TransBoElip.bmp"};
-  // clang-format on
-  const std::map<int, std::string> rotulos{
-      {0, "DUKTORES"}, {5, "DUKTORES ESPECIALES "}, {6, "DUKTORES ESPECIALES "}, {14, "TRANSF. ELIPTICOS"}};
+// clang-format off
+const struct {
+  const char *texto, *rotulo, *imagen, *ventana, *campos;
+} kRenglones[]{
+    {"DUKTORES", "DUKTORES", "PresentDuktores.bmp", "", ""},
+    {"", "", "", "", ""},
+    {"Transf. Rect. Circ.", "", "TransBasRect.bmp", "FrTransfCR", "H RS LI AI AX AY Alfa "},
+    {"Transf. Circ. Rect.", "", "TransBasCirc.bmp", "FrTransfRC", "H RI LS AS AX AY Alfa "},
+    {" ", "", "", "", ""},
+    {"DUKTORES", "DUKTORES ESPECIALES ", "PresentTransEspeciales.bmp", "", ""},
+    {"ESPECIALES", "DUKTORES ESPECIALES ", "PresentTransEspeciales.bmp", "", ""},
+    {" ", "", "", "", ""},
+    {"Transf. 4 Vert. Redond.", "", "Transespe1.bmp", "FrTransfEsp1",
+     "H R11 R12 R13 R14 R21 R22 R23 R24 LX1 LY1 LX2 LY2 AX AY Alfa Beta Divisiones "},
+    {"Transf. Base 2 Semicir.", "", "Transespe2.bmp", "FrTansfEsp2", "H R LX LY AX AY Alfa Beta Divisiones "},
+    {"Transf. Rect. Semicirc.", "", "Transespe3.bmp", "FrTransfEsp3", "H R LX LY AX AY Alfa Beta Divisiones "},
+    {"Transf.4-2 Vert.Redond.", "", "Transespe4.bmp", "FrTransEsp4",
+     "H R1 R21 R22 R23 R24 LX LY AX AY Alfa Beta Divisiones "},
+    {"Transf. Base 4 Vert.", "", "Transespe5.bmp", "FrTransEspe5",
+     "H R11 R12 R13 R14 LX1 LY1 LX2 LY2 AX AY Alfa Beta Divisiones "},
+    {" ", "", "", "", ""},
+    {"TRANSF. ELIPTICOS", "TRANSF. ELIPTICOS", "PresentTransElip.bmp", "", ""},
+    {" ", "", "", "", ""},
+    {"Transf. Ba. Rect. Bo. Elip.", "", "TransBoElip.bmp", "FrTransBaRectBoElip", "H eMaS eMeS L A AX AY Alfa "},
+};
+// clang-format on
+
+// Row by row: its text, caption and picture, and the window that it opens, with its fields.
+TEST_F(Lista, EachRowShowsAndOpensItsOwn) {
   auto& imagen = Hijo<Imagen>(lista_, "PicDuktores");
   auto& rotulo = Hijo<QLabel>(lista_, "LblGeneral");
   Imagen esperada(nullptr);
   esperada.resize(imagen.size());
-  ASSERT_EQ(filas_->count(), 17);
-  EXPECT_EQ(filas_->currentRow(), 0);
+  ASSERT_EQ(filas_->count(), static_cast<int>(std::size(kRenglones)));
   EXPECT_TRUE(filas_->hasFocus());
-  for (int fila = 0; fila < 17; ++fila) {
-    const std::string fichero = imagenes[fila];
+  for (int fila = 0; fila < filas_->count(); ++fila) {
+    const auto& [texto, titulo, fichero, ventana, campos] = kRenglones[fila];
+    SCOPED_TRACE(fila);
+    EXPECT_EQ(filas_->currentRow(), fila);
+    EXPECT_EQ(filas_->item(fila)->text().toStdString(), texto);
+    EXPECT_EQ(rotulo.isVisible() ? rotulo.text().toStdString() : "", titulo);
     esperada.Carga(fichero);
-    EXPECT_EQ(imagen.Vacia(), fichero.empty()) << fila;
-    EXPECT_EQ(Vista(imagen), Vista(esperada)) << fila;
-    const std::string visible = rotulo.isVisible() ? rotulo.text().toStdString() : "";
-    EXPECT_EQ(visible, rotulos.contains(fila) ? rotulos.at(fila) : "") << fila;
-    QTest::keyClick(filas_, Qt::Key_Down);
-  }
-}
-
-TEST_F(Lista, OnlyRowsWithAnEngineOpenADialog) {
-  for (int fila = 0; fila < 17; ++fila) {
-    filas_->setCurrentRow(fila);
-    const DefDialogo* def = VentanaDe(FilasCatalogo()[static_cast<std::size_t>(fila)].dialogo);
-    if (def) usuario_.Cuando(std::string(def->nombre), [](QWidget& dialogo) { Pulsa(dialogo, "CmdCancelar"); });
+    EXPECT_EQ(imagen.Vacia(), *fichero == 0);
+    EXPECT_EQ(Vista(imagen), Vista(esperada));
+    std::string abierta;
+    if (*ventana != 0) {
+      usuario_.Cuando(ventana, [&](QWidget& dialogo) {
+        abierta = dialogo.windowTitle().toStdString() + ":";
+        for (auto* campo : dialogo.findChildren<QLineEdit*>())
+          abierta += campo->objectName().mid(3).toStdString() + " ";
+        esperada.resize(Hijo(dialogo, "Image1").size());
+        EXPECT_EQ(Vista(Hijo(dialogo, "Image1")), Vista(esperada));
+        esperada.resize(imagen.size());
+        Pulsa(dialogo, "CmdCancelar");
+      });
+    }
     QTest::keyClick(filas_, fila % 2 == 0 ? Qt::Key_Return : Qt::Key_Enter);
-    EXPECT_EQ(estado.sTipoPieza, filas_->item(fila)->text().toStdString());
+    EXPECT_EQ(abierta, *ventana == 0 ? "" : std::string(texto) + ":" + campos);
+    EXPECT_EQ(estado.sTipoPieza, texto);
+    QTest::keyClick(filas_, Qt::Key_Down);
   }
   const QPoint segunda = filas_->visualItemRect(filas_->item(2)).center();
   const auto cierra = [](QWidget& dialogo) { dialogo.close(); };
@@ -79,19 +99,6 @@ TEST_F(Lista, OnlyRowsWithAnEngineOpenADialog) {
   EXPECT_EQ(estado.sTipoPieza, Texto(11));
   usuario_.Cuando("FrTransfCR", cierra);
   Pulsa(lista_, "CmdContinuar");
-}
-
-TEST_F(Lista, ChineseLeavesTooltipsAndCaptionsUnset) {
-  EXPECT_EQ(lista_.windowTitle(), "Duktores");
-  EXPECT_EQ(Hijo(lista_, "CmdSalir").toolTip(), "Salir");
-  estado.dIdioma = kChino;
-  FrListaDuktores china;
-  FrDialogo dialogo(kFrTransfCR, "", nullptr);
-  EXPECT_EQ(china.windowTitle(), "duktores");
-  EXPECT_EQ(dialogo.windowTitle(), "duktores");
-  EXPECT_EQ(Hijo(china, "CmdContinuar").toolTip() + Hijo(china, "CmdSalir").toolTip(), "");
-  EXPECT_EQ(Hijo(dialogo, "CmdAceptar").toolTip() + Hijo(dialogo, "CmdCancelar").toolTip(), "");
-  EXPECT_EQ(Hijo<QListWidget>(china, "LstDuktores").item(2)->text().toStdString(), Texto(11));
 }
 
 TEST_F(Lista, ControlsKeepTheirShareOfTheWindow) {
@@ -157,26 +164,8 @@ class VentanaCR : public ConVentanas {
     Elige("CmbPosIni", 2);
   }
 
-  FrDialogo dialogo_{kFrTransfCR, "TransBasRect.bmp", nullptr};
+  FrDialogo dialogo_{FilaDe(TipoPieza::cr), nullptr};
 };
-
-TEST_F(VentanaCR, KeysPassTheFilterAndEnterGoesOn) {
-  QLineEdit& h = Texto_("TxtH");
-  EXPECT_EQ(Foco(), "TxtH");
-  QTest::keyClicks(&h, "-1a2,3.456");
-  // Beyond the first plane, of private use, without a form of its own: keys that a line edit takes besides printable
-  // ones.
-  for (const char16_t* tecla : {u"\U0001F600", u"\uE000", u"\u200D", u"\u4E00"}) {
-    QTest::sendKeyEvent(QTest::Click, &h, Qt::Key_unknown, QString::fromUtf16(tecla), Qt::NoModifier);
-  }
-  EXPECT_EQ(h.text(), "12.34");
-  QTest::keyClick(&h, Qt::Key_Backspace);
-  EXPECT_EQ(h.text(), "12.3");
-  QTest::keyClick(&h, Qt::Key_Return);
-  EXPECT_EQ(Foco(), "TxtRS");
-  QTest::keyClick(&Texto_("TxtRS"), Qt::Key_Enter);
-  EXPECT_EQ(Foco(), "TxtLI");
-}
 
 TEST_F(VentanaCR, FocusAndClickMarkAll) {
   QLineEdit &h = Texto_("TxtH"), &rs = Texto_("TxtRS");
@@ -204,15 +193,12 @@ TEST_F(VentanaCR, WhatIsNotTypedPassesTheFilterToo) {
   QTest::keyClick(&h, Qt::Key_Insert, Qt::ShiftModifier);
   expectToma("4.56");
 
-  QContextMenuEvent menu(QContextMenuEvent::Mouse, {5, 5}, h.mapToGlobal(QPoint(5, 5)));
-  QApplication::sendEvent(&h, &menu);
-  QWidget* abierto = QApplication::activePopupWidget();
-  ASSERT_NE(abierto, nullptr);
-  for (QAction* accion : abierto->actions()) {
-    if (accion->text().startsWith("&Paste")) accion->trigger();
+  // Beyond the first plane, of private use, without a form of its own: keys that a line edit takes besides printable
+  // ones.
+  for (const char16_t* tecla : {u"\U0001F600", u"\uE000", u"3", u"\u200D", u"\u4E00"}) {
+    QTest::sendKeyEvent(QTest::Click, &h, Qt::Key_unknown, QString::fromUtf16(tecla), Qt::NoModifier);
   }
-  abierto->close();
-  expectToma("4.56");
+  expectToma("3");
 
   QInputMethodEvent metodo;
   metodo.setCommitString("8一,9");
@@ -290,52 +276,6 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   EXPECT_EQ(Foco(), "TxtH");
   EXPECT_EQ(Texto_("TxtAY").text(), "25.5");
   EXPECT_EQ(Hijo<QComboBox>(dialogo_, "CmbPosIni").currentText(), "3");
-}
-
-class VentanasEspeciales : public ConVentanas {
- protected:
-  // Places what hangs on the pointer under the name `rotulo`.
-  void Coloca(int mensaje, const std::string& rotulo) {
-    usuario_.CierraMensaje(Texto(mensaje));
-    usuario_.Cuando("pick", [rotulo](QWidget& visor) {
-      const auto estadoVisor = Hijo<QLabel>(visor, "LblEstado").text().toStdString();
-      EXPECT_TRUE(estadoVisor.starts_with(rotulo + ": ")) << estadoVisor;
-      QTest::mouseClick(visor.findChild<Lienzo*>(), Qt::LeftButton, {}, {300, 200});
-    });
-  }
-};
-
-// Types the values field by field, accepts, unfolds, places each shape and its block, and goes all the way back. The
-// usual rules unfold the sharp corners badly, and the window says so.
-TEST_F(VentanasEspeciales, TheHalfCircleHasNoSide) {
-  estado.iDivisiones = 16;
-  FrDialogo dialogo(kFrTransfEsp3, "", nullptr);
-  usuario_.Cuando("FrTransfEsp3", [&](QWidget& ventana) {
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&ventana));
-    EXPECT_EQ(Hijo<QLineEdit>(ventana, "TxtDivisiones").text(), "16");
-    for (const char* valor : {"320", "90", "480", "300", "20", "10", "0", "0", "8"}) {
-      QTest::keyClicks(ventana.focusWidget(), valor);
-      QTest::keyClick(ventana.focusWidget(), Qt::Key_Return);
-    }
-    Pulsa(ventana, "CmdAceptar");
-    EXPECT_EQ(Hijo<QLabel>(ventana, "lblerror").text(), "");
-    EXPECT_EQ(estado.iDivisiones, 8) << "typed over what stood there";
-  });
-  usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdDesplegado"); });
-  for (const char* forma : {"Esquina 1", "Lado 1", "Esquina 2", "Lado 2", "Esquina 3", "Esquina 4", "Lado 4"}) {
-    Coloca(63, forma);
-    Coloca(65, Texto(106));
-  }
-  usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
-    EXPECT_TRUE(Hijo(visor, "CmdSave").isEnabled());
-    const auto& veredicto = Hijo<QLabel>(visor, "LblEstado");
-    EXPECT_TRUE(veredicto.text().startsWith(QString::fromStdString(Texto(108)))) << veredicto.text().toStdString();
-    EXPECT_TRUE(veredicto.styleSheet().contains("background"));
-    Pulsa(visor, "CmdCancelar");
-  });
-  usuario_.Cuando("FrTransfEsp3", [](QWidget& ventana) { Pulsa(ventana, "CmdCancelar"); });
-  dialogo.exec();
-  EXPECT_EQ(estado.Formas.size(), 7U);
 }
 
 }  // namespace
