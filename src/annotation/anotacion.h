@@ -36,9 +36,9 @@ void DibujaTexto(EWdraw& axew, double x, double y, std::string& texto, double al
 /// "E": the line and its length at the first or second point. Any other type draws nothing.
 void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double xp, double yp, double altura,
                 std::int16_t color, std::string_view tipo);
-/// The dimensions that surround a pattern, all of one colour and of the annotation's height: an "M" by its three
+/// The dimensions that surround a pattern, all of one colour: an "M" by its three
 /// points, and an extension line. Nothing is drawn for what has no length.
-void Acota(EWdraw& axew, Punto2 p, Punto2 q, Punto2 paso);
+void Acota(EWdraw& axew, double altura, Punto2 p, Punto2 q, Punto2 paso);
 void Extiende(EWdraw& axew, Punto2 p, Punto2 q);
 /// A closed outline, colour 7 on the control; in the file its first vertex stands again at the end. Nothing is drawn
 /// without a vertex.

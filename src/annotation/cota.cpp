@@ -8,9 +8,9 @@
 
 #include "annotation/anotacion.h"
 #include "annotation/finitos.h"
-#include "state/caracteres.h"
 #include "geometry/planas.h"
 #include "geometry/redondeo.h"
+#include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 
@@ -103,9 +103,9 @@ void DibujaCota(EWdraw& axew, double x1, double y1, double x2, double y2, double
   if (tipo == "E") CotaEnPunto(axew, p1, p2, p2, altura, color);
 }
 
-void Acota(EWdraw& axew, Punto2 p, Punto2 q, Punto2 paso) {
+void Acota(EWdraw& axew, double altura, Punto2 p, Punto2 q, Punto2 paso) {
   if (Coinciden(p, q)) return;
-  DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, estado.dTamanoTexto, kColorCota, "M");
+  DibujaCota(axew, p.x, p.y, q.x, q.y, paso.x, paso.y, altura, kColorCota, "M");
 }
 
 void Extiende(EWdraw& axew, Punto2 p, Punto2 q) {

@@ -109,12 +109,12 @@ class Trazado {
 
 // The start side lies at the angle (inicio - 1) * 90 degrees, in the pattern's sense; the corner of quarter c covers
 // the curve's points from c * 90 degrees on.
-OrdenPatron Orden(const MotorTransicion& motor, const Pieza& pieza, int inicio) {
+OrdenPatron Orden(const Pieza& pieza, int sentido, int inicio) {
   const int N = pieza.divisiones, h = N / 2, q = N / 4;
   OrdenPatron orden{{}, {}};
-  for (int k = 1; k <= N + 1; ++k) orden.F.push_back(Resto(motor.sentido * ((inicio - 1) * q + k - h - 1), N));
+  for (int k = 1; k <= N + 1; ++k) orden.F.push_back(Resto(sentido * ((inicio - 1) * q + k - h - 1), N));
   for (int abanico = 0; abanico < 4; ++abanico) {
-    const int cuartos = inicio - 1 + abanico - 2, cuarto = motor.sentido > 0 ? cuartos : -cuartos - 1;
+    const int cuartos = inicio - 1 + abanico - 2, cuarto = sentido > 0 ? cuartos : -cuartos - 1;
     orden.esquinas[static_cast<std::size_t>(abanico)] = N + 1 + Resto(cuarto, 4);
   }
   return orden;

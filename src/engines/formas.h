@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "engines/cotas_transicion.h"
-#include "engines/motor.h"
+#include "piece/patron.h"
 
 namespace duktores {
 
@@ -26,7 +26,8 @@ struct OrdenPatron {
   int Lado(int abanico) const { return Triangulo((abanico + 4) % 4, N() / 4); }
 };
 
-OrdenPatron Orden(const MotorTransicion& motor, const Pieza& pieza, int inicio);
+/// `sentido` is that of the engine; `inicio` counts on behind 4.
+OrdenPatron Orden(const Pieza& pieza, int sentido, int inicio);
 
 std::vector<Cara> Caras(const OrdenPatron& orden, bool dosPiezas);
 

@@ -1,6 +1,5 @@
 #include "engines/motor.h"
 
-#include "engines/cotas_transicion.h"
 #include "engines/formas.h"
 
 namespace duktores {
@@ -12,7 +11,7 @@ Solido MotorTransicion::GeneraDibujo(const Pieza& pieza) const {
   solido.curva = entera;
   for (int i = 1; i <= N + 1; ++i) solido.puntos.push_back(curva(i));
   solido.puntos.insert(solido.puntos.end(), esquinas.begin(), esquinas.end());
-  solido.caras = Caras(Orden(*this, pieza, pieza.inicio), pieza.dosPiezas);
+  solido.caras = Caras(Orden(pieza, sentido, pieza.inicio), pieza.dosPiezas);
   // The four sides, and from each corner a fan of generators to its quarter of the curve's points, of which the last
   // repeats the first. The points where two quarters meet get a generator from both corners.
   for (int lado = 4; lado > 0; --lado) solido.alambre.push_back({N + 1 + lado % 4, N + lado});
@@ -29,7 +28,7 @@ Transicion MotorTransicion::GeneraPuntos(const Pieza& pieza, Regla regla) const 
 Desarrollo MotorTransicion::GeneraDesarrollo(const Pieza& pieza, Regla regla) const {
   // Turned by half a turn about Z, a piece without offsets is the one that tilts the other way.
   const bool otroExtremo = girado && regla == Regla::usual && pieza.Alfa != 0 && pieza.AX == 0 && pieza.AY == 0;
-  const OrdenPatron orden = Orden(*this, pieza, pieza.inicio + (otroExtremo ? 2 : 0));
+  const OrdenPatron orden = Orden(pieza, sentido, pieza.inicio + (otroExtremo ? 2 : 0));
   const Transicion t = GeneraPuntos(pieza, regla);
   const Corte corte = CortePieza1(t);
   Desarrollo desarrollo;

@@ -4,22 +4,17 @@
 // out badly.
 
 #include <array>
-#include <functional>
-#include <span>
 #include <vector>
 
+#include "engines/cotas_transicion.h"
 #include "engines/transicion.h"
 #include "piece/patron.h"
 
 namespace duktores {
 
-/// Which list of dimensions a pattern gets.
-enum class ListaCotas : std::uint8_t { baseRectangular, baseCircular };
-
 struct MotorTransicion {
-  /// The points 1..N+1 of the curve, at the angles (i - 1) * 2*pi/N, the corners of the rectangle in the quarters
-  /// (+,+),
-  /// (-,+), (-,-), (+,-), and the whole curve, all in the frame of the view.
+  /// In the frame of the view: the points 1..N+1 of the curve, at the angles (i - 1) * 2*pi/N, the corners of the
+  /// rectangle in the quarters (+,+), (-,+), (-,-), (+,-), and the whole curve.
   struct Vista {
     Puntos3 curva;
     std::array<Punto3, 4> esquinas;

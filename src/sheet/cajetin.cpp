@@ -40,7 +40,7 @@ struct Estilo {
 };
 // clang-format off
 constexpr std::array<Estilo, 4> kEstilos{{
-    // head, height  left       right list  letters  last  mm     in  end   units                  pattern
+    // head, height  left       right list  letters  last  mm   in  end  units                 pattern
     {450, 1200,      80, 30,    110,  500,  10, 10,   0,   false, 2,  "  ", Unidades::deDobleces,  true},   // transicion
     {450, 1200,      80, 30,    110,  500,  10,  9,   0,   false, 2,  "  ", Unidades::deDobleces,  true},   // eliptica
     {510, 1260,      30, 22,     30,  540,  11, 11,  10,   true,  3,  "",   Unidades::deNinguno,   false},  // sector
@@ -115,7 +115,8 @@ constexpr FilaChapa kFilasChapa[]{
     {texto::kAreaPieza,        kArea,     [](const Chapa& c, double e) { return c.area * e; }},
     {texto::kAreaRectangulo,   kArea,     [](const Chapa& c, double e) { return c.rectangulo * e; }},
     {texto::kPesoPieza,        kPeso,     [](const Chapa& c, double e) { return c.densidad * c.area * e * c.espesor; }},
-    {texto::kPesoRectangulo,   kPeso,     [](const Chapa& c, double e) { return c.densidad * c.rectangulo * e * c.espesor; }},
+    {texto::kPesoRectangulo,   kPeso,
+     [](const Chapa& c, double e) { return c.densidad * c.rectangulo * e * c.espesor; }},
     {texto::kDesperdicio,      kArea,     [](const Chapa& c, double e) { return (c.rectangulo - c.area) * e; }},
     {texto::kParteDesperdicio, kParte,    Desperdicio},
 };

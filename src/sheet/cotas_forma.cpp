@@ -19,11 +19,11 @@ void DibujaFilas(EWdraw& axew, const CotasFilas& cotas, const FormatoHoja& forma
     if (fila.eje == Eje::H) {
       const double y = p[fila.base].y;
       const Punto2 de{p[fila.de].x, y}, a{p[fila.a].x, y};
-      Acota(axew, de, a, {de.x, p[fila.nivel].y + fila.pasos * formato.pasoY});
+      Acota(axew, formato.altura, de, a, {de.x, p[fila.nivel].y + fila.pasos * formato.pasoY});
     } else {
       const double x = p[fila.base].x;
       const Punto2 de{x, p[fila.de].y}, a{x, p[fila.a].y};
-      Acota(axew, de, a, {p[fila.nivel].x + fila.pasos * formato.pasoX, de.y});
+      Acota(axew, formato.altura, de, a, {p[fila.nivel].x + fila.pasos * formato.pasoX, de.y});
     }
     for (const auto [x1, y1, x2, y2] : fila.extensiones) Extiende(axew, {p[x1].x, p[y1].y}, {p[x2].x, p[y2].y});
   }
@@ -49,9 +49,9 @@ struct Bordes {
 };
 
 // A vertical dimension at the x of `nivel`, `paso` away from it, with extension lines to its points.
-void AcotaAltura(EWdraw& axew, double nivel, double paso, Punto2 p, Punto2 q) {
+void AcotaAltura(EWdraw& axew, double altura, double nivel, double paso, Punto2 p, Punto2 q) {
   const Punto2 pieP{nivel, p.y}, pieQ{nivel, q.y};
-  Acota(axew, pieP, pieQ, {nivel + paso, p.y});
+  Acota(axew, altura, pieP, pieQ, {nivel + paso, p.y});
   Extiende(axew, pieP, p);
   Extiende(axew, pieQ, q);
 }
@@ -64,15 +64,15 @@ void AcotaAlturas(EWdraw& axew, const SectorAcotado& sector, const Bordes& b) {
     derecha = std::max(derecha, v.p.x);
   }
   const bool crece = EstaSobre(b.MI, b.BI) && b.MI.x < b.MF.x - kNivel;
-  AcotaAltura(axew, izquierda, -sector.formato.pasoX, b.BI, crece ? b.MI : b.MF);
-  AcotaAltura(axew, derecha, sector.formato.pasoX, b.BF, crece ? b.MF : b.MI);
+  AcotaAltura(axew, sector.formato.altura, izquierda, -sector.formato.pasoX, b.BI, crece ? b.MI : b.MF);
+  AcotaAltura(axew, sector.formato.altura, derecha, sector.formato.pasoX, b.BF, crece ? b.MF : b.MI);
 }
 
 void AcotaBase(EWdraw& axew, const SectorAcotado& sector, const Bordes& b) {
   double abajo = b.BI.y;
   for (int i = 0; i <= sector.Ultimo(); ++i) abajo = std::min(abajo, sector.Base(i).y);
   const Punto2 pieI{b.BI.x, abajo}, pieF{b.BF.x, abajo};
-  Acota(axew, pieI, pieF, {pieI.x, abajo - sector.formato.pasoY});
+  Acota(axew, sector.formato.altura, pieI, pieF, {pieI.x, abajo - sector.formato.pasoY});
   Extiende(axew, pieI, b.BI);
   Extiende(axew, pieF, b.BF);
 }
@@ -110,7 +110,7 @@ void AcotaBoca(EWdraw& axew, const FormatoHoja& formato, const Bordes& b, std::o
   const bool sobreI = A && EstaSobre(*A, b.MI), sobreF = A && EstaSobre(*A, b.MF);
   const double nivel = sobreI ? A->y : std::max(b.MI.y, b.MF.y);
   const Punto2 pieI{b.MI.x, nivel}, pieF{b.MF.x, nivel};
-  Acota(axew, pieI, pieF, {pieI.x, nivel + formato.pasoY});
+  Acota(axew, formato.altura, pieI, pieF, {pieI.x, nivel + formato.pasoY});
   if (sobreI || b.MI.y < b.MF.y) {
     Extiende(axew, pieI, b.MI);
   } else {
@@ -136,12 +136,12 @@ void GeneraCotaPanel(EWdraw& axew, const FormaPatron& forma, const FormatoHoja& 
   const Punto2 A = forma.En(0), B = forma.En(1), C = forma.En(2), D = forma.En(3);
   const double dx = formato.pasoX, dy = formato.pasoY;
   const double izquierda = std::min(B.x, C.x), abajo = std::min(C.y, D.y), derecha = std::max(A.x, D.x);
-  Acota(axew, {A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
-  Acota(axew, {izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
+  Acota(axew, formato.altura, {A.x, B.y}, {B.x, B.y}, {A.x, B.y + dy});
+  Acota(axew, formato.altura, {izquierda, B.y}, {izquierda, C.y}, {izquierda - dx, B.y});
   B.x > C.x + kNivel ? Extiende(axew, B, {C.x, B.y}) : Extiende(axew, {B.x, C.y}, C);
-  Acota(axew, {C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
+  Acota(axew, formato.altura, {C.x, abajo}, {D.x, abajo}, {C.x, abajo - dy});
   C.y > D.y + kNivel ? Extiende(axew, C, {C.x, D.y}) : Extiende(axew, {D.x, C.y}, D);
-  Acota(axew, {derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
+  Acota(axew, formato.altura, {derecha, A.y}, {derecha, D.y}, {derecha + dx, A.y});
   A.x > D.x + kNivel ? Extiende(axew, {A.x, D.y}, D) : Extiende(axew, A, {D.x, A.y});
 }
 

@@ -47,6 +47,7 @@ class Dibujante {
       : axew_(axew), formato_(formato), pide_(pide) {}
 
   void Dibuja(FormaPatron& forma) {
+    contorno_ = false;
     std::vector<double> largos = Largos(forma);
     if (forma.aviso != 0) {
       EmpiezaContorno();
@@ -55,7 +56,6 @@ class Dibujante {
     if (forma.contorno.empty()) return;
     if (!LargosDelPatron(forma.bloque.estilo)) largos = Largos(forma);
     forma.sinNumero = forma.lineas.size();
-    contorno_ = false;
     Marca(forma);
     axew_.EwRegen();
     if (!HayBloque(forma.bloque)) return;

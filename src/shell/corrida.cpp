@@ -49,11 +49,13 @@ void DibujaSolido(EWdraw& axew, const Solido& solido) {
   for (const auto& linea : solido.alambre) axew.EwSetColor(AnadeLinea(axew, solido, linea), kColorSolido);
 }
 
-void Dibuja3D(EWdraw& axew) {
-  if (!estado.pieza) return;
+Solido Dibuja3D(EWdraw& axew) {
+  if (!estado.pieza) return {};
   CursorEspera(true);
-  DibujaSolido(axew, SolidoDe(*estado.pieza));
+  Solido solido = SolidoDe(*estado.pieza);
+  DibujaSolido(axew, solido);
   CursorEspera(false);
+  return solido;
 }
 
 FormatoHoja FormatoDeEstado() {
@@ -69,15 +71,16 @@ FormatoHoja FormatoDeEstado() {
           .espesor = e.dEspesor};
 }
 
-Corrida Despliega(EWdraw& axew) {
-  if (!estado.pieza) return {};
-  return Despliega(axew, DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)));
-}
+namespace {
 
-Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
+// Of the accepted piece, unfolded by `hace`.
+template <class Hace>
+Corrida Corre(EWdraw& axew, Hace hace) {
+  if (!estado.pieza) return {};
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
   try {
+    Desarrollo desarrollo = hace();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
     const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
     return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
@@ -89,6 +92,16 @@ Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
   return {};
+}
+
+}  // namespace
+
+Corrida Despliega(EWdraw& axew) {
+  return Corre(axew, [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); });
+}
+
+Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
+  return Corre(axew, [&] { return std::move(desarrollo); });
 }
 
 Veredicto Juzga(const Solido& solido, const Patron& patron) { return Comprueba(solido, patron, ToleranciaPatron()); }

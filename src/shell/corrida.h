@@ -2,8 +2,6 @@
 // The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
 // type it is. Without one nothing is drawn.
 
-#include <vector>
-
 #include "check/veredicto.h"
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
@@ -15,8 +13,8 @@ namespace duktores {
 Solido SolidoDe(const Pieza& pieza);
 Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido);
 
-/// Draws the wire view of the accepted piece on the emptied control.
-void Dibuja3D(EWdraw& axew);
+/// Draws the wire view of the accepted piece on the control, which it empties, and returns its solid.
+Solido Dibuja3D(EWdraw& axew);
 void DibujaSolido(EWdraw& axew, const Solido& solido);
 
 /// How patterns are drawn, as `estado` has it.
@@ -30,8 +28,8 @@ struct Corrida {
   Patron hoja;  ///< of a complete one: the pattern as it stands on the sheet
 };
 
-/// Unfolds the accepted piece into the control and a new `estado.oDrawing`. Never throws: a refused pick ends the run
-/// quietly, an error of the run is told to the user.
+/// Unfolds the accepted piece into the emptied control and a new `estado.oDrawing`. Never throws: a refused pick ends
+/// the run quietly, an `ErrorCorrida` is told to the user, any other error shows in how the run has ended.
 Corrida Despliega(EWdraw& axew);
 /// The same of a pattern that has been made already.
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);

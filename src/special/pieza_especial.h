@@ -14,7 +14,7 @@ namespace duktores {
 
 inline constexpr int kPasosPorDivision = 36;  ///< steps round a circle to each of its divisions
 inline constexpr int kMaximoDivisiones = 32767 / kPasosPorDivision / 4 * 4;  ///< the most whose steps still fit 16 bits
-inline constexpr double kRoce = 0.005;        ///< an edge, or a radius, of all but no length
+inline constexpr double kRoce = 0.005;  ///< an edge, or a radius, of all but no length
 
 inline int Siguiente(int corner) { return corner % 4 + 1; }
 

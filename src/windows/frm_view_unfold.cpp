@@ -44,7 +44,6 @@ QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 FrmViewUnfold::FrmViewUnfold(QWidget* padre)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
-      solido_(SolidoDe(estado.pieza.value())),
       lienzo_(new Lienzo(EWdraw_, this)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
@@ -62,7 +61,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
 
   EWdraw_.EwInicia(true);
-  DibujaSolido(EWdraw_, solido_);
+  solido_ = Dibuja3D(EWdraw_);
   CmdSave_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
 }

@@ -38,7 +38,7 @@ class FrmViewUnfold : public QDialog {
   void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;
-  const Solido solido_;
+  Solido solido_;
   EWdraw EWdraw_;
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;
