@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace duktores {
 
@@ -58,6 +59,11 @@ char32_t Siguiente(std::string_view& resto) {
   return codigo;
 }
 
+// Of nearly all texts, which are then their own codes.
+bool EsAscii(std::string_view bytes) {
+  return std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
 void AnadeUtf8(std::string& destino, char32_t c) {
   const auto sigue = [&](int bits) { destino += static_cast<char>(0x80 | (c >> bits & 0x3F)); };
   if (c < 0x80) {
@@ -85,6 +91,7 @@ void AnadeEscapado(std::string& destino, char16_t unidad) {
 }  // namespace
 
 std::u16string Utf16(std::string_view utf8) {
+  if (EsAscii(utf8)) return {utf8.begin(), utf8.end()};
   std::u16string unidades;
   unidades.reserve(utf8.size());
   while (!utf8.empty()) {
@@ -116,6 +123,7 @@ std::string Utf8(std::u16string_view utf16) {
 }
 
 int LongitudUtf16(std::string_view utf8) {
+  if (EsAscii(utf8)) return static_cast<int>(utf8.size());
   int longitud = 0;
   while (!utf8.empty()) {
     const char32_t c = Siguiente(utf8);
@@ -166,12 +174,14 @@ std::string_view Recorta(std::string_view texto) {
 }
 
 std::string Mayusculas(std::string_view utf8) {
-  std::u16string unidades = Utf16(utf8);
-  for (char16_t& c : unidades) {
-    const bool minuscula = (c >= u'a' && c <= u'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
-    if (minuscula) c = static_cast<char16_t>(c - 0x20);
-  }
-  return Utf8(unidades);
+  const auto capitales = [](auto texto) {
+    for (auto& c : texto) {
+      const bool minuscula = (c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
+      if (minuscula) c = static_cast<std::decay_t<decltype(c)>>(c - 0x20);
+    }
+    return texto;
+  };
+  return EsAscii(utf8) ? capitales(std::string(utf8)) : Utf8(capitales(Utf16(utf8)));
 }
 
 void SustituyeCaracter(std::string& texto, char busca, char pone) { std::ranges::replace(texto, busca, pone); }
