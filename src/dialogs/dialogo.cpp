@@ -91,6 +91,7 @@ Respuesta Dialogo::CmdAceptar() {
     Pieza pieza;
     pieza.tipo = def_->tipo;
     pieza.dosPiezas = def_->opcionPiezas && dosPiezas;
+    pieza.regla = estado.iExacto != 0 ? Regla::exacta : Regla::usual;
     pieza.fibra = Fibra{estado.iFibra};
     pieza.espesor = estado.dEspesor;
     def_->guarda(v, pieza);

@@ -1,5 +1,7 @@
 #include "engines/comun.h"
 
+#include <cmath>
+
 #include "piece/numeros_texto.h"
 
 namespace duktores {
@@ -8,6 +10,11 @@ Puntos3 PuntosCurva(int N, const std::function<Punto3(double)>& enAngulo) {
   Puntos3 curva(N + 1);
   for (int i = 1; i <= N + 1; ++i) curva(i) = enAngulo((i - 1) * 2 * dPi / N);
   return curva;
+}
+
+double Aumento(const Pieza& pieza) {
+  const double medio = dPi / pieza.divisiones;
+  return pieza.regla == Regla::exacta ? medio / std::sin(medio) : 1;
 }
 
 std::array<Punto3, 4> EsquinasCentradas(const Boca& boca, double z) {

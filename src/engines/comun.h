@@ -20,6 +20,10 @@ inline Punto3 EnCirculo(Punto3 centro, double R, double angulo) {
 /// Points 1..N+1 of a curve, at the angles (i - 1) * 2*pi/N.
 Puntos3 PuntosCurva(int N, const std::function<Punto3(double)>& enAngulo);
 
+/// By the exact rule the polygon of N chords is as long as the curve that it stands for: by how much a circle is
+/// larger.
+double Aumento(const Pieza& pieza);
+
 /// Corners of a rectangle centred on the Z axis: of the quarters (+,+), (-,+), (-,-), (+,-), as the curve passes them.
 std::array<Punto3, 4> EsquinasCentradas(const Boca& boca, double z);
 

@@ -21,15 +21,15 @@ Solido MotorTransicion::GeneraDibujo(const Pieza& pieza) const {
   return solido;
 }
 
-Transicion MotorTransicion::GeneraPuntos(const Pieza& pieza, Regla regla) const {
-  return ColocaPlano(espacio(pieza, regla), reglas, regla);
+Transicion MotorTransicion::GeneraPuntos(const Pieza& pieza) const {
+  return ColocaPlano(espacio(pieza), reglas, pieza.regla);
 }
 
-Desarrollo MotorTransicion::GeneraDesarrollo(const Pieza& pieza, Regla regla) const {
+Desarrollo MotorTransicion::GeneraDesarrollo(const Pieza& pieza) const {
   // Turned by half a turn about Z, a piece without offsets is the one that tilts the other way.
-  const bool otroExtremo = girado && regla == Regla::usual && pieza.Alfa != 0 && pieza.AX == 0 && pieza.AY == 0;
+  const bool otroExtremo = girado && pieza.regla == Regla::usual && pieza.Alfa != 0 && pieza.AX == 0 && pieza.AY == 0;
   const OrdenPatron orden = Orden(pieza, sentido, pieza.inicio + (otroExtremo ? 2 : 0));
-  const Transicion t = GeneraPuntos(pieza, regla);
+  const Transicion t = GeneraPuntos(pieza);
   const Corte corte = CortePieza1(t);
   Desarrollo desarrollo;
   const auto anade = [&](Parte parte) {

@@ -21,7 +21,7 @@ struct MotorTransicion {
     Curva entera;
   };
   Vista (*vista)(const Pieza& pieza);
-  EnEspacio (*espacio)(const Pieza& pieza, Regla regla);  ///< the same piece in the development frame
+  EnEspacio (*espacio)(const Pieza& pieza);  ///< the same piece in the development frame
   const ReglasPlano& reglas;
   int sentido;  ///< the pattern runs round the view's Z axis counter-clockwise (1) or clockwise (-1)
   bool girado;  ///< the usual pattern of a tilted piece without offsets begins at its other end
@@ -33,9 +33,9 @@ struct MotorTransicion {
   std::vector<FilaBloque> (*filas)(const Pieza& pieza);
 
   Solido GeneraDibujo(const Pieza& pieza) const;
-  Transicion GeneraPuntos(const Pieza& pieza, Regla regla) const;
+  Transicion GeneraPuntos(const Pieza& pieza) const;
   /// The pattern in one piece or in two.
-  Desarrollo GeneraDesarrollo(const Pieza& pieza, Regla regla) const;
+  Desarrollo GeneraDesarrollo(const Pieza& pieza) const;
 };
 
 extern const MotorTransicion clTransCR;            ///< a circle above a rectangular base

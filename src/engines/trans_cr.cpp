@@ -9,7 +9,7 @@ namespace duktores {
 namespace {
 
 MotorTransicion::Vista Vista(const Pieza& pieza) {
-  const double R = pieza.corregidas.arriba.r(1);
+  const double R = Aumento(pieza) * pieza.corregidas.arriba.r(1);
   const Punto3 centro{pieza.AX, pieza.AY, pieza.H};
   const auto enAngulo = [&](double a) { return Rota(EnCirculo(centro, R, a), centro, kEjeY, pieza.Alfa); };
   return {PuntosCurva(pieza.divisiones, enAngulo),
@@ -17,10 +17,10 @@ MotorTransicion::Vista Vista(const Pieza& pieza) {
           {false, centro, R, R, pieza.Alfa}};
 }
 
-EnEspacio Espacio(const Pieza& pieza, Regla) {
+EnEspacio Espacio(const Pieza& pieza) {
   const PosicionInicio& inicio = Inicio(pieza.inicio);
   const auto& [arriba, abajo] = pieza.corregidas;
-  const double Ax = pieza.AX, Ay = -pieza.AY, R = arriba.r(1), grados = PorRadianes(pieza.Alfa);
+  const double Ax = pieza.AX, Ay = -pieza.AY, R = Aumento(pieza) * arriba.r(1), grados = PorRadianes(pieza.Alfa);
   const Punto3 centro{abajo.LX / 2 + Ax, abajo.LY / 2 + Ay, pieza.H};
   const auto enAngulo = [&](double a) { return Rota(EnCirculo(centro, R, a), centro, kEjeY, grados); };
   return SobreRectangulo(Recorrido(pieza.divisiones, inicio.a0, enAngulo), inicio, abajo, {Ax, Ay});

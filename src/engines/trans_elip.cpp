@@ -1,7 +1,6 @@
-#include <cmath>
-
 #include "engines/comun.h"
 #include "engines/elecciones.h"
+#include "engines/elipse.h"
 #include "engines/motor.h"
 #include "geometry/rotacion.h"
 #include "piece/numeros_texto.h"
@@ -10,29 +9,23 @@ namespace duktores {
 
 namespace {
 
-// The point of an ellipse that is seen from its centre at the angle `polar`, so that its chords are not equal.
-Punto3 EnElipse(Punto3 centro, const Boca& ejes, double polar) {
-  const double a = ejes.LX / 2, b = ejes.LY / 2, c = std::cos(polar), s = std::sin(polar);
-  const double r = a * b / std::hypot(b * c, a * s);
-  return centro + Punto3{r * c, r * s, 0};
-}
-
 MotorTransicion::Vista Vista(const Pieza& pieza) {
-  const Boca& ejes = pieza.corregidas.arriba;
+  const Elipse elipse(pieza);
   const Punto3 centro{pieza.AX, pieza.AY, pieza.H};
-  const auto enAngulo = [&](double a) { return Rota(EnElipse(centro, ejes, a), centro, kEjeY, pieza.Alfa); };
+  const auto enAngulo = [&](double a) { return Rota(elipse.En(centro, a), centro, kEjeY, pieza.Alfa); };
   return {PuntosCurva(pieza.divisiones, enAngulo),
           EsquinasCentradas(pieza.corregidas.abajo, 0),
-          {true, centro, ejes.LX / 2, ejes.LY / 2, pieza.Alfa}};
+          {true, centro, elipse.a(), elipse.b(), pieza.Alfa}};
 }
 
 // The usual pattern tilts against the solid's sense.
-EnEspacio Espacio(const Pieza& pieza, Regla regla) {
+EnEspacio Espacio(const Pieza& pieza) {
   const PosicionInicio& inicio = Inicio(pieza.inicio);
-  const auto& [arriba, abajo] = pieza.corregidas;
-  const double Ax = pieza.AX, Ay = -pieza.AY, grados = regla == Regla::exacta ? pieza.Alfa : -pieza.Alfa;
+  const Elipse elipse(pieza);
+  const Boca& abajo = pieza.corregidas.abajo;
+  const double Ax = pieza.AX, Ay = -pieza.AY, grados = pieza.regla == Regla::exacta ? pieza.Alfa : -pieza.Alfa;
   const Punto3 centro{abajo.LX / 2 + Ax, abajo.LY / 2 + Ay, pieza.H};
-  const auto enAngulo = [&](double a) { return Rota(EnElipse(centro, arriba, a), centro, kEjeY, grados); };
+  const auto enAngulo = [&](double a) { return Rota(elipse.En(centro, a), centro, kEjeY, grados); };
   return SobreRectangulo(Recorrido(pieza.divisiones, inicio.a0, enAngulo), inicio, abajo, {Ax, Ay});
 }
 

@@ -11,7 +11,7 @@ namespace duktores {
 namespace {
 
 MotorTransicion::Vista Vista(const Pieza& pieza) {
-  const double R = pieza.corregidas.abajo.r(1);
+  const double R = Aumento(pieza) * pieza.corregidas.abajo.r(1);
   const Punto3 centro{-pieza.AX, -pieza.AY, 0};
   auto esquinas = EsquinasCentradas(pieza.corregidas.arriba, pieza.H);
   for (Punto3& esquina : esquinas) esquina = Rota(esquina, {0, 0, pieza.H}, kEjeY, pieza.Alfa);
@@ -37,10 +37,10 @@ void PonPrincipio(EnEspacio& t, const PosicionInicio& inicio, const Boca& arriba
   }
 }
 
-EnEspacio Espacio(const Pieza& pieza, Regla) {
+EnEspacio Espacio(const Pieza& pieza) {
   const PosicionInicio& inicio = Inicio(pieza.inicio);
   const auto& [arriba, abajo] = pieza.corregidas;
-  const double Ax = -pieza.AX, Ay = -pieza.AY, R = abajo.r(1), grados = PorRadianes(-pieza.Alfa);
+  const double Ax = -pieza.AX, Ay = -pieza.AY, R = Aumento(pieza) * abajo.r(1), grados = PorRadianes(-pieza.Alfa);
   const Punto3 centro{arriba.LX / 2 + Ax, arriba.LY / 2 + Ay, pieza.H}, eje{arriba.LX / 2, arriba.LY / 2, 0};
   const auto enAngulo = [&](double a) { return EnCirculo(centro, R, a); };
   EnEspacio t = SobreRectangulo(Recorrido(pieza.divisiones, inicio.a0, enAngulo), inicio, arriba, {Ax, Ay});

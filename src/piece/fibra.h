@@ -27,4 +27,9 @@ inline std::optional<CorreccionDeFibra> CorreccionFibra(Fibra fibra, double espe
   return std::nullopt;
 }
 
+/// From the entered surface outwards to the middle of the sheet; 0 for a number that is no surface.
+inline double AlMedio(Fibra fibra, double espesor) {
+  return fibra == Fibra::interior ? espesor / 2 : fibra == Fibra::exterior ? -espesor / 2 : 0;
+}
+
 }  // namespace duktores

@@ -17,9 +17,6 @@
 
 namespace duktores {
 
-/// The usual rules, by which the workshops' drawings have always been made, or true lengths whatever the piece.
-enum class Regla : std::uint8_t { usual, exacta };
-
 /// A vertex of an outline: a point of the solid, or on its edge from `punto` towards `hacia`; -1 is none.
 struct Vertice {
   Punto2 p;

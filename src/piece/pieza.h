@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 #include "piece/fibra.h"
 #include "piece/tipo.h"
@@ -39,8 +40,13 @@ struct Bocas {
   friend bool operator==(const Bocas&, const Bocas&) = default;
 };
 
+/// The usual rules, by which the workshops' drawings have always been made, or the sheet's own dimensions and true
+/// lengths whatever the piece.
+enum class Regla : std::uint8_t { usual, exacta };
+
 struct Pieza {
   TipoPieza tipo{};
+  Regla regla{};
   Bocas entradas;    ///< as they were typed
   Bocas corregidas;  ///< moved from the surface that they refer to, by the rules of the piece's dialog
   double H = 0, AX = 0, AY = 0;

@@ -40,7 +40,7 @@ std::int32_t AnadeLinea(EWdraw& axew, const Solido& solido, const std::vector<in
 Solido SolidoDe(const Pieza& pieza) { return FilaDe(pieza.tipo).solido(pieza); }
 
 Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido) {
-  return FilaDe(pieza.tipo).desarrollo(pieza, solido, estado.iExacto != 0 ? Regla::exacta : Regla::usual);
+  return FilaDe(pieza.tipo).desarrollo(pieza, solido);
 }
 
 void DibujaSolido(EWdraw& axew, const Solido& solido) {

@@ -9,7 +9,7 @@
 
 namespace duktores {
 
-/// The solid of a piece, and what it unfolds to by the configured rule.
+/// The solid of a piece, and what it unfolds to.
 Solido SolidoDe(const Pieza& pieza);
 Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido);
 

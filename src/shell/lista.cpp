@@ -19,8 +19,8 @@ Solido SolidoDe(const Pieza& pieza) {
   return motor.GeneraDibujo(pieza);
 }
 template <const MotorTransicion& motor>
-Desarrollo DesarrolloDe(const Pieza& pieza, const Solido&, Regla regla) {
-  return motor.GeneraDesarrollo(pieza, regla);
+Desarrollo DesarrolloDe(const Pieza& pieza, const Solido&) {
+  return motor.GeneraDesarrollo(pieza);
 }
 
 template <const MotorTransicion& motor>

@@ -19,7 +19,7 @@ struct FilaPieza {
   const DefDialogo& dialogo;
   std::string_view imagen;  ///< file below Images
   Solido (*solido)(const Pieza&);
-  Desarrollo (*desarrollo)(const Pieza&, const Solido&, Regla);
+  Desarrollo (*desarrollo)(const Pieza&, const Solido&);
   /// Writes what an unfolding of the accepted piece leaves in `estado`, but for what the dialog has stored.
   void (*deja)(const Pieza&, const Desarrollo&);
 };

@@ -63,11 +63,6 @@ bool HayEsquina(const PiezaEspecial& pieza, int c) {
   return std::max(std::abs(pieza.r1(c)), std::abs(pieza.r2(c))) >= kIgual;
 }
 
-// Near-equal radii lie as those do that the usual rules move apart: with the lower rim at the bottom.
-Sector EsquinaExacta(const PiezaEspecial& pieza, int c, int n) {
-  return SectorExacto(pieza, c, n, pieza.r1(c) - pieza.r2(c) >= kCerca);
-}
-
 std::optional<Lado> PanelExacto(const PiezaEspecial& pieza, int c) {
   const Lado lado = LadoCortado(pieza, PlanoDeCorte(pieza), c);
   if (Iguales(lado[0], lado[1]) && Iguales(lado[2], lado[3])) return std::nullopt;
@@ -76,22 +71,22 @@ std::optional<Lado> PanelExacto(const PiezaEspecial& pieza, int c) {
 
 }  // namespace
 
-Desarrollo DesarrollaEspecial(const Pieza& pieza, const Solido& solido, Regla regla) {
-  const bool exacta = regla == Regla::exacta;
+Desarrollo DesarrollaEspecial(const Pieza& pieza, const Solido& solido) {
+  const bool exacta = pieza.regla == Regla::exacta;
   Desarrollo desarrollo;
   if (!exacta) desarrollo.ajustadas = Ajusta(pieza);
-  const PiezaEspecial especial = ComoEspecial(pieza, desarrollo.ajustadas.value_or(pieza.corregidas));
+  const PiezaEspecial especial = exacta ? ComoEspecial(pieza) : ComoEspecial(pieza, *desarrollo.ajustadas);
   const OrdenEspecial orden(pieza.divisiones);
   auto& [formas, sigueTrasFallo] = desarrollo.patron;
   sigueTrasFallo = true;
   for (int c = 1; c <= 4; ++c) {
     if (!exacta || HayEsquina(especial, c)) {
       formas.push_back(
-          FormaEsquina(exacta ? EsquinaExacta(especial, c, orden.n) : EsquinaUsual(pieza.tipo, especial, c, orden.n), c,
+          FormaEsquina(exacta ? SectorExacto(especial, c, orden) : EsquinaUsual(pieza.tipo, especial, c, orden.n), c,
                        solido, orden));
     }
     if (const auto lado = exacta ? PanelExacto(especial, c) : PanelUsual(pieza.tipo, especial, c)) {
-      formas.push_back(FormaLado(*lado, c, regla, solido, orden));
+      formas.push_back(FormaLado(*lado, c, pieza.regla, solido, orden));
     }
   }
   for (FormaPatron& forma : formas) forma.bloque = BloqueEspecial(pieza, forma.nombre.forma);

@@ -13,6 +13,6 @@ Solido GeneraDibujo3D(const Pieza& pieza);
 
 /// By the exact rule as the solid shows it. Else with the radii adjusted, so that every corner has a cone and every
 /// panel an edge. `solido` is that of the same piece. A shape that can't be made is empty.
-Desarrollo DesarrollaEspecial(const Pieza& pieza, const Solido& solido, Regla regla);
+Desarrollo DesarrollaEspecial(const Pieza& pieza, const Solido& solido);
 
 }  // namespace duktores

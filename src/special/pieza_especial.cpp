@@ -3,10 +3,13 @@
 #include <cmath>
 
 #include "geometry/rotacion.h"
+#include "special/medidas_exactas.h"
 
 namespace duktores {
 
-PiezaEspecial ComoEspecial(const Pieza& pieza) { return ComoEspecial(pieza, pieza.corregidas); }
+PiezaEspecial ComoEspecial(const Pieza& pieza) {
+  return ComoEspecial(pieza, pieza.regla == Regla::exacta ? MedidasExactas(pieza) : pieza.corregidas);
+}
 
 PiezaEspecial ComoEspecial(const Pieza& pieza, const Bocas& bocas) {
   return {bocas, pieza.H, pieza.AX, pieza.AY, pieza.Alfa, pieza.Beta};

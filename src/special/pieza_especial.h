@@ -26,7 +26,7 @@ struct PiezaEspecial {
   double r2(int c) const { return bocas.abajo.r(c); }   ///< lower radius
 };
 
-/// A piece with its mouths as corrected, or with others.
+/// A piece with the mouths that its rule gives it, or with others.
 PiezaEspecial ComoEspecial(const Pieza& pieza);
 PiezaEspecial ComoEspecial(const Pieza& pieza, const Bocas& bocas);
 
