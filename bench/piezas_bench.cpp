@@ -12,6 +12,7 @@
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
 #include "paint/pintura.h"
+#include "shell/juicio.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 
@@ -91,7 +92,7 @@ void Cotejo(benchmark::State& s, TipoPieza tipo) {
   PonPieza(tipo, static_cast<int>(s.range(0)));
   const Solido solido = SolidoDe(*estado.pieza);
   const Patron hoja = Desplegado(axew).hoja;
-  for (auto _ : s) benchmark::DoNotOptimize(Juzga(solido, hoja).desviacion);
+  for (auto _ : s) benchmark::DoNotOptimize(Juzga(*estado.pieza, solido, hoja).desviacion);
 }
 BENCHMARK_CAPTURE(Cotejo, CR, TipoPieza::cr)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Cotejo, Esp1, TipoPieza::esp1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);

@@ -8,6 +8,7 @@
 #include "dxf/dibujo.h"
 #include "mancha.h"
 #include "sheet/hoja.h"
+#include "shell/juicio.h"
 #include "shell/visor.h"
 #include "state/arranque.h"
 #include "state/estado.h"
@@ -67,7 +68,7 @@ void ExigeDesarrollo() {
   axew.PonVista(&mesa);
   const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
   assert(fin != FinCorrida::eleccionRechazada && mesa.mensajes == (fin == FinCorrida::error ? 1 : 0));
-  Juzga(solido, hoja);
+  Juzga(*estado.pieza, solido, hoja);
   ExigeDxf(estado.oDrawing->GetEntities());
   estado.plataforma = nullptr;
 }

@@ -1,37 +1,42 @@
-// Unfolds random pieces by both rules and prints what the check finds: patrones [PIECES OF EACH TYPE] [SEED] [TYPE]
-// With a type only that one, and all pieces that aren't true when developed exactly, though they aren't inside out.
+// Unfolds random pieces by both rules and prints what the check finds:
+//   patrones [PIECES OF EACH TYPE] [SEED] [wild|everyday] [TYPE]
+// With a type only that one, and all of its pieces that aren't true when developed exactly.
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <map>
 #include <random>
 #include <string>
 #include <string_view>
 
-#include "pieza_desarrollada.h"
 #include "piezas_azar.h"
+#include "shell/corrida.h"
+#include "shell/juicio.h"
+#include "shell/lista.h"
+#include "shell/texto_veredicto.h"
+#include "state/estado.h"
 
 namespace {
 
 using namespace duktores;
 
+constexpr std::size_t kCausas = static_cast<std::size_t>(Causa::reglasUsuales) + 1;
+
 struct Cuenta {
-  int piezas = 0, ciertas = 0;
-  double peor = 0;  // deviation of those that are true and not inside out
-  std::map<Falta, int> con;
-  int delReves = 0;  // of those that are not true
+  int piezas = 0, ciertas = 0, curadas = 0, sinCausa = 0;
+  double peor = 0;  // deviation of those that are true
+  std::array<int, kCausas> causas{};
 };
 
-void Pon(Cuenta& cuenta, const Veredicto& veredicto, bool delReves) {
+void Pon(Cuenta& cuenta, const Veredicto& veredicto) {
   ++cuenta.piezas;
+  cuenta.curadas += veredicto.curaExacta;
   if (veredicto.Cierto()) {
     ++cuenta.ciertas;
-    if (!delReves) cuenta.peor = std::max(cuenta.peor, veredicto.desviacion);
+    cuenta.peor = std::max(cuenta.peor, veredicto.desviacion);
+  } else {
+    ++(veredicto.causa ? cuenta.causas[static_cast<std::size_t>(*veredicto.causa)] : cuenta.sinCausa);
   }
-  if (!veredicto.Cierto() && delReves) ++cuenta.delReves;
-  std::map<Falta, int> una;
-  for (const Defecto& defecto : veredicto.defectos) una[defecto.falta] = 1;
-  for (const auto& [falta, uno] : una) cuenta.con[falta] += uno;
 }
 
 std::string Campos(const Dialogo& dialogo) {
@@ -43,48 +48,54 @@ std::string Campos(const Dialogo& dialogo) {
   return texto + (dialogo.dosPiezas ? "Pieces=2" : "Pieces=1");
 }
 
+// A piece that its dialog has accepted.
+void Acepta(Dialogo& dialogo, std::mt19937& azar, bool cotidianas) {
+  if (cotidianas) return AceptaCotidiana(dialogo, azar);
+  do {
+    estado.iFibra = static_cast<std::int16_t>(1 + static_cast<int>(azar() % 3));
+    TecleaPieza(dialogo, azar);
+  } while (Dialogo(dialogo).CmdAceptar() != Respuesta::aceptado);
+}
+
+void Imprime(std::string_view tipo, const char* regla, const Cuenta& c) {
+  std::printf("| %s | %s | %d | %d | %.2g |", tipo.data(), regla, c.piezas, c.ciertas, c.peor);
+  for (const int causa : c.causas) std::printf(" %d |", causa);
+  std::printf(" %d | %d |\n", c.sinCausa, c.curadas);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const int piezas = argc > 1 ? std::atoi(argv[1]) : 1000;
   std::mt19937 azar(argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : 1U);
-  const std::string_view solo = argc > 3 ? argv[3] : "";
+  const bool cotidianas = argc > 3 && std::string_view(argv[3]) == "everyday";
+  const std::string_view solo = argc > 4 ? argv[4] : "";
   std::printf(
-      "| piece | rule | pieces | true | worst true | length | turned | missing | crossing | neighbours | numbers, "
-      "bends | inside out |\n|---|---|---|---|---|---|---|---|---|---|---|---|\n");
+      "| piece | rule | pieces | true | worst true | mouth below base | cut above the meeting point | side eaten up | "
+      "radius impossible | meets itself | usual rules | no cause | cured by exact |\n"
+      "|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
   for (const FilaPieza& fila : FilasPieza()) {
     const std::string_view tipo = fila.dialogo.clave;
     if (!solo.empty() && tipo != solo) continue;
     Cuenta cuentas[2];
-    while (cuentas[0].piezas < piezas) {
+    for (int n = 0; n < piezas; ++n) {
       estado = {};
       estado.iUnidad = 1;
-      estado.iFibra = static_cast<std::int16_t>(1 + static_cast<int>(azar() % 3));
       estado.dEspesor = 1;
-      estado.dTamanoTexto = 10;
-      estado.iColorDoblez = 3;
-      estado.sDimensiones = "1";
-      estado.iBox = 1;
-      estado.sTipoPieza = "";
       Dialogo dialogo(fila.dialogo);
-      TecleaPieza(dialogo, azar);
-      if (Dialogo(dialogo).CmdAceptar() != Respuesta::aceptado) continue;
-      for (const std::int16_t exacto : {std::int16_t{0}, std::int16_t{1}}) {
-        const PiezaDesarrollada pieza(dialogo, exacto);
-        const Veredicto v = pieza.Juzga();
-        const bool delReves = DelReves(*estado.pieza);
-        Pon(cuentas[exacto], v, delReves);
-        if (!solo.empty() && exacto == 1 && !v.Cierto() && !delReves) {
-          std::printf("%s: %s\n", Campos(dialogo).c_str(), TextoVeredicto(v).c_str());
+      Acepta(dialogo, azar, cotidianas);
+      Pieza pieza = estado.pieza.value();
+      for (const Regla regla : {Regla::usual, Regla::exacta}) {
+        pieza.regla = regla;
+        const Solido solido = SolidoDe(pieza);
+        const Veredicto veredicto = Juzga(pieza, solido, DesarrolloDe(pieza, solido).patron);
+        Pon(cuentas[static_cast<std::size_t>(regla)], veredicto);
+        if (!solo.empty() && regla == Regla::exacta && !veredicto.Cierto()) {
+          std::printf("%s: %s\n", Campos(dialogo).c_str(), TextoVeredicto(veredicto).c_str());
         }
       }
     }
-    for (const int exacto : {0, 1}) {
-      Cuenta& c = cuentas[exacto];
-      std::printf("| %s | %s | %d | %d | %.2g | %d | %d | %d | %d | %d | %d | %d |\n", tipo.data(),
-                  exacto ? "exact" : "usual", c.piezas, c.ciertas, c.peor, c.con[Falta::largo], c.con[Falta::vuelta],
-                  c.con[Falta::falta], c.con[Falta::cruce], c.con[Falta::vecinas],
-                  c.con[Falta::numeros] + c.con[Falta::doblez], c.delReves);
-    }
+    Imprime(tipo, "usual", cuentas[0]);
+    Imprime(tipo, "exact", cuentas[1]);
   }
 }

@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
@@ -20,7 +21,7 @@ struct PiezaDesarrollada : VistaEWdraw {
     hoja = Desplegado(axew).hoja;
   }
   std::optional<Punto3> EligePunto(EWdraw&) override { return Punto3{}; }
-  Veredicto Juzga() const { return duktores::Juzga(solido, hoja); }
+  Veredicto Juzga() const { return duktores::Juzga(*estado.pieza, solido, hoja); }
 
   EWdraw axew;
   Solido solido;

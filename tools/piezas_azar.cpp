@@ -6,8 +6,6 @@
 #include <map>
 #include <string>
 
-#include "special/pieza_especial.h"
-
 namespace duktores {
 
 namespace {
@@ -62,52 +60,25 @@ std::string Texto2(double v) {
 
 }  // namespace
 
-void TecleaPieza(Dialogo& dialogo, std::mt19937& azar) {
-  Medidas medidas(azar);
-  auto m = medidas.Saca(dialogo.Definicion().tipo);
+void TecleaMedidas(Dialogo& dialogo, const std::map<std::string, double>& m, std::mt19937& azar) {
   const auto campos = dialogo.Definicion().campos;
   for (std::size_t i = 0; i < campos.size(); ++i) {
     const DefCampo& campo = campos[i];
     std::string palabra(campo.palabra);
     std::ranges::transform(palabra, palabra.begin(), [](unsigned char c) { return std::tolower(c); });
     if (!campo.valores.empty()) {
-      dialogo.Elige(static_cast<int>(i), campo.valores[medidas.Sorteo() % campo.valores.size()]);
+      dialogo.Elige(static_cast<int>(i), campo.valores[azar() % campo.valores.size()]);
     } else {
-      const double v = m.contains(palabra) ? m[palabra] : medidas.Entre(50, 500);
+      const double v = m.contains(palabra) ? m.at(palabra) : std::uniform_real_distribution<double>(50, 500)(azar);
       dialogo.CampoDe(static_cast<int>(i)).texto = campo.divisiones ? std::to_string(std::lround(v)) : Texto2(v);
     }
   }
-  dialogo.dosPiezas = medidas.Una(2);
 }
 
-bool DelReves(const Pieza& pieza) {
-  if (pieza.tipo < TipoPieza::esp1 || pieza.tipo > TipoPieza::esp5) return false;
-  constexpr double kIgual = 1e-9;
-  const PiezaEspecial especial = ComoEspecial(pieza);
-  const auto& [boca, base] = especial.bocas;
-  const PlanoCorte plano = PlanoDeCorte(especial);
-  const int q = kPasosPorDivision / 4 * pieza.divisiones, n = 4 * q;
-  // Where the cut lies on an element: 0 on the base, 1 on the uncut mouth.
-  const auto altura = [&](int c, int p) {
-    const Elemento corte = ElementoDe(especial, plano, c, p, n), entero = ElementoDe(especial, {}, c, p, n);
-    const Punto3 eje = entero.corte - entero.bajo;
-    return Escalar(corte.corte - corte.bajo, eje) / Escalar(eje, eje);
-  };
-  // A radius or an edge between its measures below and above.
-  const auto negativo = [](double abajo, double arriba, double t) {
-    return t < -kIgual || abajo < -kIgual || abajo + t * (arriba - abajo) < -kIgual;
-  };
-  for (int c = 1; c <= 4; ++c) {
-    for (int p = 1; p <= q + 1; ++p) {
-      if (negativo(base.r(c), boca.r(c), altura(c, p))) return true;
-    }
-    const int d = Siguiente(c);
-    const bool enY = c % 2 == 1;
-    const double abajo = (enY ? base.LY : base.LX) - base.r(c) - base.r(d);
-    const double arriba = (enY ? boca.LY : boca.LX) - boca.r(c) - boca.r(d);
-    if (negativo(abajo, arriba, altura(c, q + 1)) || negativo(abajo, arriba, altura(d, 1))) return true;
-  }
-  return false;
+void TecleaPieza(Dialogo& dialogo, std::mt19937& azar) {
+  Medidas medidas(azar);
+  TecleaMedidas(dialogo, medidas.Saca(dialogo.Definicion().tipo), azar);
+  dialogo.dosPiezas = medidas.Una(2);
 }
 
 }  // namespace duktores

@@ -24,6 +24,7 @@
 #include "dxf/escritor.h"
 #include "mancha.h"
 #include "piezas_azar.h"
+#include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
@@ -157,7 +158,7 @@ std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::s
   cuenta.errores += fin == FinCorrida::error;
   if (fin == FinCorrida::error && mesa.mensajes != 1) return "ended, but not told once";
   if (fin == FinCorrida::completo) {
-    const Veredicto veredicto = Juzga(solido, hoja);
+    const Veredicto veredicto = Juzga(*estado.pieza, solido, hoja);
     ++cuenta.completos;
     cuenta.ciertos += veredicto.Cierto();
     cuenta.sinForma += std::ranges::count(veredicto.defectos, Falta::falta, &Defecto::falta) > 0;

@@ -88,6 +88,7 @@ void DibujaLinea(EWdraw& axew, double x1, double y1, double x2, double y2, std::
   ExigeFinitos({x1, y1, x2, y2});
   if (estado.oDrawing) {
     cLine linea{.x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2, .ColorIndex = color};
+    if (estado.oDrawing->Repite(linea)) return;
     estado.oDrawing->InsertLine(&linea);
   }
   const std::int32_t id = axew.EwAddLine({x1, y1, 0}, {x2, y2, 0});
@@ -107,7 +108,7 @@ void DibujaArco(EWdraw& axew, double cx, double cy, double radio, double angIni,
 void DibujaArcoCota(EWdraw& axew, double cx, double cy, double radio, double angIni, double& angFin, double altura,
                     std::int16_t color) {
   ExigeFinitos({altura, Redondea(angFin - angIni, 1)});
-  DibujaArco(axew, cx, cy, radio, angIni, angFin, color);
+  if (radio > kNivel) DibujaArco(axew, cx, cy, radio, angIni, angFin, color);
   if (angIni > angFin) angFin += 360;
   std::string texto = TextoDeNumero(Redondea(angFin - angIni, 1));
   DibujaTexto(axew, cx, cy - radio, texto, altura, color, 0);

@@ -20,12 +20,14 @@ inline constexpr std::int16_t kColorNumero = 1, kColorCota = 4, kColorLado = 6;
 /// Lengths and differences up to this are noise: the points coincide, the heights are level.
 inline constexpr double kNivel = 1e-6;
 
+/// Nothing is drawn that the drawing doesn't take twice.
 void DibujaLinea(EWdraw& axew, double x1, double y1, double x2, double y2, std::int16_t color);
 inline void DibujaLinea(EWdraw& axew, Punto2 p, Punto2 q, std::int16_t color) {
   DibujaLinea(axew, p.x, p.y, q.x, q.y, color);
 }
 void DibujaArco(EWdraw& axew, double cx, double cy, double radio, double angIni, double angFin, std::int16_t color);
-/// The arc and its span in degrees as text below the centre. 360 is added to `angFin` when it is below angIni.
+/// The arc, if it has a radius, and its span in degrees as text below the centre. 360 is added to `angFin` when it is
+/// below angIni.
 void DibujaArcoCota(EWdraw& axew, double cx, double cy, double radio, double angIni, double& angFin, double altura,
                     std::int16_t color);
 /// `texto` starts at (x, y). In all languages but Chinese a blank is put behind each "^" in it, in the caller's text

@@ -33,7 +33,7 @@ constexpr int kTodoEscrito = 0, kAlgoRechazado = 1, kNadaHecho = 2;
 struct Ordenes {
   std::string lista, configuracion;
   Opciones opciones;
-  bool png = false, svg = false, pdf = false;
+  bool png = false, svg = false, pdf = false, exacto = false;
   unsigned hilos = std::max(1U, std::thread::hardware_concurrency());
 };
 
@@ -50,7 +50,8 @@ std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
     linea += ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
   } else {
     linea += ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
-             (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso);
+             (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso) +
+             (resultado.nota.empty() ? "" : ", note: " + resultado.nota);
   }
   std::ranges::replace_if(
       linea, [](unsigned char c) { return c < ' '; }, ' ');
@@ -120,6 +121,7 @@ int Ejecuta(const Ordenes& ordenes) {
   Arranca(RutaEjecutable(), ordenes.configuracion);
   const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
   if (!regular || !std::ifstream(estado.sRutaIni)) return Falla("can't read the configuration file " + estado.sRutaIni);
+  if (ordenes.exacto) estado.iExacto = 1;
   if (!ConfiguracionSirve()) return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
   const auto texto = TextoLista(ordenes);
   if (!texto) return Falla("can't read the job list " + ordenes.lista);
@@ -159,6 +161,7 @@ int main(int argc, char** argv) {
   app.add_flag("--solid", ordenes.opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
   app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
   app.add_flag("--strict", ordenes.opciones.estricto, "refuse a piece whose pattern isn't true to its solid");
+  app.add_flag("--exact", ordenes.exacto, "develop exactly, whatever the configuration says");
   app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
       ->type_name("N")
       ->check(CLI::PositiveNumber);

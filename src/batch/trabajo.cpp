@@ -7,6 +7,7 @@
 #include "dxf/escritor.h"
 #include "piece/numeros_texto.h"
 #include "sheet/hoja.h"
+#include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
@@ -102,7 +103,7 @@ std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Sol
   axew.PonVista(nullptr);
   switch (fin) {
     case FinCorrida::completo:
-      veredicto = Juzga(solido, hoja);
+      veredicto = Juzga(*estado.pieza, solido, hoja);
       return std::nullopt;
     case FinCorrida::eleccionRechazada:
       return Rechazo{"picks", "pick " + std::to_string(sitios.size() + 1) + " is missing in picks."};
@@ -149,9 +150,9 @@ std::optional<Rechazo> Guarda(const EWdraw& axew, const Solido& solido, const st
 }  // namespace
 
 Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
-  if (trabajo.rechazo) return {"", "", trabajo.rechazo};
+  if (trabajo.rechazo) return {.rechazo = trabajo.rechazo};
   const FilaPieza* fila = FilaDeClave(trabajo.pieza);
-  if (!fila) return {"", "", Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
+  if (!fila) return {.rechazo = Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
 
   PlataformaLote plataforma;
   estado.plataforma = &plataforma;
@@ -165,6 +166,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
     Veredicto veredicto;
     resultado.rechazo = Despliega(axew, trabajo, solido, veredicto, plataforma);
     if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
+    if (veredicto.Cierto()) resultado.nota = TextoNotas(veredicto);
     if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
     if (!resultado.rechazo) resultado.rechazo = Guarda(axew, solido, base, opciones);
     if (!resultado.rechazo) resultado.fichero = base + ".dxf";

@@ -21,9 +21,9 @@ struct Opciones {
 
 /// What was written (empty with `soloComprueba`), or why not; and what the check found wrong with the pattern.
 struct Resultado {
-  std::string fichero;
-  std::string aviso;
-  std::optional<Rechazo> rechazo;
+  std::string fichero{};
+  std::string aviso{}, nota{};
+  std::optional<Rechazo> rechazo{};
 };
 
 /// `estado` is as the configuration leaves it; the job changes it.

@@ -60,6 +60,7 @@ class Examen {
       }
     }
     Vecinas();
+    BajoBase();
     std::ranges::stable_sort(veredicto_.defectos, [](const Defecto& a, const Defecto& b) {
       return std::tuple(a.falta, -a.medida) < std::tuple(b.falta, -b.medida);
     });
@@ -123,14 +124,21 @@ class Examen {
   void Compara(const FormaPatron& forma) {
     const Cotejo cotejo = Lee(forma);
     const Marcas marcas = CotejaMarcas(forma);
+    const Peor figura = cotejo.PeorFigura();
     std::vector<Punto2> contorno;
     for (const Vertice& v : forma.contorno) contorno.push_back(v.p);
-    Desvia(cotejo.PeorLargo().medida);
     const auto en = [&](const Peor& peor) { return Lugar{forma.nombre, NumeroCercano(forma, peor.sitio)}; };
     const double largo = cotejo.PeorLargo().medida;
+    Desvia(std::max(largo, figura.medida));
     if (largo > tolerancia_) Anota(Falta::largo, en(cotejo.PeorLargo()), largo);
-    if (cotejo.PeorVuelta().medida > 0) Anota(Falta::vuelta, en(cotejo.PeorVuelta()));
-    if (const auto cruce = Cruce(contorno, kSinAncho)) Anota(Falta::cruce, en({1, *cruce}));
+    if (figura.medida > tolerancia_) Anota(Falta::figura, en(figura), figura.medida);
+    if (AnchoDe(contorno) <= tolerancia_) {
+      veredicto_.notas.emplace_back(Nota::delgada, Lugar{forma.nombre});
+    } else {
+      const double vuelta = cotejo.PeorVuelta().medida;
+      if (vuelta > 0) Anota(Falta::vuelta, en(cotejo.PeorVuelta()), vuelta);
+      if (const auto cruce = Cruce(contorno, kSinAncho, tolerancia_)) Anota(Falta::cruce, en({1, *cruce}));
+    }
     if (marcas.numero.medida > 0) Anota(Falta::numeros, en(marcas.numero));
     if (marcas.doblez.medida > 0) Anota(Falta::doblez, en(marcas.doblez));
     anillo_.push_back({forma.nombre, cotejo.OrillaDe(forma.antes), cotejo.OrillaDe(forma.despues)});
@@ -147,6 +155,24 @@ class Examen {
       cercano = static_cast<int>(i) + 1;
     }
     return cercano;
+  }
+
+  // The base lies in the plane z = 0.
+  void BajoBase() {
+    constexpr double kNivel = 1e-6;
+    double hondo = kNivel;
+    const Cara* cual = nullptr;
+    for (const Cara& cara : solido_.caras) {
+      for (const auto* orilla : {&cara.bajo, &cara.alto}) {
+        for (const int i : *orilla) {
+          const double z = -solido_.puntos[static_cast<std::size_t>(i)].z;
+          if (!(z > hondo)) continue;
+          hondo = z;
+          cual = &cara;
+        }
+      }
+    }
+    if (cual) AnotaImposible(veredicto_, Causa::bocaBajoBase, {cual->forma}, hondo);
   }
 
   void Vecinas() {
@@ -175,6 +201,12 @@ class Examen {
 };
 
 }  // namespace
+
+void AnotaImposible(Veredicto& veredicto, Causa causa, const Lugar& donde, double medida) {
+  veredicto.causa = causa;
+  veredicto.desviacion = std::max(veredicto.desviacion, medida);
+  veredicto.defectos.push_back({Falta::imposible, donde, medida});
+}
 
 Veredicto Comprueba(const Solido& solido, const Patron& patron, double tolerancia) {
   return Examen(solido, patron, tolerancia).Haz();

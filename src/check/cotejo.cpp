@@ -98,6 +98,59 @@ void Cotejo::Orillas() {
   }
 }
 
+// Each triangle stands on the edge that it shares with those before, by its lengths in space, counter-clockwise.
+std::vector<std::optional<Punto2>> Cotejo::Tendida() const {
+  std::vector<std::optional<Punto2>> tendida(plano_.size());
+  const auto lugar = [&](int v) -> std::optional<Punto2>& { return tendida[static_cast<std::size_t>(v)]; };
+  for (const Faceta& faceta : forma_->facetas) {
+    std::array<int, 3> v = faceta.v;
+    if (&faceta == forma_->facetas.data()) {
+      lugar(v[0]) = Punto2{};
+      lugar(v[1]) = Punto2{Distancia(EnEspacio(v[0]), EnEspacio(v[1])), 0};
+    }
+    for (int vez = 0; vez < 2 && lugar(v[2]); ++vez) std::ranges::rotate(v, v.begin() + 1);
+    if (lugar(v[2]) || !lugar(v[0]) || !lugar(v[1])) continue;
+    const Punto3 A = EnEspacio(v[0]), B = EnEspacio(v[1]), C = EnEspacio(v[2]);
+    const double largo = Distancia(A, B);
+    const Punto3 u = largo > 0 ? (1 / largo) * (B - A) : Punto3{};
+    const Punto2 a = *lugar(v[0]), u2 = largo > 0 ? (1 / largo) * (*lugar(v[1]) - a) : Punto2{1, 0};
+    const double adelante = Escalar(C - A, u), aparte = Norma(C - A - adelante * u);
+    lugar(v[2]) = a + adelante * u2 + aparte * Punto2{-u2.y, u2.x};
+  }
+  return tendida;
+}
+
+Peor Cotejo::PeorFigura() const {
+  const auto tendida = Tendida();
+  Punto2 centro, suyo;
+  double cuenta = 0, coseno = 0, seno = 0;
+  const auto cada = [&](const auto& haz) {
+    for (std::size_t i = 0; i + 1 < plano_.size(); ++i) {
+      if (tendida[i]) haz(*tendida[i], plano_[i]);
+    }
+  };
+  cada([&](Punto2 p, Punto2 q) {
+    centro = centro + p;
+    suyo = suyo + q;
+    ++cuenta;
+  });
+  centro = (1 / std::max(cuenta, 1.0)) * centro;
+  suyo = (1 / std::max(cuenta, 1.0)) * suyo;
+  cada([&](Punto2 p, Punto2 q) {
+    const Punto2 u = p - centro, v = q - suyo;
+    coseno += u.x * v.x + u.y * v.y;
+    seno += u.x * v.y - u.y * v.x;
+  });
+  const double r = std::hypot(coseno, seno), c = r > 0 ? coseno / r : 1, s = r > 0 ? seno / r : 0;
+  Peor peor;
+  cada([&](Punto2 p, Punto2 q) {
+    const Punto2 u = p - centro, girado = suyo + Punto2{c * u.x - s * u.y, s * u.x + c * u.y};
+    const double error = Largo2(girado - q);
+    peor.Anota(std::isfinite(error) ? error : HUGE_VAL, q, q);
+  });
+  return peor;
+}
+
 Cotejo::Orilla Cotejo::OrillaDe(const Borde& borde) const {
   const auto [p, punto, hacia] = forma_->contorno[static_cast<std::size_t>(borde[0])];
   const double largo = Distancia(En(borde[0]), En(borde[1]));

@@ -1,6 +1,7 @@
 #pragma once
 // The lengths and facets of a shape against the solid: the worst of each.
 
+#include <optional>
 #include <vector>
 
 #include "piece/patron.h"
@@ -29,6 +30,10 @@ class Cotejo {
   const Peor& PeorLargo() const { return largo_; }
   const Peor& PeorVuelta() const { return vuelta_; }
 
+  /// The shape as a whole: how far a vertex lies from where the facets have it, laid flat one beside the other and
+  /// moved and turned, not mirrored, to fit best.
+  Peor PeorFigura() const;
+
   /// A border as it lies on the sheet, and what of it stands on an edge of the solid: its lower end parts the edge, and
   /// `parte` is its distance from the edge's end.
   struct Orilla {
@@ -47,6 +52,7 @@ class Cotejo {
   Punto3 EnEspacio(int vertice) const { return espacio_[static_cast<std::size_t>(vertice)]; }
   Punto3 Punto(int i) const { return solido_->puntos[static_cast<std::size_t>(i)]; }
   double Parte(std::size_t vertice) const;
+  std::vector<std::optional<Punto2>> Tendida() const;
 
   const Solido* solido_;
   const FormaPatron* forma_;

@@ -11,6 +11,7 @@ namespace {
 struct Lado {
   Punto2 p, q;  // p.x <= q.x
   double yMin, yMax;
+  std::size_t lugar;  // behind this vertex of the outline
 };
 
 double Vectorial2(Punto2 a, Punto2 b) { return a.x * b.y - a.y * b.x; }
@@ -28,16 +29,51 @@ Punto2 Encuentro(const Lado& a, const Lado& b) {
   return a.p + Vectorial2(b.p - a.p, v) / Vectorial2(u, v) * u;
 }
 
+// Areas and lengths of the outline up to each vertex, so that those of any part of it are known at once.
+class Sumas {
+ public:
+  explicit Sumas(const std::vector<Punto2>& contorno) : contorno_(contorno), suma_(contorno.size() + 1) {
+    for (std::size_t i = 0; i < contorno.size(); ++i) {
+      suma_[i + 1] = suma_[i] + Tramo(contorno[i], contorno[(i + 1) % contorno.size()]);
+    }
+  }
+  // Of the whole outline, and of the loop that begins and ends at X, on the edges behind the vertices i and j.
+  double Ancho() const { return Ancho(suma_.back()); }
+  double AnchoBucle(Punto2 X, std::size_t i, std::size_t j) const {
+    if (i > j) std::swap(i, j);
+    const Suma bucle = Tramo(X, contorno_[i + 1]) + suma_[j] - suma_[i + 1] + Tramo(contorno_[j], X);
+    return std::min(Ancho(bucle), Ancho(suma_.back() - bucle));
+  }
+
+ private:
+  struct Suma {
+    double doble = 0, largo = 0;  // twice the area
+    friend Suma operator+(Suma a, Suma b) { return {a.doble + b.doble, a.largo + b.largo}; }
+    friend Suma operator-(Suma a, Suma b) { return {a.doble - b.doble, a.largo - b.largo}; }
+  };
+  Suma Tramo(Punto2 p, Punto2 q) const {
+    const Punto2 u = p - contorno_[0], v = q - contorno_[0];
+    return {Vectorial2(u, v), std::hypot(q.x - p.x, q.y - p.y)};
+  }
+  static double Ancho(Suma s) { return s.largo > 0 ? std::abs(s.doble) / s.largo : 0; }
+
+  const std::vector<Punto2>& contorno_;
+  std::vector<Suma> suma_;
+};
+
 }  // namespace
 
+double AnchoDe(const std::vector<Punto2>& contorno) { return Sumas(contorno).Ancho(); }
+
 // The edges enter from left to right; those that end before the newest begins leave.
-std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen) {
+std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen, double ancho) {
+  std::optional<Sumas> sumas;
   std::vector<Lado> lados;
   for (std::size_t i = 0; i < contorno.size(); ++i) {
     Punto2 p = contorno[i], q = contorno[(i + 1) % contorno.size()];
     if (p == q) continue;
     if (p.x > q.x) std::swap(p, q);
-    lados.push_back({p, q, std::min(p.y, q.y), std::max(p.y, q.y)});
+    lados.push_back({p, q, std::min(p.y, q.y), std::max(p.y, q.y), i});
   }
   std::ranges::sort(lados, {}, [](const Lado& l) { return l.p.x; });
   std::vector<const Lado*> abiertos;
@@ -45,7 +81,10 @@ std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen) 
     std::erase_if(abiertos, [&](const Lado* l) { return l->q.x < nuevo.p.x; });
     for (const Lado* l : abiertos) {
       if (l->yMax < nuevo.yMin || l->yMin > nuevo.yMax) continue;
-      if (Parte(*l, nuevo, margen) && Parte(nuevo, *l, margen)) return Encuentro(*l, nuevo);
+      if (!Parte(*l, nuevo, margen) || !Parte(nuevo, *l, margen)) continue;
+      if (!sumas) sumas.emplace(contorno);
+      const Punto2 X = Encuentro(*l, nuevo);
+      if (sumas->AnchoBucle(X, l->lugar, nuevo.lugar) > ancho) return X;
     }
     abiertos.push_back(&nuevo);
   }

@@ -8,7 +8,11 @@
 
 namespace duktores {
 
-/// A point where two edges of the closed outline cross by more than `margen`; touching is no crossing.
-std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen);
+/// A point where two edges of the closed outline cross, each by more than `margen` and cutting off more than a loop of
+/// the width `ancho`; touching is no crossing.
+std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen, double ancho);
+
+/// The width of a shape as a strip of its area and its perimeter.
+double AnchoDe(const std::vector<Punto2>& contorno);
 
 }  // namespace duktores

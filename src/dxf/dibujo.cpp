@@ -1,7 +1,9 @@
 #include "dxf/dibujo.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "geometry/redondeo.h"
 #include "state/caracteres.h"
 
 namespace duktores {
@@ -20,6 +22,15 @@ void cDrawing::AmpliaAlrededor(Punto3 centro, double r) {
   const Punto3 radio{r, r, r};
   Amplia(centro - radio);
   Amplia(centro + radio);
+}
+
+bool cDrawing::Repite(const cLine& oLine) {
+  constexpr int kDecimales = 6;
+  if (!trazadas_) return false;
+  std::array uno{Redondea(oLine.x1, kDecimales), Redondea(oLine.y1, kDecimales)};
+  std::array otro{Redondea(oLine.x2, kDecimales), Redondea(oLine.y2, kDecimales)};
+  if (otro < uno) std::swap(uno, otro);
+  return !trazadas_->insert({uno[0], uno[1], otro[0], otro[1], static_cast<double>(oLine.ColorIndex)}).second;
 }
 
 bool cDrawing::InsertLine(cLine* oLine) {

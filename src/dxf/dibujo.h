@@ -3,7 +3,10 @@
 // of drawing, and widens the extent. An arc counts as its whole circle, a text as the square around its insertion point
 // with half side (characters of Text) * Height, in z too.
 
+#include <array>
 #include <cstdint>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -28,6 +31,11 @@ class cDrawing {
   bool InsertPoint(cPoint* oPoint);
   void InsertPolyLine(cPolyline* oPolyLine);
 
+  /// From now on a line of one colour is taken once on the same place. Whether this one stands there already is what
+  /// Repite says, and remembers it.
+  void UnaVez() { trazadas_.emplace(); }
+  bool Repite(const cLine& oLine);
+
   std::int32_t Count() const { return m_count; }
   void GetBorder(double& xMin, double& yMin, double& zMin, double& xMax, double& yMax, double& zMax) const;
   const std::string& GetEntities() const { return entidades_.CurString(); }
@@ -41,6 +49,8 @@ class cDrawing {
   Punto3 minimo_, maximo_;
   std::int32_t m_count = 0;
   cAddString entidades_;
+  using Trazo = std::array<double, 5>;  // ends in ascending order, colour
+  std::optional<std::set<Trazo>> trazadas_;
 };
 
 }  // namespace duktores

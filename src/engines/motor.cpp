@@ -32,6 +32,8 @@ Desarrollo MotorTransicion::GeneraDesarrollo(const Pieza& pieza) const {
   const Transicion t = GeneraPuntos(pieza);
   const Corte corte = CortePieza1(t);
   Desarrollo desarrollo;
+  desarrollo.patron.otroExtremo = otroExtremo;
+  desarrollo.patron.sinRepetir = pieza.regla == Regla::exacta;
   const auto anade = [&](Parte parte) {
     FormaPatron forma = FormaDe(t, orden, parte, corte);
     const int N = pieza.divisiones, entera = 2 * N + 2, media = N + 2;

@@ -44,4 +44,10 @@ inline constexpr int kCierto = 107, kFalso = 108, kLargo = 109, kVuelta = 110, k
 inline constexpr int kCruce = 113, kVecinas = 114, kNumeros = 115, kDoblez = 116, kEntera = 117, kMitad = 118;
 inline constexpr int kDesviacion = 119;
 
+inline constexpr int kImposible = 150, kFigura = 151;
+inline constexpr int kBocaBajoBase = 152, kCorteSobreVertice = 153, kLadoComido = 154, kRadioImposible = 155;
+inline constexpr int kSeEncuentra = 156, kReglasUsuales = 157, kCuraExacta = 158;
+inline constexpr int kNota = 159, kDelgada = 160, kOtroExtremo = 161;
+inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
+
 }  // namespace duktores::texto

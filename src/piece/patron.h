@@ -66,6 +66,8 @@ struct FormaPatron {
 
 struct Patron {
   std::vector<FormaPatron> formas;
+  bool sinRepetir = false;      ///< an outline is drawn without vertices on the place of their neighbours
+  bool otroExtremo = false;     ///< the seam lies at the other end of the piece than where it was asked for
   bool sigueTrasFallo = false;  ///< a shape that can't be drawn doesn't keep the next ones from being drawn
 };
 

@@ -1,5 +1,6 @@
 #include "sheet/hoja.h"
 
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <utility>
@@ -20,6 +21,14 @@ std::vector<Punto2> Contorno(const FormaPatron& forma, Punto2 mas = {}) {
   puntos.reserve(forma.contorno.size());
   for (const Vertice& v : forma.contorno) puntos.push_back(v.p + mas);
   return puntos;
+}
+
+std::vector<Punto2> SinRepetir(std::vector<Punto2> contorno) {
+  const auto coinciden = [](Punto2 p, Punto2 q) { return Distancia(p, q) <= kNivel; };
+  const auto repetidos = std::ranges::unique(contorno, coinciden);
+  contorno.erase(repetidos.begin(), repetidos.end());
+  while (contorno.size() > 1 && coinciden(contorno.front(), contorno.back())) contorno.pop_back();
+  return contorno;
 }
 
 void Coloca(FormaPatron& forma, Punto2 sitio) {
@@ -43,8 +52,8 @@ void Coloca(FormaPatron& forma, Punto2 sitio) {
 
 class Dibujante {
  public:
-  Dibujante(EWdraw& axew, const FormatoHoja& formato, const PideSitio& pide)
-      : axew_(axew), formato_(formato), pide_(pide) {}
+  Dibujante(EWdraw& axew, const FormatoHoja& formato, const PideSitio& pide, bool sinRepetir)
+      : axew_(axew), formato_(formato), pide_(pide), sinRepetir_(sinRepetir) {}
 
   void Dibuja(FormaPatron& forma) {
     contorno_ = false;
@@ -75,7 +84,7 @@ class Dibujante {
   }
 
   void Marca(FormaPatron& forma) {
-    DibujaContorno(axew_, Contorno(forma));
+    DibujaContorno(axew_, sinRepetir_ ? SinRepetir(Contorno(forma)) : Contorno(forma));
     contorno_ = true;
     bool faltanCotas = formato_.cotas;
     const auto acota = [&] {
@@ -98,13 +107,13 @@ class Dibujante {
   EWdraw& axew_;
   const FormatoHoja& formato_;
   const PideSitio& pide_;
-  bool contorno_ = false;
+  bool sinRepetir_, contorno_ = false;
 };
 
 }  // namespace
 
 Patron DibujaPatron(EWdraw& axew, Patron patron, const FormatoHoja& formato, const PideSitio& pide) {
-  Dibujante dibujante(axew, formato, pide);
+  Dibujante dibujante(axew, formato, pide, patron.sinRepetir);
   for (FormaPatron& forma : patron.formas) {
     try {
       dibujante.Dibuja(forma);

@@ -4,12 +4,10 @@
 #include <memory>
 #include <utility>
 
-#include "check/comprueba.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "sheet/hoja.h"
 #include "shell/lista.h"
-#include "shell/texto_veredicto.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
 #include "state/numeros.h"
@@ -58,6 +56,11 @@ Solido Dibuja3D(EWdraw& axew) {
   return solido;
 }
 
+void CambiaRegla() {
+  Regla& regla = estado.pieza.value().regla;
+  regla = regla == Regla::exacta ? Regla::usual : Regla::exacta;
+}
+
 FormatoHoja FormatoDeEstado() {
   const EstadoPrograma& e = estado;
   return {.milimetros = e.iUnidad == 1,
@@ -81,6 +84,7 @@ Corrida Corre(EWdraw& axew, Hace hace) {
   estado.oDXF = std::make_shared<cDXF>();
   try {
     Desarrollo desarrollo = hace();
+    if (estado.pieza->regla == Regla::exacta) estado.oDrawing->UnaVez();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
     const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
     return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
@@ -103,7 +107,5 @@ Corrida Despliega(EWdraw& axew) {
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
   return Corre(axew, [&] { return std::move(desarrollo); });
 }
-
-Veredicto Juzga(const Solido& solido, const Patron& patron) { return Comprueba(solido, patron, ToleranciaPatron()); }
 
 }  // namespace duktores

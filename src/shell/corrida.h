@@ -2,7 +2,6 @@
 // The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
 // type it is. Without one nothing is drawn.
 
-#include "check/veredicto.h"
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
 #include "viewer/ewdraw.h"
@@ -16,6 +15,9 @@ Desarrollo DesarrolloDe(const Pieza& pieza, const Solido& solido);
 /// Draws the wire view of the accepted piece on the control, which it empties, and returns its solid.
 Solido Dibuja3D(EWdraw& axew);
 void DibujaSolido(EWdraw& axew, const Solido& solido);
+
+/// Exchanges the rule of the accepted piece for the other one.
+void CambiaRegla();
 
 /// How patterns are drawn, as `estado` has it.
 FormatoHoja FormatoDeEstado();
@@ -33,8 +35,5 @@ struct Corrida {
 Corrida Despliega(EWdraw& axew);
 /// The same of a pattern that has been made already.
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);
-
-/// The pattern against the solid, within the tolerance of the configured unit.
-Veredicto Juzga(const Solido& solido, const Patron& patron);
 
 }  // namespace duktores

@@ -77,8 +77,9 @@ Desarrollo DesarrollaEspecial(const Pieza& pieza, const Solido& solido) {
   if (!exacta) desarrollo.ajustadas = Ajusta(pieza);
   const PiezaEspecial especial = exacta ? ComoEspecial(pieza) : ComoEspecial(pieza, *desarrollo.ajustadas);
   const OrdenEspecial orden(pieza.divisiones);
-  auto& [formas, sigueTrasFallo] = desarrollo.patron;
-  sigueTrasFallo = true;
+  std::vector<FormaPatron>& formas = desarrollo.patron.formas;
+  desarrollo.patron.sigueTrasFallo = true;
+  desarrollo.patron.sinRepetir = exacta;
   for (int c = 1; c <= 4; ++c) {
     if (!exacta || HayEsquina(especial, c)) {
       formas.push_back(

@@ -10,6 +10,8 @@
 
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
+#include "shell/juicio.h"
+#include "shell/texto_linea.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
@@ -59,6 +61,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
+  connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
 
   EWdraw_.EwInicia(true);
   solido_ = Dibuja3D(EWdraw_);
@@ -102,14 +105,19 @@ void FrmViewUnfold::Botones() {
   }
   proporcion_.Coloca(*FrmZoom_, {inicioZoom, 10, x + 4, kAltoGrupo});
 
-  x = kDiseno.width() - kMargen - 4 * (kPaso + 8);
+  x = kDiseno.width() - kMargen - 5 * (kPaso + 8);
   const auto suelto = [&](std::string_view nombre, int texto) {
     QPushButton* boton = Boton(this, nombre, texto, {x, 14, kBoton + 6, kBoton + 4});
     x += kPaso + 8;
     return boton;
   };
+  CmdExacto_ = suelto("CmdExacto", texto::kExacto);
+  CmdExacto_->setCheckable(true);
+  CmdExacto_->setChecked(estado.pieza->regla == Regla::exacta);
+  CmdExacto_->setShortcut(Qt::Key_E);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
+  connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
@@ -123,16 +131,29 @@ FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
 void FrmViewUnfold::CmdDesplegado() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
+  hoja_ = {};
   CmdSave_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
+  CmdExacto_->setEnabled(false);
   FrmView_->setEnabled(false);
   FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
-  const Corrida corrida = Desplegado(EWdraw_);
+  Corrida corrida = Desplegado(EWdraw_);
   if (!vivo) return;
   MuestraVeredicto(corrida);
+  hoja_ = std::move(corrida.hoja);
   CmdDesplegado_->setEnabled(true);
+  CmdExacto_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
+}
+
+// The other rule has another solid, and another pattern where one stands.
+void FrmViewUnfold::CmdExacto() {
+  CambiaRegla();
+  solido_ = SolidoDe(*estado.pieza);
+  if (!FrmView_->isEnabled()) return CmdDesplegado();
+  DibujaSolido(EWdraw_, solido_);
+  EWdraw_.EwRegen();
 }
 
 void FrmViewUnfold::CmdSave() {
@@ -169,13 +190,22 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 // A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
-  const Veredicto veredicto = completo ? Juzga(solido_, corrida.hoja) : Veredicto();
+  const Veredicto veredicto = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
   const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
   if (!completo || !veredicto.Cierto())
     LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
   LblEstado_->setToolTip(linea);
+}
+
+// What the line under the pointer is; away from all lines the verdict.
+void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
+  if (hoja_.formas.empty()) return;
+  const auto cercana = LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
+  LblEstado_->setText(
+      cercana ? Q(TextoLinea(*cercana, solido_))
+              : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));
 }
 
 void FrmViewUnfold::done(int resultado) {

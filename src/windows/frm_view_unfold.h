@@ -33,16 +33,19 @@ class FrmViewUnfold : public QDialog {
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
   void CmdSave();
+  void CmdExacto();
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
+  void MuestraLinea(QPointF punto, double alcance);
   void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;
   Solido solido_;
+  Patron hoja_;  // as it stands on the control; empty while the solid shows
   EWdraw EWdraw_;
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;
-  QPushButton *CmdDesplegado_, *CmdSave_;
+  QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
   QLabel* LblEstado_;
 };
 

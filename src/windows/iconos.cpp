@@ -43,6 +43,7 @@ constexpr std::array kDibujos{
     Dibujo{"CmdZoomAll",    "M3 8V3H8M16 3H21V8M21 16V21H16M8 21H3V16M8 8H16V16H8Z", ""},
     Dibujo{"CmdZoomwindow", kLupa,                                               "M7 8H13V12H7Z"},
     Dibujo{"CmdDesplegado", "M2 12L8 5L9.5 7.5Q12 10 14.5 7.5L16 5L22 12L17 19H7ZM9.5 7.5L7 19M14.5 7.5L17 19", ""},
+    Dibujo{"CmdExacto",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M12 1V7M12 17V23M1 12H7M17 12H23",         ""},
     Dibujo{"CmdSave",       "M4 4H17L20 7V20H4ZM8 4V9H15V4M7 20V13H17V20",       ""},
     Dibujo{"CmdCancelar",   kVuelve,                                             ""},
     Dibujo{"CmdExit",       kPuerta,                                             ""},

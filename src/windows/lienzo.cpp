@@ -228,6 +228,9 @@ void Lienzo::mouseMoveEvent(QMouseEvent* suceso) {
   if (eleccion_) {
     emit apunta(Modelo(raton_));
     update();
+  } else if (suceso->buttons() == Qt::NoButton) {
+    constexpr double kPuntos = 6;
+    emit pasa(Modelo(raton_), kPuntos / encuadre_.escala);
   }
   if (suceso->buttons() == Qt::NoButton) arrastre_.reset();  // a box on top has had the release
   if (!arrastre_) return;

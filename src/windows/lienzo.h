@@ -34,6 +34,8 @@ class Lienzo : public QWidget, public VistaEWdraw {
  signals:
   /// Coordinates of the pointer during a pick, in model units.
   void apunta(QPointF punto);
+  /// The pointer passes over the model outside a pick; `alcance` is how near it points, in model units.
+  void pasa(QPointF punto, double alcance);
   /// A pick begins or ends.
   void eligiendo(bool empieza);
   /// The command of the left button, null for none.
