@@ -141,8 +141,9 @@ class Program(Batch):
         out = self.folder / "out"
         config = self.folder / "exact.ini"
         config.write_text((PROGRAM.parent.parent / "Config/Config.ini").read_text().replace("Exact=0", "Exact=1"))
-        for options, code, answer in (((), 0, f"bad: ok {out}/bad.dxf, warning: ATENCIÓN, desarrollo falso: Esquina 1"),
-                                      (("--strict",), 1, "bad: refused pattern: ATENCIÓN, desarrollo falso: Esquina 1"),
+        for options, code, answer in (((), 0, f"bad: ok {out}/bad.dxf, warning: ATENCIÓN, desarrollo falso: Esquina 2"),
+                                      (("--strict",), 1, "bad: refused pattern: ATENCIÓN, desarrollo falso: Esquina 2"),
+                                      (("--strict", "--exact"), 0, f"bad: ok {out}/bad.dxf"),
                                       (("--strict", "--config", config), 0, f"bad: ok {out}/bad.dxf")):
             shutil.rmtree(out, ignore_errors=True)
             result = self.run_batch(jobs, *options)
@@ -150,6 +151,7 @@ class Program(Batch):
             self.assertEqual((result.returncode, lines[0]), (code, f"good: ok {out}/good.dxf"))
             self.assertTrue(lines[1].startswith(answer), lines[1])
             self.assertEqual("warning" in lines[1], options == ())
+            self.assertEqual("Las reglas usuales" in lines[1], code == 1 or options == ())
             self.assertEqual((out / "bad.dxf").exists(), code == 0)
 
 

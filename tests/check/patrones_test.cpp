@@ -4,14 +4,17 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <random>
 #include <tuple>
 
 #include "check/cruce.h"
 #include "geometry/planas.h"
+#include "piece/doblez.h"
 #include "pieza_desarrollada.h"
 #include "pieza_tecleada.h"
 #include "piezas_azar.h"
+#include "shell/corrida.h"
 
 namespace duktores {
 namespace {
@@ -23,61 +26,92 @@ bool Encuentra(const Veredicto& veredicto, Falta falta) {
   return std::ranges::any_of(veredicto.defectos, [=](const Defecto& d) { return d.falta == falta; });
 }
 
-class Patrones : public testing::TestWithParam<TipoPieza> {
- protected:
-  void ExpectMismoSitio(const Patron& a, const Patron& b) {
-    ASSERT_EQ(a.formas.size(), b.formas.size());
-    for (std::size_t f = 0; f < a.formas.size(); ++f) {
-      const auto &una = a.formas[f].contorno, &otra = b.formas[f].contorno;
-      ASSERT_EQ(una.size(), otra.size());
-      for (std::size_t k = 0; k < una.size(); ++k) EXPECT_LT(Distancia(una[k].p, otra[k].p), 1e-6) << f << " " << k;
-    }
-  }
-};
+bool Encuentra(const PiezaDesarrollada& una, Causa causa) { return una.Juzga().causa == causa; }
 
-TEST_P(Patrones, ExactOnesAreTrueAndLieWhereTheUsualOnesDo) {
+class Patrones : public testing::TestWithParam<TipoPieza> {};
+
+TEST_P(Patrones, AWarningHasItsCauseAndTheUsualRulesAreWhatTheyWere) {
   const auto semilla = std::random_device{}();
   std::mt19937 azar(semilla);
-  int ciertas = 0, iguales = 0, formas = 0, falsas = 0;
+  int formas = 0, falsas = 0;
   for (int vez = 0; vez < 200; ++vez) {
-    SCOPED_TRACE("seed " + std::to_string(semilla) + " piece " + std::to_string(vez));
     Configura();
     Dialogo dialogo(FilaDe(GetParam()).dialogo);
     TecleaPieza(dialogo, azar);
     if (Dialogo(dialogo).CmdAceptar() != Respuesta::aceptado) continue;
-    const PiezaDesarrollada usual(dialogo, 0), exacto(dialogo, 1);
-    for (const PiezaDesarrollada* una : {&usual, &exacto}) {
-      for (const auto& f : una->hoja.formas) EXPECT_TRUE(f.contorno.empty() || f.En(0) == f.contorno.back().p);
-    }
-    const Veredicto usualVeredicto = usual.Juzga(), veredicto = exacto.Juzga();
+    const PiezaDesarrollada usual(dialogo, 0);
+    const Veredicto usualVeredicto = usual.Juzga(), veredicto = PiezaDesarrollada(dialogo, 1).Juzga();
     formas += static_cast<int>(usual.hoja.formas.size());
     for (const FormaPatron& f : usual.hoja.formas) {
+      EXPECT_TRUE(f.contorno.empty() || f.En(0) == f.contorno.back().p);
       falsas +=
           std::ranges::any_of(usualVeredicto.defectos, [&](const Defecto& d) { return d.donde.forma == f.nombre; });
     }
-    // A wide, low pattern in one piece may meet itself on the sheet.
-    const bool cruza = exacto.hoja.formas[0].nombre.forma == Forma::entera && Encuentra(veredicto, Falta::cruce);
-    if (DelReves(*estado.pieza)) continue;
-    EXPECT_LT(veredicto.desviacion, 1e-6) << TextoVeredicto(veredicto);
-    if (cruza) continue;
-    EXPECT_TRUE(veredicto.Cierto()) << TextoVeredicto(veredicto);
-    ++ciertas;
-    // The usual pattern of a tilted ellipse is that of the solid seen from its other end, at best.
-    const bool otroExtremo = GetParam() == TipoPieza::elip && estado.dAlfa != 0;
-    if (usualVeredicto.Cierto() && usualVeredicto.desviacion < 1e-9 && !otroExtremo) {
-      ExpectMismoSitio(usual.hoja, exacto.hoja);
-      ++iguales;
-    }
-    if (HasFailure()) return;
+    ASSERT_EQ(usualVeredicto.causa.has_value(), !usualVeredicto.Cierto());
+    ASSERT_EQ(veredicto.causa.has_value(), !veredicto.Cierto()) << "seed " << semilla << " piece " << vez;
+    EXPECT_NE(veredicto.causa, Causa::reglasUsuales);
+    EXPECT_LT(veredicto.Cierto() ? veredicto.desviacion : 0, 1e-6) << "seed " << semilla << " piece " << vez;
   }
-  EXPECT_GT(ciertas, 100);
   // How many shapes the usual rules lay out rightly, in hundredths, tells whether they are what they were.
   constexpr std::pair<int, int> kUsuales[]{{92, 100}, {92, 100}, {52, 76}, {82, 94},
-                                           {81, 95},  {53, 65},  {81, 92}, {79, 89}};
+                                           {72, 95},  {53, 65},  {81, 92}, {84, 96}};
   const auto& [desde, hasta] = kUsuales[static_cast<std::size_t>(GetParam())];
   const int usualesCiertas = 100 - 100 * falsas / formas;
   EXPECT_TRUE(desde <= usualesCiertas && usualesCiertas <= hasta) << usualesCiertas;
-  EXPECT_TRUE(iguales > 0 || GetParam() > TipoPieza::elip);
+}
+
+// Whatever the surface. Only a low, wide one in one piece may meet itself on the sheet.
+TEST_P(Patrones, EverydayPiecesArePossible) {
+  const auto semilla = std::random_device{}();
+  std::mt19937 azar(semilla);
+  for (int vez = 0; vez < 150; ++vez) {
+    Configura();
+    Dialogo dialogo(FilaDe(GetParam()).dialogo);
+    AceptaCotidiana(dialogo, azar);
+    const PiezaDesarrollada una(dialogo, 1);
+    if (una.hoja.formas.size() == 1 && Encuentra(una, Causa::seEncuentra)) continue;
+    ASSERT_TRUE(una.Juzga().Cierto()) << TextoVeredicto(una.Juzga()) << ", seed " << semilla << " piece " << vez;
+  }
+}
+
+// One solid by both rules: the exact one gets the curve that the polygon of the usual one is as long as.
+TEST(Longitudes, BothRulesLayATransitionAlike) {
+  const auto semilla = std::random_device{}();
+  std::mt19937 azar(semilla);
+  int iguales = 0;
+  for (int vez = 0; vez < 600; ++vez) {
+    Configura();
+    const TipoPieza tipo = std::array{TipoPieza::cr, TipoPieza::rc, TipoPieza::elip}[azar() % 3];
+    Dialogo dialogo(FilaDe(tipo).dialogo);
+    TecleaPieza(dialogo, azar);
+    ASSERT_EQ(Dialogo(dialogo).CmdAceptar(), Respuesta::aceptado);
+    Pieza usual = *estado.pieza;
+    Boca& boca = tipo == TipoPieza::rc ? usual.corregidas.abajo : usual.corregidas.arriba;
+    if (tipo == TipoPieza::elip) {
+      usual.Alfa = 0;  // the usual one tilts the other way
+      boca.LY = boca.LX;
+    }
+    Pieza exacta = usual;
+    exacta.regla = Regla::exacta;
+    const double parte = dPi / usual.divisiones, encoge = std::sin(parte) / parte;
+    Boca& suya = tipo == TipoPieza::rc ? exacta.corregidas.abajo : exacta.corregidas.arriba;
+    suya = {encoge * boca.LX, encoge * boca.LY, Cuatro(encoge * boca.r(1))};
+    exacta.entradas = exacta.corregidas;
+    const Solido solido = SolidoDe(usual);
+    const Patron a = DesarrolloDe(usual, solido).patron, b = DesarrolloDe(exacta, SolidoDe(exacta)).patron;
+    const Veredicto veredicto = Juzga(usual, solido, a);
+    if (!veredicto.Cierto() || veredicto.desviacion > 1e-9) continue;
+    ++iguales;
+    ASSERT_EQ(a.formas.size(), b.formas.size());
+    for (std::size_t f = 0; f < a.formas.size(); ++f) {
+      const auto &una = a.formas[f].contorno, &otra = b.formas[f].contorno;
+      ASSERT_EQ(una.size(), otra.size());
+      for (std::size_t k = 0; k < una.size(); ++k) {
+        ASSERT_LT(Distancia(una[k].p, otra[k].p), 1e-6) << "seed " << semilla << " piece " << vez << " vertex " << k;
+      }
+    }
+  }
+  EXPECT_GT(iguales, 25);
 }
 
 // So far beside its start side stands the circle that the end of the split lies above it on the sheet.
@@ -105,7 +139,8 @@ TEST(Longitudes, UsualTransitionsKeepThem) {
     const bool elipse = tipo == TipoPieza::elip, corrida = p.AX != 0 || (elipse && p.AY != 0);
     if (p.Alfa != 0 && corrida && (elipse || (tipo == TipoPieza::rc && p.inicio % 2 == 0))) continue;
     const PiezaDesarrollada usual(dialogo, 0);
-    ASSERT_LT(usual.Juzga().desviacion, 0.02) << static_cast<int>(tipo) << ", seed " << semilla << " piece " << vez;
+    ASSERT_FALSE(Encuentra(usual.Juzga(), Falta::largo))
+        << static_cast<int>(tipo) << ", seed " << semilla << " piece " << vez;
   }
 }
 
@@ -131,8 +166,12 @@ const struct {
   void (*hace)(Patron& hoja);
 } kEstropicios[]{
     {"facet mirrored", Falta::vuelta, VuelveCara},
+    {"shape mirrored", Falta::figura,
+     [](Patron& h) {
+       for (Vertice& v : h.formas[0].contorno) v.p.x = -v.p.x;
+     }},
     {"outline crossed", Falta::cruce,
-     [](Patron& h) { std::swap(h.formas[0].contorno[2].p, h.formas[0].contorno[5].p); }},
+     [](Patron& h) { std::swap(h.formas[0].contorno[2].p, h.formas[0].contorno[h.formas[0].contorno.size() / 2].p); }},
     {"shape left out", Falta::falta, QuitaForma},
     {"shape without an outline", Falta::falta, [](Patron& h) { h.formas[0].contorno.clear(); }},
     {"shape of unknown points", Falta::falta, [](Patron& h) { h.formas[0].facetas.clear(); }},
@@ -145,10 +184,61 @@ const struct {
     {"number moved", Falta::numeros, [](Patron& h) { Una(h, Clase::borde).q.y += 0.01; }},
 };
 
+// No two neighbours of these are far off, but the shape as a whole is.
+TEST(Longitudes, AWholeShapeIsToldWithItsMillimetres) {
+  for (const auto& [textos, desviacion] :
+       {std::pair("700 250 600 500 50 20 0 0 16", 26.0), {"500 355 1000 800 375 375 0 0 8", 3.8}}) {
+    Configura();
+    estado.dEspesor = 1;
+    estado.iFibra = 1;
+    const Veredicto veredicto = PiezaDesarrollada(Tecleado(TipoPieza::esp2, textos), 0).Juzga();
+    EXPECT_FALSE(veredicto.Cierto());
+    EXPECT_NEAR(veredicto.desviacion, desviacion, 0.1 * desviacion) << textos;
+  }
+}
+
+// The strips between marked elements, on a corner: a prism, a cylinder and a cone stand upright.
+TEST(Dobleces, AreThoseOfClosedForms) {
+  Configura();
+  const auto dobleces = [](const Pieza& pieza) {
+    const Solido solido = SolidoDe(pieza);
+    std::vector<double> grados;
+    for (const Linea& l : DesarrolloDe(pieza, solido).patron.formas[0].lineas) {
+      const auto doblez = DoblezDe(solido, l);
+      EXPECT_EQ(doblez.has_value(), l.clase == Clase::doblez);
+      if (!doblez) continue;
+      EXPECT_FALSE(doblez->haciaArriba) << "all these bulge";
+      grados.push_back(doblez->grados);
+    }
+    return grados;
+  };
+  estado.iExacto = 1;
+  const double H = 300, d = 100 * std::cos(Radianes(11.25));
+  const double cono = Grados(std::acos((H * H * std::cos(Radianes(22.5)) + d * d) / (H * H + d * d)));
+  for (const auto& [tipo, textos, enMedio] :
+       {std::tuple(TipoPieza::esp1, "300 80 80 80 80 80 80 80 80 300 500 300 500 0 0 0 0 16", 22.5),
+        {TipoPieza::esp2, "300 100 200 200 0 0 0 0 16", 22.5},
+        {TipoPieza::esp2, "300 100 400 400 0 0 0 0 16", cono}}) {
+    const std::vector<double> grados = dobleces(Aceptada(tipo, textos));
+    ASSERT_EQ(grados.size(), 3) << textos;
+    for (const double g : grados) EXPECT_NEAR(g, enMedio, 1e-6) << textos;
+  }
+  // Four sides of a pyramid between four corners cut off.
+  Pieza piramide = Aceptada(TipoPieza::cr, "300 100 400 400 0 0 0 12 1");
+  piramide.regla = Regla::usual;
+  piramide.divisiones = 4;
+  const double lado = 200 - 100, canto = std::sqrt(2.0) * 200 - 100 / std::sqrt(2.0);
+  const double angulo =
+      Grados(std::acos((H * H / std::sqrt(2.0) + lado * canto) / std::hypot(H, lado) / std::hypot(H, canto)));
+  const std::vector<double> grados = dobleces(piramide);
+  ASSERT_EQ(grados.size(), 8);
+  for (const double g : grados) EXPECT_NEAR(g, angulo, 1e-9);
+}
+
 class Comprobada : public testing::Test {
  protected:
   const Dialogo dialogos_[3]{PiezaCR(false), PiezaCR(true), PiezaEsp1()};
-  Veredicto Juzga(const Patron& hoja) const { return duktores::Juzga(d_->solido, hoja); }
+  Veredicto Juzga(const Patron& hoja) const { return duktores::Juzga(*estado.pieza, d_->solido, hoja); }
   const Patron& Desarrolla(const Dialogo& dialogo) {
     Configura();
     d_.emplace(dialogo, 1);
@@ -193,10 +283,11 @@ TEST_F(Comprobada, FindsAnyVertexThatMoves) {
 
 TEST_F(Comprobada, SaysHowFarAndWhere) {
   for (const auto& [idioma, unidad, cierto, falso] :
-       {std::tuple(0.0, 1, "Desarrollo verdadero, desviación máxima: 0,000 mm",
-                   "ATENCIÓN, desarrollo falso: Esquina 1 (1): longitud, error 1,0"),
+       {std::tuple(
+            0.0, 1, "Desarrollo verdadero, desviación máxima: 0,000 mm",
+            "ATENCIÓN, desarrollo falso: Esquina 1 (1): forma, error 0,995 mm; Esquina 1 (1): longitud, error 1,0"),
         {10000.0, 2, "True pattern, greatest deviation: 0.0000 in",
-         "WARNING, false pattern: Corner 1 (1): length off by 1.0"}}) {
+         "WARNING, false pattern: Corner 1 (1): shape off by 0.9951 in; Corner 1 (1): length off by 1.0"}}) {
     Patron hoja = Desarrolla(dialogos_[2]);
     estado.dIdioma = idioma;
     estado.iUnidad = static_cast<std::int16_t>(unidad);
@@ -213,10 +304,10 @@ TEST_F(Comprobada, SaysHowFarAndWhere) {
 }
 
 TEST(Cruce, TouchingIsNoCrossing) {
-  EXPECT_FALSE(Cruce({{0, 0}, {4, 0}, {4, 4}, {2, 0}, {0, 4}}, 1e-6)) << "a vertex on an edge";
-  EXPECT_FALSE(Cruce({{0, 0}, {2, 0}, {2, 2}, {2, 2}, {0, 2}, {0, 0}}, 1e-6)) << "vertices twice";
-  EXPECT_TRUE(Cruce({{0, 0}, {4, 0}, {4, 4}, {2, -1}, {0, 4}}, 1e-6));
-  EXPECT_EQ(Cruce({{0, 0}, {2, 2}, {2, 0}, {0, 2}}, 1e-6), (Punto2{1, 1}));
+  EXPECT_FALSE(Cruce({{0, 0}, {4, 0}, {4, 4}, {2, 0}, {0, 4}}, 1e-6, 0)) << "a vertex on an edge";
+  EXPECT_FALSE(Cruce({{0, 0}, {2, 0}, {2, 2}, {2, 2}, {0, 2}, {0, 0}}, 1e-6, 0)) << "vertices twice";
+  EXPECT_TRUE(Cruce({{0, 0}, {4, 0}, {4, 4}, {2, -1}, {0, 4}}, 1e-6, 0));
+  EXPECT_EQ(Cruce({{0, 0}, {2, 2}, {2, 0}, {0, 2}}, 1e-6, 0), (Punto2{1, 1}));
 }
 
 }  // namespace

@@ -31,8 +31,8 @@ Pieza ConCirculo(TipoPieza tipo, Punto2 lados, double R, int N, int inicio = 1) 
 }
 
 TEST(Transicion, WorkedPatterns) {
-  const auto cr = clTransCR.GeneraPuntos(ConCirculo(TipoPieza::cr, {400, 400}, 100, 12), Regla::usual);
-  const auto rc = clTransRC.GeneraPuntos(ConCirculo(TipoPieza::rc, {400, 300}, 100, 16), Regla::usual);
+  const auto cr = clTransCR.GeneraPuntos(ConCirculo(TipoPieza::cr, {400, 400}, 100, 12));
+  const auto rc = clTransRC.GeneraPuntos(ConCirculo(TipoPieza::rc, {400, 300}, 100, 16));
   const std::tuple<const Transicion&, bool, int, Punto2> puntos[] = {
       {cr, false, 4, {200, 0}},         {cr, false, 3, {-200, 0}},         {cr, true, 7, {0, std::hypot(300, 100)}},
       {cr, true, 8, {51.50, 321.42}},   {cr, true, 13, {213.83, 503.49}},  {cr, false, 5, {500.92, 263.53}},
@@ -44,12 +44,34 @@ TEST(Transicion, WorkedPatterns) {
   }
 }
 
+// The collar that the rim has to fit is as long as its curve, not as the chords between its points.
+TEST(Transicion, AnExactRimIsAsLongAsItsCurve) {
+  for (int N = 12; N <= 120; N += 4) {
+    Pieza circulo = ConCirculo(TipoPieza::cr, {400, 300}, 100, N), elipse = circulo;
+    elipse.tipo = TipoPieza::elip;
+    elipse.corregidas.arriba = {600, 150, {}};
+    elipse.entradas = elipse.corregidas;
+    elipse.fibra = Fibra::interior;
+    elipse.espesor = 2;
+    const double curva = 4 * 301 * std::comp_ellint_2(std::sqrt(1 - std::pow(76 / 301.0, 2)));
+    for (auto& [motor, pieza, largo] :
+         {std::tuple(&clTransCR, circulo, 200 * dPi), {&clTransBaRectBoElip, elipse, curva}}) {
+      Pieza exacta = pieza;
+      exacta.regla = Regla::exacta;
+      const auto puntos = motor->GeneraPuntos(exacta).dPuntosPlano;
+      double suma = 0;
+      for (int i = 1; i <= N; ++i) suma += Distancia(puntos(i), puntos(i + 1));
+      EXPECT_NEAR(suma, largo, 1e-6) << N;
+    }
+  }
+}
+
 TEST(ClTransRC, AnyTiltSendsSideLinesOrSeamToTheMiddleAndANegativeOneTheFoot) {
   const auto coloca = [](double AX, double alfa, int inicio) {
     Pieza p = ConCirculo(TipoPieza::rc, {400, 300}, 200, 12, inicio);
     p.AX = AX;
     p.Alfa = alfa;
-    return clTransRC.GeneraPuntos(p, Regla::usual);
+    return clTransRC.GeneraPuntos(p);
   };
   EXPECT_TRUE(coloca(0, -1, 1).bFueraLado && !coloca(0, -1, 1).bFueraCierre && coloca(0, -1, 2).bFueraCierre);
   EXPECT_EQ(coloca(-30, -5, 2).dVerticesPlano(4).x, 200);
@@ -60,7 +82,7 @@ TEST(ClTransRC, AnyTiltSendsSideLinesOrSeamToTheMiddleAndANegativeOneTheFoot) {
     Pieza p = ConCirculo(TipoPieza::rc, {400, 300}, 150, 12, 2);
     p.H = alto / std::cos(Radianes(1));
     p.Alfa = -1;
-    EXPECT_NEAR(clTransRC.GeneraPuntos(p, Regla::usual).dPuntosPlano(7).y, alto < 2 ? -alto : alto, 1e-9);
+    EXPECT_NEAR(clTransRC.GeneraPuntos(p).dPuntosPlano(7).y, alto < 2 ? -alto : alto, 1e-9);
   }
 }
 
@@ -72,7 +94,7 @@ TEST(Transicion, TheHalfLengthCountsAsOutside) {
         x.AX = falta - 200;
         y.AY = 150 - falta;
         if (inicio % 2 == 0) std::swap(x, y);
-        const Transicion alLado = motor->GeneraPuntos(x, Regla::usual), alCierre = motor->GeneraPuntos(y, Regla::usual);
+        const Transicion alLado = motor->GeneraPuntos(x), alCierre = motor->GeneraPuntos(y);
         EXPECT_TRUE(alLado.bFueraLado == (falta == 0) && !alLado.bFueraCierre);
         EXPECT_TRUE(alCierre.bFueraCierre == (falta == 0) && !alCierre.bFueraLado);
       }

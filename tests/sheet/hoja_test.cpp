@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <random>
 
@@ -58,6 +59,11 @@ std::vector<Trazo> Esperado(const Patron& hoja) {
     if (forma.contorno.empty()) continue;
     Trazo& contorno = trazos.emplace_back(Trazo{{}, "", 7});
     for (const Vertice& v : forma.contorno) contorno.puntos.push_back(v.p);
+    if (hoja.sinRepetir) {
+      auto& p = contorno.puntos;
+      p.erase(std::ranges::unique(p, [](Punto2 a, Punto2 b) { return Distancia(a, b) < 1e-6; }).begin(), p.end());
+      p.pop_back();  // the control closes it
+    }
     int n = 0;
     for (const Linea& l : forma.lineas) {
       if (l.clase != Clase::borde) trazos.push_back({{l.p, l.q}, "", l.clase == Clase::lado ? kMagenta : kVerde});

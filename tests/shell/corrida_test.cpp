@@ -14,6 +14,7 @@
 #include "mesa.h"
 #include "piece/numeros_texto.h"
 #include "pieza_tecleada.h"
+#include "shell/juicio.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/fichero.h"
@@ -66,7 +67,8 @@ TEST_F(Corridas, TheSecondOneDrawsWhatTheFirstDrew) {
   const auto desarrolla = [&] {
     const auto [fin, hoja] = Desplegado(axew);
     EXPECT_EQ(fin, FinCorrida::completo);
-    return estado.oDrawing->GetEntities() + Textos(axew.Entidades()) + TextoVeredicto(Juzga(solido, hoja));
+    return estado.oDrawing->GetEntities() + Textos(axew.Entidades()) +
+           TextoVeredicto(Juzga(*estado.pieza, solido, hoja));
   };
   EXPECT_EQ(desarrolla(), desarrolla());
 }

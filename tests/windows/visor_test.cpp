@@ -91,9 +91,9 @@ TEST_F(Visor, AFalsePatternIsToldAndATrueOne) {
   estado.iBox = 0;
   for (const bool exacto : {false, true}) {
     Aceptada(TipoPieza::elip, "300 200 150 400 300 30 0 20 12 1");
-    estado.iExacto = exacto;
     FrmViewUnfold otro(nullptr);
     otro.show();
+    if (exacto) Pulsa(otro, "CmdExacto");
     Pulsa(otro, "CmdDesplegado");
     const auto& veredicto = Hijo<QLabel>(otro, "LblEstado");
     EXPECT_TRUE(veredicto.text().startsWith(QString::fromStdString(Texto(exacto ? 107 : 108))));
