@@ -128,9 +128,10 @@ class Examen {
     std::vector<Punto2> contorno;
     for (const Vertice& v : forma.contorno) contorno.push_back(v.p);
     const auto en = [&](const Peor& peor) { return Lugar{forma.nombre, NumeroCercano(forma, peor.sitio)}; };
-    const double largo = cotejo.PeorLargo().medida;
-    Desvia(std::max(largo, figura.medida));
-    if (largo > tolerancia_) Anota(Falta::largo, en(cotejo.PeorLargo()), largo);
+    Peor largo = cotejo.PeorLargo();
+    largo.Anota(Distancia(contorno.front(), contorno.back()), contorno.front(), contorno.back());
+    Desvia(std::max(largo.medida, figura.medida));
+    if (largo.medida > tolerancia_) Anota(Falta::largo, en(largo), largo.medida);
     if (figura.medida > tolerancia_) Anota(Falta::figura, en(figura), figura.medida);
     if (AnchoDe(contorno) <= tolerancia_) {
       veredicto_.notas.emplace_back(Nota::delgada, Lugar{forma.nombre});

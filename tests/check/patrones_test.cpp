@@ -170,6 +170,7 @@ const struct {
      [](Patron& h) {
        for (Vertice& v : h.formas[0].contorno) v.p.x = -v.p.x;
      }},
+    {"outline left open", Falta::largo, [](Patron& h) { h.formas[0].contorno.back().p.x += 1; }},
     {"outline crossed", Falta::cruce,
      [](Patron& h) { std::swap(h.formas[0].contorno[2].p, h.formas[0].contorno[h.formas[0].contorno.size() / 2].p); }},
     {"shape left out", Falta::falta, QuitaForma},

@@ -59,6 +59,11 @@ TEST_F(Corridas, LeavesItsWorkingValues) {
   EXPECT_EQ(e.dRadioEsp2, 100);
 }
 
+// Else a dialog's pieces would be another type's.
+TEST(Lista, ARowAndItsDialogSpeakOfOneType) {
+  for (const FilaPieza& fila : FilasPieza()) EXPECT_EQ(fila.tipo, fila.dialogo.tipo) << fila.dialogo.clave;
+}
+
 // Radii that the usual rules move apart must not be moved again.
 TEST_F(Corridas, TheSecondOneDrawsWhatTheFirstDrew) {
   Acepta(TipoPieza::esp1, kEsp1);
