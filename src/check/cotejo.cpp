@@ -108,7 +108,7 @@ std::vector<std::optional<Punto2>> Cotejo::Tendida() const {
       lugar(v[0]) = Punto2{};
       lugar(v[1]) = Punto2{Distancia(EnEspacio(v[0]), EnEspacio(v[1])), 0};
     }
-    for (int vez = 0; vez < 2 && lugar(v[2]); ++vez) std::ranges::rotate(v, v.begin() + 1);
+    for (int vez = 0; vez < 2 && lugar(v[2]); ++vez) std::rotate(v.begin(), v.begin() + 1, v.end());
     if (lugar(v[2]) || !lugar(v[0]) || !lugar(v[1])) continue;
     const Punto3 A = EnEspacio(v[0]), B = EnEspacio(v[1]), C = EnEspacio(v[2]);
     const double largo = Distancia(A, B);

@@ -25,8 +25,7 @@ std::vector<Punto2> Contorno(const FormaPatron& forma, Punto2 mas = {}) {
 
 std::vector<Punto2> SinRepetir(std::vector<Punto2> contorno) {
   const auto coinciden = [](Punto2 p, Punto2 q) { return Distancia(p, q) <= kNivel; };
-  const auto repetidos = std::ranges::unique(contorno, coinciden);
-  contorno.erase(repetidos.begin(), repetidos.end());
+  contorno.erase(std::unique(contorno.begin(), contorno.end(), coinciden), contorno.end());
   while (contorno.size() > 1 && coinciden(contorno.front(), contorno.back())) contorno.pop_back();
   return contorno;
 }

@@ -24,7 +24,7 @@ std::array<Punto2, 4> AplanaExacto(const Lado& lado) {
 }  // namespace
 
 Lado LadoCortado(const PiezaEspecial& pieza, const PlanoCorte& plano, int c) {
-  const auto& [arriba, abajo] = pieza.bocas;
+  const Boca &arriba = pieza.bocas.arriba, &abajo = pieza.bocas.abajo;
   const auto extremo = [&](int esquina, double angulo) {
     const auto [a0, Q0, T0] = Esquina(pieza, esquina);
     const double hx = std::nearbyint(std::cos(angulo)), hy = std::nearbyint(std::sin(angulo));

@@ -15,7 +15,7 @@ struct Rodillo {
 
   // On to a neighbour at the right (`lado` 1) or at the left (-1): both its ends in the frame of this one.
   void Rueda(const Elemento& vecino, double lado) {
-    const auto [de, hasta] = espacio;
+    const Punto3 de = espacio.bajo, hasta = espacio.corte;
     const double largo = Distancia(de, hasta);
     const Punto3 u = (1 / largo) * (hasta - de);
     const Punto2 u2 = (1 / largo) * (boca - base), n2{lado * u2.y, -lado * u2.x}, desde = base;
