@@ -264,6 +264,22 @@ TEST_F(Comprobada, FindsWhatWasSpoiled) {
   }
 }
 
+// Each line is off by less than is tolerated, and all of them to one side.
+TEST_F(Comprobada, FindsAShearedStrip) {
+  constexpr int kFranjas = 16;
+  Patron hoja = Desarrolla(Tecleado(TipoPieza::esp1, "400 40 50 60 45 90 90 100 85 300 250 500 400 30 20 10 5 64"));
+  auto& contorno = hoja.formas[0].contorno;
+  const std::size_t elementos = (contorno.size() - 1) / 2;
+  const double paso = 0.2 * kFranjas / static_cast<double>(elementos);
+  for (std::size_t i = 1; i < elementos; ++i) {
+    for (const std::size_t v : {i, 2 * elementos - 1 - i}) contorno[v].p.y += paso * static_cast<double>(i);
+  }
+  const Veredicto veredicto = Juzga(hoja);
+  EXPECT_FALSE(Encuentra(veredicto, Falta::largo)) << TextoVeredicto(veredicto);
+  EXPECT_TRUE(Encuentra(veredicto, Falta::figura));
+  EXPECT_GT(veredicto.desviacion, 1);
+}
+
 TEST_F(Comprobada, FindsAnyVertexThatMoves) {
   for (const Dialogo& dialogo : dialogos_) {
     Patron hoja = Desarrolla(dialogo);
