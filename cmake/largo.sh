@@ -13,6 +13,13 @@ analiza() {
     --library=posix,qt -j "$(nproc)" -I src -I tools -I fuzz "${carpetas[@]}"
 }
 
+# fallos PRESET: every call and every allocation of a save fails once, and the program is killed at every call.
+fallos() {
+  echo "Every failure of a save"
+  /usr/bin/python3 -B tests/batch/fallos_test.py "build/$1/root/Duct/duktores-batch" Samples/pieces.json \
+    "build/$1/tests/libfalla.so" long
+}
+
 # fuzz SECONDS: runs each target that long from its seeds and from what earlier runs have added to build/fuzz/finds,
 # where an input that fails stays too.
 fuzz() {

@@ -9,6 +9,7 @@
 #include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/fichero.h"
+#include "state/guardado.h"
 
 using namespace duktores;
 

@@ -1,10 +1,12 @@
 #include "batch/lista.h"
 
+#include <QString>
 #include <algorithm>
 #include <charconv>
-#include <map>
+#include <istream>
 #include <nlohmann/json.hpp>
-#include <set>
+
+#include "state/caracteres.h"
 
 namespace duktores {
 
@@ -12,125 +14,262 @@ namespace {
 
 using nlohmann::json;
 
-// A key that stands twice in an object would silently lose one of its values: the parser's callback notes it.
-struct ClavesRepetidas {
-  int trabajo = -1;
-  std::set<std::string> claves;
-  std::vector<std::optional<std::string>> repetidas;
-
-  bool operator()(int profundidad, json::parse_event_t suceso, json& valor) {
-    if (profundidad == 1 && suceso != json::parse_event_t::object_end && suceso != json::parse_event_t::array_end &&
-        suceso != json::parse_event_t::key) {
-      repetidas.resize(static_cast<std::size_t>(++trabajo) + 1);
-      claves.clear();
-    }
-    if (profundidad == 2 && suceso == json::parse_event_t::key && trabajo >= 0) {
-      const auto clave = valor.get<std::string>();
-      if (!claves.insert(clave).second) repetidas.back() = clave;
-    }
-    return true;
-  }
-};
+// Far more than any piece has or a person would type.
+constexpr std::size_t kMaximoClaves = 64, kMaximoClave = 64, kMaximoPuntos = 64, kMaximoNombre = 4096;
+constexpr int kMaximoTeclas = 32;
 
 // A number as a person would type it: plain decimals, no exponent.
-std::string TextoDe(const json& valor) {
-  if (valor.is_string()) return valor.get<std::string>();
-  if (!valor.is_number_float()) return valor.dump();
+std::string TextoDe(double valor) {
   std::string texto(400, '\0');
-  const auto fin =
-      std::to_chars(texto.data(), texto.data() + texto.size(), valor.get<double>(), std::chars_format::fixed);
+  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor, std::chars_format::fixed);
   texto.resize(static_cast<std::size_t>(fin.ptr - texto.data()));
   return texto;
 }
 
+bool EsDeControl(char32_t c) {
+  switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool EsAscii(const std::string& texto) {
+  return std::ranges::all_of(texto, [](unsigned char c) { return c >= ' ' && c < 0x7F; });
+}
+
+/// The text with blanks for what a line of text may not hold. Not by way of a list of Qt's, which crash without memory.
+std::string ConBlancos(const std::string& texto) {
+  if (EsAscii(texto)) return texto;
+  std::u16string unidades = Utf16(texto);
+  for (std::size_t i = 0; i < unidades.size(); ++i) {
+    const bool doble = QChar::isHighSurrogate(unidades[i]) && i + 1 < unidades.size();
+    const char32_t letra = doble ? QChar::surrogateToUcs4(unidades[i], unidades[i + 1]) : char32_t{unidades[i]};
+    if (EsDeControl(letra)) unidades.replace(i, doble ? 2 : 1, 1, u' ');
+    if (doble && !EsDeControl(letra)) ++i;
+  }
+  return Utf8(unidades);
+}
+
 bool EsNombre(const std::string& nombre) {
-  return !nombre.empty() &&
-         std::none_of(nombre.begin(), nombre.end(), [](unsigned char c) { return c == '/' || c == '\\' || c < ' '; });
+  if (nombre.empty() || nombre.size() > kMaximoNombre || nombre.find_first_of("/\\") != std::string::npos) return false;
+  return ConBlancos(nombre) == nombre;
 }
 
-std::optional<std::vector<Punto2>> LeePuntos(const json& valor) {
-  std::vector<Punto2> puntos;
-  if (!valor.is_array()) return std::nullopt;
-  for (const json& punto : valor) {
-    if (!punto.is_array() || punto.size() != 2 || !punto[0].is_number() || !punto[1].is_number()) return std::nullopt;
-    puntos.push_back({punto[0].get<double>(), punto[1].get<double>()});
+/// The same for names that are one on some disk.
+std::string SinCaja(std::string nombre) {
+  if (EsAscii(nombre)) {
+    std::ranges::transform(nombre, nombre.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
+    return nombre;
   }
-  return puntos;
+  const QString suelto = QString::fromStdString(nombre).normalized(QString::NormalizationForm_D);
+  return suelto.toCaseFolded().normalized(QString::NormalizationForm_D).toStdString();
 }
 
-void LeeClave(Trabajo& trabajo, const std::string& clave, const json& valor) {
-  if (clave == "picks") {
-    trabajo.puntos = LeePuntos(valor);
-    if (!trabajo.puntos) trabajo.rechazo = {clave, "picks must be an array of points [x, y]."};
-  } else if (clave == "name" || clave == "piece") {
-    if (!valor.is_string()) {
-      trabajo.rechazo = {clave, clave + " must be a text."};
+/// Takes what the parser finds. Depth 1 is within the list, 2 within a job, 3 within its picks, 4 within a pick.
+class Lector : public nlohmann::json_sax<json> {
+ public:
+  Lector(FlujoLista& flujo, const std::function<void(Trabajo&&)>& toma) : flujo_(flujo), toma_(toma) {}
+  std::size_t Jobs() const { return cuantos_; }
+
+  bool null() override { return Otro(); }
+  bool boolean(bool) override { return Otro(); }
+  bool binary(binary_t&) override { return Otro(); }
+  bool number_integer(number_integer_t v) override { return Numero(std::to_string(v), static_cast<double>(v)); }
+  bool number_unsigned(number_unsigned_t v) override { return Numero(std::to_string(v), static_cast<double>(v)); }
+  bool number_float(number_float_t v, const string_t&) override { return Numero(TextoDe(v), v); }
+  bool string(string_t& texto) override {
+    if (hondo_ != 2) return Otro();
+    if (clave_ == "name") {
+      trabajo_.nombre = texto;
+    } else if (clave_ == "piece" && texto.size() <= kMaximoClave) {
+      trabajo_.pieza = texto;
     } else {
-      (clave == "name" ? trabajo.nombre : trabajo.pieza) = valor.get<std::string>();
+      Valor(texto);
     }
-  } else if (valor.is_number() || valor.is_string()) {
-    trabajo.valores.emplace_back(clave, TextoDe(valor));
-  } else {
-    trabajo.rechazo = {clave, "\"" + clave + "\" must be a number or a text."};
+    return true;
   }
-}
-
-Trabajo LeeTrabajo(const json& objeto) {
-  Trabajo trabajo;
-  if (!objeto.is_object()) {
-    trabajo.rechazo = {"job", "a job must be an object."};
-    return trabajo;
+  bool start_object(std::size_t) override {
+    if (hondo_ == 1) {
+      Empieza();
+    } else {
+      Otro();
+    }
+    ++hondo_;
+    return true;
   }
-  for (const auto& [clave, valor] : objeto.items()) {
-    LeeClave(trabajo, clave, valor);
+  bool key(string_t& clave) override {
+    if (hondo_ != 2) return true;
+    clave_ = clave.substr(0, kMaximoClave);
+    if (clave.size() > kMaximoClave) {
+      Rechaza("job", "a key is longer than any");
+    } else if (std::ranges::find(claves_, clave) != claves_.end()) {
+      Rechaza(clave, "\"" + clave + "\" stands twice in the job");
+    } else if (claves_.size() == kMaximoClaves) {
+      Rechaza("job", "the job has more keys than any");
+    } else {
+      claves_.push_back(clave);
+    }
+    return true;
   }
-  if (!trabajo.rechazo && !objeto.contains("name")) trabajo.rechazo = {"name", "name is missing."};
-  if (!trabajo.rechazo && !objeto.contains("piece")) trabajo.rechazo = {"piece", "piece is missing."};
-  if (!trabajo.rechazo && !EsNombre(trabajo.nombre)) {
-    trabajo.rechazo = {"name", "name must be a file name: not empty, no folder separators, no control characters."};
+  bool end_object() override {
+    if (--hondo_ == 1) Acaba();
+    return true;
   }
-  return trabajo;
-}
-
-}  // namespace
-
-std::vector<Trabajo> LeeLista(const std::string& texto, bool solidos) {
-  ClavesRepetidas repetidas;
-  json lista;
-  try {
-    lista = json::parse(texto, std::ref(repetidas));
-  } catch (const json::exception& error) {
+  bool start_array(std::size_t) override {
+    if (hondo_ == 2 && clave_ == "picks") {
+      trabajo_.puntos.emplace();
+    } else if (hondo_ == 3 && clave_ == "picks") {
+      coordenadas_ = 0;
+    } else if (hondo_ == 1) {
+      NoObjeto();
+    } else if (hondo_ > 1) {
+      Otro();
+    }
+    ++hondo_;
+    return true;
+  }
+  bool end_array() override {
+    if (--hondo_ == 1) Acaba();
+    if (hondo_ == 3 && clave_ == "picks") {
+      if (coordenadas_ != 2) PuntoMalo();
+      if (trabajo_.puntos && trabajo_.puntos->size() < kMaximoPuntos) trabajo_.puntos->push_back(punto_);
+    }
+    return true;
+  }
+  bool parse_error(std::size_t, const std::string&, const json::exception& error) override {
     // The library's texts begin with its own name in brackets.
     const std::string motivo = error.what();
     throw ErrorLista(motivo.substr(motivo.find(']') + 2));
   }
-  if (!lista.is_array()) throw ErrorLista("it must be one array of objects, one object a piece.");
 
-  std::vector<Trabajo> trabajos;
-  std::map<std::string, int> veces;
-  for (std::size_t i = 0; i < lista.size(); ++i) {
-    Trabajo trabajo = LeeTrabajo(lista[i]);
-    if (const auto& clave = repetidas.repetidas[i]) {
-      trabajo.rechazo = {*clave, "\"" + *clave + "\" stands twice in the job."};
+ private:
+  void Empieza() {
+    trabajo_ = {};
+    trabajo_.numero = ++cuantos_;
+    trabajo_.linea = flujo_.Linea();
+    claves_.clear();
+    clave_.clear();
+  }
+  void Acaba() {
+    const auto esta = [&](const char* clave) { return std::ranges::find(claves_, clave) != claves_.end(); };
+    if (!esta("name")) Rechaza("name", "name is missing");
+    if (!EsNombre(trabajo_.nombre)) {
+      Rechaza("name", "name must be a file name: not empty, no folder separators, no control characters");
+      trabajo_.nombre = "#" + std::to_string(trabajo_.numero);
     }
-    if (EsNombre(trabajo.nombre)) {
-      ++veces[trabajo.nombre];
+    if (!esta("piece")) Rechaza("piece", "piece is missing");
+    std::ranges::sort(trabajo_.valores);
+    toma_(std::move(trabajo_));
+  }
+  /// The first reason counts.
+  void Rechaza(const std::string& clave, const std::string& texto) {
+    if (!trabajo_.rechazo) trabajo_.rechazo = {clave, texto + " (line " + std::to_string(flujo_.Linea()) + ")."};
+  }
+  void NoObjeto() {
+    Empieza();
+    Rechaza("job", "a job must be an object");
+  }
+  void PuntoMalo() { Rechaza("picks", "picks must be an array of points [x, y]"); }
+
+  /// A text or a number of a field.
+  void Valor(const std::string& texto) {
+    if (LongitudUtf16(texto) > kMaximoTeclas) {
+      Rechaza(clave_, clave_ + " takes at most " + std::to_string(kMaximoTeclas) + " characters");
+    } else if (clave_ == "picks") {
+      PuntoMalo();
+    } else if (!trabajo_.rechazo) {
+      trabajo_.valores.emplace_back(clave_, texto);
+    }
+  }
+  bool Numero(const std::string& texto, double valor) {
+    if (hondo_ == 2 && clave_ != "name" && clave_ != "piece") {
+      Valor(texto);
+    } else if (hondo_ == 4 && clave_ == "picks") {
+      if (++coordenadas_ <= 2) (coordenadas_ == 1 ? punto_.x : punto_.y) = valor;
     } else {
-      trabajo.nombre = "job " + std::to_string(i + 1);
+      Otro();
     }
+    return true;
+  }
+  /// What may not stand there.
+  bool Otro() {
+    if (hondo_ == 0) throw ErrorLista("it must be one array of objects, one object a piece.");
+    if (hondo_ == 1) {
+      NoObjeto();
+      Acaba();
+      return true;
+    }
+    if (clave_ == "picks") {
+      PuntoMalo();
+    } else {
+      const bool texto = clave_ == "name" || clave_ == "piece";
+      Rechaza(clave_, texto ? clave_ + " must be a text" : "\"" + clave_ + "\" must be a number or a text");
+    }
+    return true;
+  }
+
+  FlujoLista& flujo_;
+  const std::function<void(Trabajo&&)>& toma_;
+  int hondo_ = 0, coordenadas_ = 0;
+  std::size_t cuantos_ = 0;
+  Trabajo trabajo_;
+  Punto2 punto_{};
+  std::string clave_;
+  std::vector<std::string> claves_;
+};
+
+}  // namespace
+
+void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma) {
+  FlujoLista flujo(lee);
+  std::istream texto(&flujo);
+  Lector lector(flujo, toma);
+  try {
+    json::sax_parse(texto, &lector);
+  } catch (const ErrorLista& motivo) {
+    throw ErrorLista("job " + std::to_string(lector.Jobs()) + ": " + motivo.what());
+  }
+}
+
+void Nombres::Anota(const Trabajo& trabajo) {
+  const auto [nombre, nuevo] = repetidos_.try_emplace(SinCaja(trabajo.nombre), false);
+  if (!nuevo) nombre->second = true;
+}
+
+void Nombres::Revisa(Trabajo& trabajo) const {
+  const std::string nombre = SinCaja(trabajo.nombre);
+  const auto donde = " (line " + std::to_string(trabajo.linea) + ").";
+  const auto anotado = repetidos_.find(nombre);
+  if (anotado != repetidos_.end() && anotado->second) {
+    trabajo.rechazo = {"name", "the name stands on another job too" + donde};
+  } else if (solidos_ && nombre.ends_with(kSufijoSolido) &&
+             repetidos_.contains(nombre.substr(0, nombre.size() - kSufijoSolido.size()))) {
+    trabajo.rechazo = {"name", "the picture of another job's solid has that name" + donde};
+  }
+}
+
+std::vector<Trabajo> LeeLista(std::string_view json, bool solidos) {
+  std::vector<Trabajo> trabajos;
+  Nombres nombres(solidos);
+  const auto lee = [&](std::span<char> sitio) {
+    const std::size_t n = json.copy(sitio.data(), sitio.size());
+    json.remove_prefix(n);
+    return n;
+  };
+  RecorreLista(lee, [&](Trabajo&& trabajo) {
+    nombres.Anota(trabajo);
     trabajos.push_back(std::move(trabajo));
-  }
-  // Nobody can tell which of two pieces the drawing of that name should be.
-  for (Trabajo& trabajo : trabajos) {
-    const std::string_view nombre = trabajo.nombre;
-    if (veces[trabajo.nombre] > 1) {
-      trabajo.rechazo = {"name", "the name stands on another job too."};
-    } else if (solidos && nombre.ends_with(kSufijoSolido) &&
-               veces.contains(trabajo.nombre.substr(0, nombre.size() - kSufijoSolido.size()))) {
-      trabajo.rechazo = {"name", "the picture of another job's solid has that name."};
-    }
-  }
+  });
+  for (Trabajo& trabajo : trabajos) nombres.Revisa(trabajo);
   return trabajos;
 }
+
+std::string EnUnaLinea(const std::string& texto) { return ConBlancos(texto); }
 
 }  // namespace duktores

@@ -1,14 +1,17 @@
 #pragma once
 // The job list: a JSON array of objects, one object a piece. Values are texts here, as they will be typed into the
-// dialog; what a piece's fields are called and take is the dialog's to say.
+// dialog; what a piece's fields are called and take is the dialog's to say. Work and memory grow with the length of the
+// list, not faster, and no more than one job of it is held at a time.
 
+#include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "batch/flujo_lista.h"
 #include "geometry/puntos.h"
 
 namespace duktores {
@@ -19,22 +22,40 @@ struct Rechazo {
 };
 
 struct Trabajo {
-  std::string nombre;  ///< of the drawing; "job 3" where the third job has none
+  std::size_t numero = 0;  ///< place in the list, from 1
+  std::size_t linea = 0;   ///< where it begins
+  std::string nombre;      ///< of the drawing; "#3" where the third job has none that will do
   std::string pieza;
   std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key, in alphabetical order
   std::optional<std::vector<Punto2>> puntos;  ///< answers to the picks; none: the program places the shapes
   std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };
 
-/// Thrown for a text that is no job list at all.
-struct ErrorLista : std::runtime_error {
-  using std::runtime_error::runtime_error;
+/// Hands on each job of a list as it is read. Throws ErrorLista, which tells line and job.
+void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma);
+
+/// The names of a list. Nobody can tell which of two pieces the drawing of one name should be, and many disks don't
+/// tell names apart that differ by case or by the way in which an accent is written.
+class Nombres {
+ public:
+  /// `solidos` says that pictures of the solids are made too, whose names no job may have.
+  explicit Nombres(bool solidos = false) : solidos_(solidos) {}
+  void Anota(const Trabajo& trabajo);
+  /// Refuses a job whose name is another one's too.
+  void Revisa(Trabajo& trabajo) const;
+
+ private:
+  bool solidos_;
+  std::unordered_map<std::string, bool> repetidos_;  // by name without case: whether it is there twice
 };
 
 /// Behind the name of a job it makes that of the picture of its solid.
 inline constexpr std::string_view kSufijoSolido = "-3d";
 
-/// `solidos` says that pictures of the solids are made too, whose names no job may have.
-std::vector<Trabajo> LeeLista(const std::string& json, bool solidos = false);
+/// A whole list that is in memory.
+std::vector<Trabajo> LeeLista(std::string_view json, bool solidos = false);
+
+/// One line of what may hold anything: control characters and line separators become blanks.
+std::string EnUnaLinea(const std::string& texto);
 
 }  // namespace duktores

@@ -2,178 +2,153 @@
 
 #include <unistd.h>
 
-#include <CLI/CLI.hpp>
 #include <QGuiApplication>
-#include <atomic>
-#include <condition_variable>
-#include <filesystem>
-#include <fstream>
+#include <cstring>
 #include <iostream>
-#include <iterator>
 #include <memory>
-#include <mutex>
+#include <new>
 #include <optional>
-#include <thread>
+#include <system_error>
 
+#include "batch/fuente_lista.h"
 #include "batch/lista.h"
-#include "batch/trabajo.h"
+#include "batch/obreros.h"
+#include "batch/ordenes.h"
+#include "batch/senales.h"
 #include "dxf/escritor.h"
 #include "piece/numeros_texto.h"
 #include "state/arranque.h"
 #include "state/estado.h"
-#include "state/fichero.h"
+#include "state/guardado.h"
 #include "state/textos.h"
 
 namespace {
 
 using namespace duktores;
 
-constexpr int kTodoEscrito = 0, kAlgoRechazado = 1, kNadaHecho = 2;
+constexpr int kPorSenal = 128;  // and the number of the signal
 
-struct Ordenes {
-  std::string lista, configuracion;
-  Opciones opciones;
-  bool png = false, svg = false, pdf = false, exacto = false;
-  unsigned hilos = std::max(1U, std::thread::hardware_concurrency());
+void Avisa(const std::string& texto) { std::cerr << "duktores-batch: " << EnUnaLinea(texto) << '\n'; }
+
+/// Nothing could be done.
+struct NadaHecho : std::runtime_error {
+  using std::runtime_error::runtime_error;
 };
-
-std::optional<std::string> TextoLista(const Ordenes& ordenes) {
-  if (ordenes.lista != "-") return LeeFichero(ordenes.lista);
-  std::string texto{std::istreambuf_iterator<char>(std::cin), {}};
-  return std::cin.bad() ? std::nullopt : std::optional(std::move(texto));
-}
 
 // One line, whatever stands in the list that it repeats.
 std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
-  std::string linea = trabajo.nombre;
   if (resultado.rechazo) {
-    linea += ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto;
-  } else {
-    linea += ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
-             (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso) +
-             (resultado.nota.empty() ? "" : ", note: " + resultado.nota);
+    return EnUnaLinea(trabajo.nombre + ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto);
   }
-  std::ranges::replace_if(
-      linea, [](unsigned char c) { return c < ' '; }, ' ');
-  return linea;
+  return EnUnaLinea(trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
+                    (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso) +
+                    (resultado.nota.empty() ? "" : ", note: " + resultado.nota));
 }
 
-// Works the jobs on several threads and answers in the order of the list. Each thread has its own program state.
-int TrabajaTodos(const std::vector<Trabajo>& trabajos, const Ordenes& ordenes) {
-  const EstadoPrograma configurado = estado;
-  std::vector<std::optional<Resultado>> resultados(trabajos.size());
-  std::atomic<std::size_t> siguiente{0};
-  std::mutex cerrojo;
-  std::condition_variable hecho;
-
-  std::size_t hechos = 0;
-  const auto obrero = [&] {
-    for (std::size_t i = siguiente++; i < trabajos.size(); i = siguiente++) {
-      Resultado resultado;
-      try {
-        estado = configurado;
-        resultado = Trabaja(trabajos[i], ordenes.opciones);
-      } catch (const std::exception& error) {
-        resultado.rechazo = {"job", error.what()};
-      }
-      const std::lock_guard guarda(cerrojo);
-      resultados[i] = std::move(resultado);
-      ++hechos;
-      hecho.notify_one();
-    }
-  };
-  std::vector<std::jthread> hilos;
-  constexpr std::size_t kMaximoHilos = 256;
-  const std::size_t cuantos = std::min({std::size_t{ordenes.hilos}, trabajos.size(), kMaximoHilos});
-  try {
-    while (hilos.size() < cuantos) hilos.emplace_back(obrero);
-  } catch (const std::system_error&) {
-    if (hilos.empty()) throw;  // else those that there are do all the work
+/// Writes the answers as they come, and on a terminal how far the work is.
+class Respuestas {
+ public:
+  explicit Respuestas(std::size_t cuantas) : cuantas_(cuantas) {}
+  void Escribe(const Trabajo& trabajo, const Resultado& resultado) {
+    if (terminal_) std::cerr << "\r\033[K" << std::flush;
+    std::cout << Linea(trabajo, resultado) << '\n' << std::flush;
+    rechazado_ = rechazado_ || resultado.rechazo.has_value();
+    ++hechas_;
+    if (terminal_ && hechas_ < cuantas_) std::cerr << hechas_ << " of " << cuantas_ << std::flush;
   }
-
-  const bool terminal = isatty(STDERR_FILENO) != 0;
-  bool rechazado = false;
-  std::unique_lock guarda(cerrojo);
-  for (std::size_t i = 0; i < trabajos.size(); ++i) {
-    while (!resultados[i]) {
-      if (terminal) std::cerr << "\r\033[K" << hechos << " of " << trabajos.size() << std::flush;
-      hecho.wait(guarda);
-    }
-    if (terminal) std::cerr << "\r\033[K" << std::flush;
-    std::cout << Linea(trabajos[i], *resultados[i]) << '\n' << std::flush;
-    rechazado = rechazado || resultados[i]->rechazo.has_value();
-  }
-  guarda.unlock();
-  if (!std::cout) {
-    std::cerr << "duktores-batch: the answers can't be written\n";
+  bool Ninguna() const { return hechas_ == 0; }
+  int Salida() const {
+    if (std::cout) return rechazado_ ? kAlgoRechazado : kTodoEscrito;
+    Avisa("the answers can't be written");
     return kAlgoRechazado;
   }
-  return rechazado ? kAlgoRechazado : kTodoEscrito;
+
+ private:
+  const bool terminal_ = isatty(STDERR_FILENO) != 0;
+  std::size_t cuantas_, hechas_ = 0;
+  bool rechazado_ = false;
+};
+
+void Configura(const Ordenes& ordenes) {
+  const LecturaConfiguracion lectura = Arranca(RutaEjecutable(), ordenes.configuracion);
+  if (lectura.fallo) {
+    throw NadaHecho("can't read the configuration file " + estado.sRutaIni + ": " + lectura.fallo.message());
+  }
+  for (const std::string& aviso : lectura.avisos) Avisa(estado.sRutaIni + ": " + aviso);
+  if (ordenes.exacto) estado.iExacto = 1;
+  if (!ConfiguracionSirve()) throw NadaHecho("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
+  if (ordenes.opciones.estricto && !lectura.avisos.empty()) throw NadaHecho("the configuration has faulty keys");
 }
 
-int Falla(const std::string& texto) {
-  std::cerr << "duktores-batch: " << texto << '\n';
-  return kNadaHecho;
+void PreparaSalida(const Opciones& opciones) {
+  if (opciones.soloComprueba) return;
+  if (const Guardado marco = RevisaPlantilla(); !marco) throw NadaHecho(Texto(texto::kPlantilla) + " " + marco.detalle);
+  if (const int error = HazCarpeta(opciones.carpeta)) {
+    throw NadaHecho("can't make the output folder " + opciones.carpeta + ": " + std::strerror(error));
+  }
+}
+
+/// Works the jobs of the list's part on several threads, each with its own program state.
+int TrabajaTodos(FuenteLista& fuente, const Ordenes& ordenes, const Nombres& nombres, std::size_t cuantos) {
+  const EstadoPrograma configurado = estado;
+  Respuestas respuestas(cuantos);
+  Obreros obreros(
+      ordenes.hilos,
+      [&](const Trabajo& trabajo) -> Resultado {
+        try {
+          estado = configurado;
+          return Trabaja(trabajo, ordenes.opciones);
+        } catch (const std::bad_alloc&) {
+          throw;
+        } catch (const std::exception& error) {
+          return {.rechazo = Rechazo{"job", error.what()}};
+        }
+      },
+      [&](const Trabajo& trabajo, const Resultado& resultado) { respuestas.Escribe(trabajo, resultado); });
+  try {
+    RecorreLista(fuente.DesdeElPrincipio(), [&](Trabajo&& trabajo) {
+      nombres.Revisa(trabajo);
+      if (ordenes.parte.Tiene(trabajo.numero)) obreros.Pon(std::move(trabajo));
+    });
+    obreros.Acaba();
+    fuente.ExigeIgual();
+  } catch (const Interrumpido&) {
+    obreros.Acaba();
+    throw;
+  } catch (const std::runtime_error& motivo) {
+    // The list was sound a moment ago.
+    obreros.Acaba();
+    Avisa(ordenes.lista + ": " + motivo.what());
+    return respuestas.Ninguna() ? kNadaHecho : kAlgoRechazado;
+  }
+  return respuestas.Salida();
 }
 
 int Ejecuta(const Ordenes& ordenes) {
-  std::error_code error;
-  Arranca(RutaEjecutable(), ordenes.configuracion);
-  const bool regular = std::filesystem::is_regular_file(estado.sRutaIni, error);
-  if (!regular || !std::ifstream(estado.sRutaIni)) return Falla("can't read the configuration file " + estado.sRutaIni);
-  if (ordenes.exacto) estado.iExacto = 1;
-  if (!ConfiguracionSirve()) return Falla("Fiber in section DUCT of " + estado.sRutaIni + " must be 1, 2 or 3");
-  const auto texto = TextoLista(ordenes);
-  if (!texto) return Falla("can't read the job list " + ordenes.lista);
-  std::vector<Trabajo> trabajos;
+  Configura(ordenes);
   try {
-    trabajos = LeeLista(*texto, ordenes.opciones.solido);
+    FuenteLista fuente(ordenes.lista, ordenes.maximoLista);
+    Nombres nombres(ordenes.opciones.solido);
+    std::size_t cuantos = 0;
+    RecorreLista(fuente.DesdeElPrincipio(), [&](Trabajo&& trabajo) {
+      nombres.Anota(trabajo);
+      cuantos += ordenes.parte.Tiene(trabajo.numero) ? 1 : 0;
+    });
+    fuente.ExigeIgual();
+    PreparaSalida(ordenes.opciones);
+    return TrabajaTodos(fuente, ordenes, nombres, cuantos);
   } catch (const ErrorLista& motivo) {
-    return Falla(ordenes.lista + " is no job list: " + motivo.what());
+    throw NadaHecho(ordenes.lista + " is no job list: " + motivo.what());
+  } catch (const std::system_error& motivo) {
+    throw NadaHecho("can't read the job list " + ordenes.lista + ": " + motivo.code().message());
   }
-  if (!ordenes.opciones.soloComprueba) {
-    if (!HayPlantilla()) return Falla(Texto(texto::kPlantilla) + " " + RutaPlantilla());
-    std::filesystem::create_directories(ordenes.opciones.carpeta, error);
-    if (!std::filesystem::is_directory(ordenes.opciones.carpeta, error)) {
-      return Falla("can't make the output folder " + ordenes.opciones.carpeta);
-    }
-  }
-  return TrabajaTodos(trabajos, ordenes);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Programa(int argc, char** argv) {
   PreparaProceso();
+  AtiendeSenales();
   Ordenes ordenes;
-  CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
-  app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
-  app.add_option("JOBS.json", ordenes.lista, "job list; - for standard input")->required();
-  app.add_option("--config", ordenes.configuracion,
-                 "configuration file; default: Config/Config.ini of the installation")
-      ->type_name("FILE");
-  app.add_option("--out", ordenes.opciones.carpeta, "folder of the drawings, made if missing")
-      ->type_name("DIR")
-      ->capture_default_str();
-  app.add_flag("--png", ordenes.png, "a PNG picture of each pattern beside its drawing");
-  app.add_flag("--svg", ordenes.svg, "the same as SVG");
-  app.add_flag("--pdf", ordenes.pdf, "the same as PDF");
-  app.add_flag("--solid", ordenes.opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
-  app.add_flag("--check", ordenes.opciones.soloComprueba, "only check the jobs; write nothing");
-  app.add_flag("--strict", ordenes.opciones.estricto, "refuse a piece whose pattern isn't true to its solid");
-  app.add_flag("--exact", ordenes.exacto, "develop exactly, whatever the configuration says");
-  app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
-      ->type_name("N")
-      ->check(CLI::PositiveNumber);
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
-  }
-  if (ordenes.png) ordenes.opciones.imagenes.push_back(Formato::png);
-  if (ordenes.svg) ordenes.opciones.imagenes.push_back(Formato::svg);
-  if (ordenes.pdf) ordenes.opciones.imagenes.push_back(Formato::pdf);
-
+  if (const auto fin = LeeOrdenes(argc, argv, ordenes)) return *fin;
   // Texts of a picture need fonts, which need the application object; no screen is needed for either.
   std::unique_ptr<QGuiApplication> qt;
   if (!ordenes.opciones.imagenes.empty()) {
@@ -181,9 +156,20 @@ int main(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the desktop
     qt = std::make_unique<QGuiApplication>(argc, argv);
   }
+  return Ejecuta(ordenes);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    return Ejecuta(ordenes);
+    return Programa(argc, argv);
+  } catch (const Interrumpido&) {
+    return kPorSenal + SenalRecibida();
+  } catch (const std::bad_alloc&) {
+    std::cerr << "duktores-batch: out of memory\n";
   } catch (const std::exception& error) {
-    return Falla(error.what());
+    Avisa(error.what());
   }
+  return kNadaHecho;
 }

@@ -125,26 +125,33 @@ std::string Sufijo(Formato formato) {
   return ".pdf";
 }
 
-std::optional<Rechazo> Guarda(const EWdraw& axew, const Solido& solido, const std::string& base,
-                              const Opciones& opciones) {
-  const auto noGuardado = [](const std::string& ruta) {
-    return Rechazo{"name", Texto(texto::kNoGuardado) + " " + ruta};
-  };
+// Drawing and pictures; what isn't written is told by its place, and that the drawing stands if it does.
+void Guarda(const EWdraw& axew, const Solido& solido, const std::string& base, const Opciones& opciones,
+            Resultado& resultado) {
   const std::string dxf = base + ".dxf";
-  if (!estado.oDXF->InsertEntities(estado.oDrawing) || !estado.oDXF->Save(dxf)) return noGuardado(dxf);
+  const auto anota = [&](const std::string& ruta, const Guardado& guardado) {
+    const std::string restos = TextoRestos(guardado);
+    if (!restos.empty()) resultado.aviso += (resultado.aviso.empty() ? "" : ". ") + restos;
+    if (guardado) return true;
+    const std::string queda = ruta == dxf ? "" : ". " + Texto(texto::kDibujoQueda) + " " + dxf;
+    resultado.rechazo = {"name", TextoNoGuardado(ruta, guardado) + queda};
+    return false;
+  };
+  estado.oDXF->InsertEntities(estado.oDrawing);
+  if (!anota(dxf, estado.oDXF->Save(dxf))) return;
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + Sufijo(formato);
-    if (!GuardaImagen(axew, imagen, formato)) return noGuardado(imagen);
+    if (!anota(imagen, GuardaImagen(axew, imagen, formato))) return;
   }
-  if (!opciones.solido || opciones.imagenes.empty()) return std::nullopt;
+  resultado.fichero = dxf;
+  if (!opciones.solido || opciones.imagenes.empty()) return;
   EWdraw vista;
   DibujaSolido(vista, solido);
   vista.EwViewDirection(1, -1, 1);
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + std::string(kSufijoSolido) + Sufijo(formato);
-    if (!GuardaImagen(vista, imagen, formato)) return noGuardado(imagen);
+    if (!anota(imagen, GuardaImagen(vista, imagen, formato))) return;
   }
-  return std::nullopt;
 }
 
 }  // namespace
@@ -159,7 +166,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   Dialogo dialogo(fila->dialogo);
   Resultado resultado;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
-  if (!resultado.rechazo && !opciones.soloComprueba) {
+  if (!resultado.rechazo && (!opciones.soloComprueba || opciones.estricto)) {
     const std::string base = std::filesystem::path(opciones.carpeta) / trabajo.nombre;
     const Solido solido = SolidoDe(*estado.pieza);
     EWdraw axew;
@@ -168,8 +175,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
     if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
     if (veredicto.Cierto()) resultado.nota = TextoNotas(veredicto);
     if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
-    if (!resultado.rechazo) resultado.rechazo = Guarda(axew, solido, base, opciones);
-    if (!resultado.rechazo) resultado.fichero = base + ".dxf";
+    if (!resultado.rechazo && !opciones.soloComprueba) Guarda(axew, solido, base, opciones, resultado);
   }
   estado.plataforma = nullptr;
   return resultado;

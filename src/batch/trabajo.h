@@ -14,12 +14,12 @@ namespace duktores {
 struct Opciones {
   std::string carpeta = ".";
   std::vector<Formato> imagenes;
-  bool solido = false;  ///< pictures of the solid too
-  bool soloComprueba = false;
-  bool estricto = false;  ///< a pattern that isn't true is refused
+  bool solido = false;         ///< pictures of the solid too
+  bool soloComprueba = false;  ///< write nothing
+  bool estricto = false;       ///< a pattern that isn't true is refused
 };
 
-/// What was written (empty with `soloComprueba`), or why not; and what the check found wrong with the pattern.
+/// What was written (empty with `soloComprueba`), or why not; and what is wrong with the pattern or with the file.
 struct Resultado {
   std::string fichero{};
   std::string aviso{}, nota{};

@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <exception>
 #include <filesystem>
 #include <iterator>
 
 #include "dxf/dibujo.h"
+#include "dxf/marco.h"
 #include "dxf/numero_dxf.h"
+#include "piece/numeros_texto.h"
 #include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/fichero.h"
@@ -69,13 +70,17 @@ std::vector<Reemplazo> Reemplazos() {
           {"*ACTIVE", {{11, vista.x}, {1, vista.y}, {25, vista.altura}}}};
 }
 
-bool Aplica(const Reemplazo& reemplazo, Copiadora& copiadora) {
+/// The template can't take a drawing; `donde` is what is wrong, in plain words.
+Guardado FalloDePlantilla(const std::string& donde) { return {texto::kPlantilla, RutaPlantilla() + ": " + donde, {}}; }
+
+Guardado Aplica(const Reemplazo& reemplazo, Copiadora& copiadora) {
   std::string_view anterior;
   for (const auto& [lineas, valor] : reemplazo.sustituciones) {
-    if (!std::isfinite(valor) || !copiadora.Copia(lineas) || !copiadora.Lee(anterior)) return false;
+    if (!std::isfinite(valor)) return {texto::kVista, {}, {}};
+    if (!copiadora.Copia(lineas) || !copiadora.Lee(anterior)) return FalloDePlantilla("cut short");
     copiadora.Escribe(DxfNumeroTexto(valor));
   }
-  return true;
+  return {};
 }
 
 /// Appends UTF-8 in code page 1252. Nearly all of a drawing is ASCII, which is the same in both.
@@ -90,9 +95,9 @@ void AnadeCp1252(std::string& destino, std::string_view utf8) {
   }
 }
 
-/// The whole file; false if the template is cut short.
-bool Compone(std::string_view plantilla, const std::vector<Reemplazo>& reemplazos, std::string_view entidades,
-             std::string& fichero) {
+/// The whole file, or what is wrong with the template.
+Guardado Compone(std::string_view plantilla, const std::vector<Reemplazo>& reemplazos, std::string_view entidades,
+                 std::string& fichero) {
   fichero.reserve(2 * plantilla.size() + entidades.size());
   Copiadora copiadora(plantilla, fichero);
   std::string_view linea;
@@ -108,18 +113,20 @@ bool Compone(std::string_view plantilla, const std::vector<Reemplazo>& reemplazo
         cerrado = cerrado || palabra == "ENDSEC";
         acabado = palabra.empty() ? acabado : palabra == "EOF";
       }
-      return cerrado && acabado;
+      return cerrado && acabado ? Guardado{} : FalloDePlantilla("cut short");
     }
     const auto reemplazo = std::ranges::find(reemplazos, marca, &Reemplazo::marca);
-    if (reemplazo != reemplazos.end() && !Aplica(*reemplazo, copiadora)) return false;
+    if (reemplazo == reemplazos.end()) continue;
+    if (const Guardado fallo = Aplica(*reemplazo, copiadora); !fallo) return fallo;
   }
-  return false;
+  return FalloDePlantilla("no line ENTITIES");
 }
 
-// A pipe would be waited for, a device has no end.
-std::string LeePlantilla() {
-  std::error_code fallo;
-  return fs::is_regular_file(RutaPlantilla(), fallo) ? LeeFichero(RutaPlantilla()).value_or("") : "";
+std::string LeePlantilla(Guardado& fallo) {
+  std::error_code motivo;
+  auto plantilla = LeeFichero(RutaPlantilla(), motivo);
+  if (!plantilla) fallo = FalloDePlantilla(motivo.message());
+  return std::move(plantilla).value_or("");
 }
 
 }  // namespace
@@ -146,17 +153,15 @@ bool cDXF::InsertEntities(std::shared_ptr<cDrawing> Entities) {
   return true;
 }
 
-bool cDXF::Save(const std::string& sDXFFile) {
-  if (!Entities_) return false;
-  try {
-    EstadoPrograma& e = estado;
-    Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
-    std::string fichero;
-    return Compone(LeePlantilla(), Reemplazos(), Entities_->GetEntities(), fichero) &&
-           EscribeFichero(sDXFFile, fichero) && ExisteFichero(sDXFFile);
-  } catch (const std::exception&) {
-    return false;
-  }
+Guardado cDXF::Save(const std::string& sDXFFile, Enlace enlace) {
+  if (!Entities_) return {texto::kVista, {}, {}};
+  EstadoPrograma& e = estado;
+  Entities_->GetBorder(e.ExtMinX, e.ExtMinY, e.ExtMinZ, e.ExtMaxX, e.ExtMaxY, e.ExtMaxZ);
+  Guardado paso;
+  std::string fichero;
+  const std::string plantilla = LeePlantilla(paso);
+  if (paso) paso = Compone(plantilla, Reemplazos(), Entities_->GetEntities(), fichero);
+  return paso ? EscribeFichero(sDXFFile, fichero, enlace) : paso;
 }
 
 bool cDXF::SetFonts(std::vector<std::string> Fonts, int FontCharSet) {
@@ -178,9 +183,14 @@ void cDXF::InsertBlocks(const std::vector<std::shared_ptr<cDrawing>>& Blocks) {
 
 std::string RutaPlantilla() { return estado.sRutaPrograma + "Template/Template.dxf"; }
 
-bool HayPlantilla() {
+Guardado RevisaPlantilla() {
+  Guardado paso;
   std::string fichero;
-  return Compone(LeePlantilla(), {}, {}, fichero);
+  const std::string plantilla = LeePlantilla(paso);
+  if (paso) paso = Compone(plantilla, {}, {}, fichero);
+  if (!paso) return paso;
+  const auto falta = FaltaEnMarco(plantilla);
+  return falta ? FalloDePlantilla(*falta) : paso;
 }
 
 bool ExisteFichero(const std::string& ruta) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "dxf/ajustes.h"
+#include "state/guardado.h"
 
 namespace duktores {
 
@@ -36,11 +37,10 @@ class cDXF : public AjustesDxf {
  public:
   bool InsertEntities(std::shared_ptr<cDrawing> Entities);  ///< false for a missing drawing
 
-  /// Writes the file and is true if it then stands. The template is Template/Template.dxf below `estado.sRutaPrograma`,
-  /// read anew each time. The file is made beside its place under another name and renamed at the end: on false what
-  /// stood there before still stands. False: no template, one without a line "ENTITIES" or cut short, no entities set,
-  /// or a place that can't be written.
-  bool Save(const std::string& sDXFFile);
+  /// Writes the file, whole or not at all. The template is Template/Template.dxf below `estado.sRutaPrograma`, read
+  /// anew each time. Not saved: no template, one without a line "ENTITIES" or cut short, no entities set, or a place
+  /// that can't be written.
+  Guardado Save(const std::string& sDXFFile, Enlace enlace = Enlace::seguido);
 
   // None of what follows, nor the settings of AjustesDxf, has an effect on any file that Save writes: all that is not
   // the drawing comes from the template.
@@ -58,8 +58,8 @@ class cDXF : public AjustesDxf {
 
 /// Full path of the template.
 std::string RutaPlantilla();
-/// Whether the template stands and can take a drawing.
-bool HayPlantilla();
+/// Whether the template stands, can take a drawing and is a drawing itself; else what is wrong with it.
+Guardado RevisaPlantilla();
 
 bool ExisteFichero(const std::string& ruta);  ///< a file with a length above 0
 

@@ -8,9 +8,13 @@
 #include <QSvgGenerator>
 #include <algorithm>
 #include <filesystem>
+#include <new>
+#include <optional>
+#include <string_view>
 
+#include "paint/letra.h"
 #include "paint/pintura.h"
-#include "state/fichero.h"
+#include "piece/numeros_texto.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -25,6 +29,14 @@ QSize TamanoImagen(const EWdraw& axew) {
   return {kAncho, qRound(kAncho * std::clamp(forma, 0.4, 1.5))};
 }
 
+/// A text as XML may hold it; Qt writes titles as they are.
+QString TextoXml(QString texto) {
+  for (QChar& c : texto) {
+    if (c.category() == QChar::Other_Control || c.unicode() >= 0xFFFE) c = QChar::Space;
+  }
+  return texto.toHtmlEscaped();
+}
+
 bool PintaEn(QPaintDevice& dispositivo, const EWdraw& axew, QSizeF lienzo) {
   QPainter pintor;
   if (!pintor.begin(&dispositivo)) return false;
@@ -34,13 +46,14 @@ bool PintaEn(QPaintDevice& dispositivo, const EWdraw& axew, QSizeF lienzo) {
 
 bool Png(QIODevice& salida, const EWdraw& axew, QSize lienzo) {
   QImage imagen(lienzo, QImage::Format_RGB32);
+  if (imagen.isNull()) throw std::bad_alloc();
   return PintaEn(imagen, axew, lienzo) && imagen.save(&salida, "PNG");
 }
 
 bool Svg(QIODevice& salida, const EWdraw& axew, QSize lienzo, const QString& titulo) {
   QSvgGenerator svg;
   svg.setOutputDevice(&salida);
-  svg.setTitle(titulo);
+  svg.setTitle(TextoXml(titulo));
   svg.setDescription("duktores");
   svg.setSize(lienzo);
   svg.setViewBox(QRect(QPoint(), lienzo));
@@ -59,9 +72,20 @@ bool Pdf(QIODevice& salida, const EWdraw& axew, QSize lienzo, const QString& tit
   return PintaEn(pdf, axew, lienzo);
 }
 
+// A machine without fonts would draw boxes in their place.
+bool HayLetraParaTodo(const EWdraw& axew) {
+  std::optional<Letra> letra;  // asked for by texts only: without them no application is needed
+  return std::ranges::all_of(axew.Entidades(), [&](const Entidad& entidad) {
+    if (entidad.tipo != TipoEntidad::texto) return true;
+    if (!letra) letra.emplace();
+    return letra->Sabe(Letra::Caracteres(entidad));
+  });
+}
+
 }  // namespace
 
-bool GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato) {
+Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato) {
+  if (!HayLetraParaTodo(axew)) return {texto::kSinLetra, {}, {}};
   const QSize lienzo = TamanoImagen(axew);
   const QString titulo = QString::fromStdString(std::filesystem::path(ruta).stem().string());
   QBuffer salida;
@@ -69,7 +93,8 @@ bool GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato) 
   const bool pintado = formato == Formato::png   ? Png(salida, axew, lienzo)
                        : formato == Formato::svg ? Svg(salida, axew, lienzo, titulo)
                                                  : Pdf(salida, axew, lienzo, titulo);
-  return pintado && EscribeFichero(ruta, salida.data().toStdString());
+  if (!pintado) return {texto::kNoPintado, {}, {}};
+  return EscribeFichero(ruta, std::string_view(salida.data().constData(), static_cast<std::size_t>(salida.size())));
 }
 
 }  // namespace duktores

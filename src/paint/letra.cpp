@@ -1,6 +1,8 @@
 #include "paint/letra.h"
 
+#include <QList>
 #include <QStringList>
+#include <algorithm>
 
 namespace duktores {
 
@@ -24,6 +26,11 @@ Letra::Letra() : fuente_(FuenteGrande()), medidas_(fuente_), capital_(medidas_.c
 QRectF Letra::Tinta(const QString& texto) const {
   const QRectF caja = medidas_.tightBoundingRect(texto);
   return {caja.left() / capital_, -caja.bottom() / capital_, caja.width() / capital_, caja.height() / capital_};
+}
+
+bool Letra::Sabe(const QString& texto) const {
+  const auto letras = texto.toUcs4();
+  return std::all_of(letras.begin(), letras.end(), [this](uint letra) { return medidas_.inFontUcs4(letra); });
 }
 
 QString Letra::Caracteres(const Entidad& entidad) {

@@ -18,6 +18,8 @@ class Letra {
   double Capital() const { return capital_; }  ///< height of a capital in the font's pixels
   QRectF Tinta(const QString& texto) const;    ///< the box around what is inked
 
+  bool Sabe(const QString& texto) const;  ///< whether the fonts of this machine have all of its characters
+
   /// The characters of a text entity; control characters, which a picture's format may not hold, become blanks.
   static QString Caracteres(const Entidad& entidad);
 

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "geometry/puntos.h"
+#include "state/guardado.h"
 
 class QPainter;
 
@@ -49,7 +50,7 @@ Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo);
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo);
 
 enum class Formato { png, svg, pdf };
-/// A picture of the whole model on light paper. False if the file can't be written; a former file is then still there.
-bool GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato);
+/// A picture of the whole model on light paper, written whole or not at all.
+Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato);
 
 }  // namespace duktores

@@ -38,6 +38,23 @@ inline constexpr int kDemasiadas = 82;       ///< run ended early: no handle lef
 inline constexpr int kMedidaImposible = 83;  ///< run ended early: a coordinate is no number
 inline constexpr int kIncompleto = 120;      ///< run ended early, whatever the reason
 inline constexpr int kConfiguracion = 121;   ///< the configuration can't be used
+inline constexpr int kValorMalo = 130;       ///< a key's value makes no sense; what is used instead
+inline constexpr int kClaveMala = 131;       ///< a key that is nearly one of ours; what counts for that
+
+// Why a file could not be saved.
+inline constexpr int kLleno = 132;        ///< no room on the disk
+inline constexpr int kSinDerechos = 133;  ///< no right to write it
+inline constexpr int kNombreLargo = 134;
+inline constexpr int kSoloLectura = 135;  ///< the disk is read-only
+inline constexpr int kSinCarpeta = 136;   ///< there is no such folder
+inline constexpr int kNoEsFichero = 137;  ///< what stands there is no file
+inline constexpr int kFalloDisco = 138;   ///< the system's own words follow
+inline constexpr int kVista = 139;        ///< the drawing has no extent
+// What could not be kept of a file that was replaced.
+inline constexpr int kRestos = 140, kDueno = 141, kGrupo = 142, kAcl = 143, kAtributos = 144, kModo = 145;
+inline constexpr int kDibujoQueda = 146;  ///< the drawing was saved, though not all of its pictures
+inline constexpr int kNoPintado = 147;    ///< a picture could not be painted
+inline constexpr int kSinLetra = 148;     ///< no font of the machine has the letters of a picture
 
 // The verdict.
 inline constexpr int kCierto = 107, kFalso = 108, kLargo = 109, kVuelta = 110, kFalta = 111, kRepetida = 112;

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <exception>
+#include <new>
 #include <utility>
 
 #include "annotation/anotacion.h"
@@ -36,6 +37,8 @@ std::vector<Punto2> Reparte(const Patron& patron, const FormatoHoja& formato) {
       hasta.push_back(axew.Entidades().size());
       return Punto2{};
     });
+  } catch (const std::bad_alloc&) {
+    throw;
   } catch (const std::exception&) {
     // The drawing itself will end there too.
   }

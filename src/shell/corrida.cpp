@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "dxf/dibujo.h"
@@ -92,6 +93,8 @@ Corrida Corre(EWdraw& axew, Hace hace) {
     return {FinCorrida::eleccionRechazada, {}};
   } catch (const ErrorCorrida& error) {
     MuestraMensaje(Texto(error.NumeroTexto()), EstiloMensaje::exclamacion, "");
+  } catch (const std::bad_alloc&) {
+    throw;
   } catch (const std::exception&) {
     // An error without a text of its own: the run ends with what has been drawn.
   }

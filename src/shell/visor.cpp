@@ -45,12 +45,6 @@ void PreparaHoja(EWdraw& axew) {
   estado.iHandleDxf = kPrimerHandle;
 }
 
-bool Falla(int numero, const std::string& ruta) {
-  MuestraMensaje(Texto(numero) + " " + ruta, EstiloMensaje::exclamacion, "");
-  CursorEspera(false);
-  return false;
-}
-
 }  // namespace
 
 std::span<const VistaFija> VistasFijas() { return kVistas; }
@@ -87,13 +81,19 @@ std::string NombreDxf(const std::string& elegido) {
 bool GuardaDibujo(std::string elegido) {
   if (elegido.empty()) return false;
   elegido = NombreDxf(elegido);
-  const std::string auxiliar = estado.sRutaPrograma + "AuxDxf.dxf";
   if (!estado.oDXF || !estado.oDXF->InsertEntities(estado.oDrawing)) return false;
-  if (!HayPlantilla()) return Falla(texto::kPlantilla, RutaPlantilla());
-  if (!estado.oDXF->Save(auxiliar)) return Falla(texto::kNoGuardado, auxiliar);
-  // Written anew, not copied: by now another program of this installation may have put its own drawing there.
-  if (!estado.oDXF->Save(elegido)) return Falla(texto::kNoGuardado, elegido);
-  MuestraMensaje("OK", EstiloMensaje::informacion, "");
+  Guardado guardado = RevisaPlantilla();
+  if (guardado) guardado = estado.oDXF->Save(elegido);
+  if (!guardado) {
+    MuestraMensaje(TextoNoGuardado(elegido, guardado), EstiloMensaje::exclamacion, "");
+    CursorEspera(false);
+    return false;
+  }
+  // A copy for whoever looks for the last drawing there; nothing hangs on it.
+  estado.oDXF->Save(estado.sRutaPrograma + "AuxDxf.dxf", Enlace::reemplazado);
+  const std::string restos = TextoRestos(guardado);
+  const auto estilo = restos.empty() ? EstiloMensaje::informacion : EstiloMensaje::exclamacion;
+  MuestraMensaje(restos.empty() ? "OK" : "OK, " + restos, estilo, "");
   CursorEspera(false);
   return true;
 }

@@ -31,9 +31,9 @@ Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
 /// The name that a drawing gets: with the ending ".dxf" if it has none.
 std::string NombreDxf(const std::string& elegido);
 
-/// The save command behind its dialog: writes the drawing of the last unfolding to the scratch file beside the program
-/// and then to the `NombreDxf` of `elegido`. Tells the user what came of it; true if the file stands. A former file is
-/// replaced whole or not at all. An empty name does nothing.
+/// The save command behind its dialog: writes the drawing of the last unfolding to the `NombreDxf` of `elegido`, and to
+/// the scratch file beside the program where that can be. Tells the user what came of the chosen file; true if it
+/// stands. A former file is replaced whole or not at all. An empty name does nothing.
 bool GuardaDibujo(std::string elegido);
 
 }  // namespace duktores

@@ -1,58 +1,40 @@
 #include "state/fichero.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <array>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <random>
-#include <system_error>
+#include <cerrno>
+
+#include "state/descriptor.h"
 
 namespace duktores {
 
-namespace fs = std::filesystem;
-
-std::optional<std::string> LeeFichero(const std::string& ruta) {
-  std::ifstream fichero(ruta, std::ios::binary);
-  if (!fichero) return std::nullopt;
+std::optional<std::string> LeeFichero(const std::string& ruta, std::error_code& motivo, std::size_t maximo) {
+  const auto falla = [&](int numero) {
+    motivo = {numero, std::generic_category()};
+    return std::nullopt;
+  };
+  const Descriptor fichero(open(ruta.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  struct stat datos {};
+  if (!fichero || fstat(fichero.Numero(), &datos) != 0) return falla(errno);
+  if (S_ISDIR(datos.st_mode)) return falla(EISDIR);
+  if (!S_ISREG(datos.st_mode)) return falla(ENODEV);
   std::string contenido;
   std::array<char, 1 << 16> trozo;
-  do {
-    fichero.read(trozo.data(), trozo.size());
-    contenido.append(trozo.data(), static_cast<std::size_t>(fichero.gcount()));
-  } while (fichero);
-  return fichero.bad() ? std::nullopt : std::optional(std::move(contenido));
+  for (;;) {
+    const ssize_t leidos = read(fichero.Numero(), trozo.data(), trozo.size());
+    if (leidos == 0) return contenido;
+    if (leidos < 0 && errno == EINTR) continue;
+    if (leidos < 0) return falla(errno);
+    contenido.append(trozo.data(), static_cast<std::size_t>(leidos));
+    if (contenido.size() > maximo) return falla(EFBIG);
+  }
 }
 
-bool EscribeFichero(const std::string& ruta, std::string_view contenido) {
-  std::error_code error;
-  // A link stays one, and a file that its owner has locked is not replaced.
-  fs::path destino = ruta;
-  if (fs::is_symlink(destino, error)) destino = fs::canonical(destino, error);
-  if (destino.empty()) return false;
-  struct stat antes {};
-  const bool hay = stat(destino.c_str(), &antes) == 0;
-  if (hay && (!S_ISREG(antes.st_mode) || access(destino.c_str(), W_OK) != 0)) return false;
-  error.clear();
-  // No other saver of this folder has the name, on whichever machine it runs.
-  const fs::path temporal = destino.parent_path() / (".duktores-" + std::to_string(std::random_device{}()) + ".tmp");
-  std::FILE* const fichero = std::fopen(temporal.c_str(), "wbx");
-  if (fichero == nullptr) return false;
-  bool hecho = std::fwrite(contenido.data(), 1, contenido.size(), fichero) == contenido.size();
-  // Without this a power cut could leave an empty file under the name.
-  hecho = hecho && std::fflush(fichero) == 0 && fsync(fileno(fichero)) == 0;
-  if (hay) {
-    // Who may use it stays as it was, as far as the system lets.
-    [[maybe_unused]] const int dueno = fchown(fileno(fichero), antes.st_uid, antes.st_gid);
-    fchmod(fileno(fichero), antes.st_mode);
-  }
-  hecho = std::fclose(fichero) == 0 && hecho;
-  if (hecho) fs::rename(temporal, destino, error);
-  hecho = hecho && !error;
-  if (!hecho) fs::remove(temporal, error);
-  return hecho;
+std::optional<std::string> LeeFichero(const std::string& ruta) {
+  std::error_code motivo;
+  return LeeFichero(ruta, motivo);
 }
 
 }  // namespace duktores

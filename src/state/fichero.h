@@ -1,18 +1,17 @@
 #pragma once
 // Whole files.
 
+#include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
+#include <system_error>
 
 namespace duktores {
 
-/// The bytes of a file; none if it can't be read or is a folder.
+/// The bytes of a regular file; none, with the reason in `motivo`, if one read fails, if it has more than `maximo`
+/// bytes or if it is no such file. A pipe isn't waited for.
+std::optional<std::string> LeeFichero(const std::string& ruta, std::error_code& motivo,
+                                      std::size_t maximo = std::string::npos);
 std::optional<std::string> LeeFichero(const std::string& ruta);
-
-/// Writes a file beside its place under another name and renames it at the end, so that `ruta` holds the old contents
-/// or the new ones and never a part; the rights on it stay. False, with the old ones, if that fails or if something
-/// stands there that is no file.
-bool EscribeFichero(const std::string& ruta, std::string_view contenido);
 
 }  // namespace duktores

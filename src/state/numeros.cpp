@@ -24,12 +24,14 @@ bool QuitaSigno(std::string_view& texto, std::string_view signos) {
   return negativo;
 }
 
-/// The number without a sign at the front; empty if there is none or if it is out of range.
-std::optional<double> SinSigno(std::string_view texto, std::chars_format formato) {
+/// The number without a sign that it takes off the front; empty if there is none or if it is out of range.
+std::optional<double> SinSigno(std::string_view& texto, std::chars_format formato) {
   // from_chars would also take a second sign, "inf" and "nan".
   if (texto.empty() || !(EsCifra(texto.front()) || texto.front() == '.')) return std::nullopt;
   double v = 0;
-  if (std::from_chars(texto.data(), texto.data() + texto.size(), v, formato).ec != std::errc()) return std::nullopt;
+  const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), v, formato);
+  if (error != std::errc()) return std::nullopt;
+  texto.remove_prefix(static_cast<std::size_t>(fin - texto.data()));
   return v;
 }
 
@@ -59,6 +61,14 @@ double NumeroIzquierda(std::string_view texto) {
   return negativo ? -v : v;
 }
 
+std::optional<double> NumeroEntero(std::string_view texto) {
+  texto = Recorta(texto);
+  const bool negativo = QuitaSigno(texto, "+-");
+  const auto v = SinSigno(texto, std::chars_format::general);
+  if (!v || !texto.empty()) return std::nullopt;
+  return negativo ? -*v : *v;
+}
+
 double NumeroDeTexto(std::string_view texto) { return NumeroIzquierda(ConPunto(texto)); }
 
 std::optional<double> NumeroDeCampo(std::string_view texto) {
@@ -67,7 +77,8 @@ std::optional<double> NumeroDeCampo(std::string_view texto) {
   const std::string numero = ConPunto(texto);
   const bool soloCifras = std::ranges::all_of(numero, [](char c) { return EsCifra(c) || c == '.'; });
   if (!soloCifras || std::ranges::count(numero, '.') > 1) return std::nullopt;
-  const auto v = SinSigno(numero, std::chars_format::fixed);
+  std::string_view cifras = numero;
+  const auto v = SinSigno(cifras, std::chars_format::fixed);
   return v && negativo ? std::optional(-*v) : v;
 }
 

@@ -17,6 +17,9 @@ std::string TextoDeNumero(double v);
 /// is beyond the range of a double. Always a finite number.
 double NumeroIzquierda(std::string_view texto);
 
+/// The number that the whole text but blanks around it is; none if something else stands there too.
+std::optional<double> NumeroEntero(std::string_view texto);
+
 /// Reads what TextoDeNumero has written, under either mark; other texts as NumeroIzquierda does. A number that went
 /// this way has kept 15 significant digits.
 double NumeroDeTexto(std::string_view texto);

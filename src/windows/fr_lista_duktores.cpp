@@ -19,7 +19,7 @@ constexpr int kAltoRenglon = 23;
 
 }  // namespace
 
-FrListaDuktores::FrListaDuktores()
+FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
     : proporcion_(*this, kDiseno),
       LstDuktores_(new QListWidget(this)),
       LblGeneral_(new QLabel(this)),
@@ -47,6 +47,7 @@ FrListaDuktores::FrListaDuktores()
   proporcion_.Coloca(*salir, {648, 430, 130, 34});
 
   AnadeLista();
+  if (!avisos.empty()) AnadeAvisos(avisos);
   LstDuktores_->installEventFilter(this);
   connect(LstDuktores_, &QListWidget::currentRowChanged, this, &FrListaDuktores::EligeFila);
   connect(LstDuktores_, &QListWidget::itemDoubleClicked, this, &FrListaDuktores::CmdContinuar);
@@ -66,6 +67,19 @@ void FrListaDuktores::AnadeLista() {
     renglon->setSizeHint({0, kAltoRenglon});
   }
   LstDuktores_->setCurrentRow(0);
+}
+
+void FrListaDuktores::AnadeAvisos(const std::vector<std::string>& avisos) {
+  auto* LblAviso = new QLabel(this);
+  LblAviso->setObjectName("LblAviso");
+  LblAviso->setTextFormat(Qt::PlainText);
+  LblAviso->setWordWrap(true);
+  const QString mas = avisos.size() > 1 ? QString(" (1/%1)").arg(avisos.size()) : QString();
+  LblAviso->setText(QString::fromStdString(avisos.front()) + mas);
+  QStringList todos;
+  for (const std::string& aviso : avisos) todos += QString::fromStdString(aviso).toHtmlEscaped();
+  LblAviso->setToolTip("<p>" + todos.join("</p><p>") + "</p>");
+  proporcion_.Coloca(*LblAviso, {12, 424, 484, 46});
 }
 
 void FrListaDuktores::EligeFila() {

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QWidget>
+#include <string>
+#include <vector>
 
 #include "shell/catalogo.h"
 #include "windows/imagen.h"
@@ -15,7 +17,8 @@ namespace duktores {
 class FrListaDuktores : public QWidget {
   Q_OBJECT
  public:
-  FrListaDuktores();
+  /// `avisos` says what is wrong with the configuration, a line a key; the foot shows the first and tells all.
+  explicit FrListaDuktores(const std::vector<std::string>& avisos = {});
 
  protected:
   void showEvent(QShowEvent* suceso) override;
@@ -26,6 +29,7 @@ class FrListaDuktores : public QWidget {
  private:
   const FilaCatalogo& Fila() const { return FilasCatalogo()[static_cast<std::size_t>(LstDuktores_->currentRow())]; }
   void AnadeLista();
+  void AnadeAvisos(const std::vector<std::string>& avisos);
   void EligeFila();
   void Activa();
   void CmdContinuar();

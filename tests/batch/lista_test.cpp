@@ -33,6 +33,12 @@ TEST(LeeLista, RefusesByName) {
       {R"({"name": "a/b", "piece": "TransCR"})", "name"},
       {R"({"name": "a\\b", "piece": "TransCR"})", "name"},
       {R"({"name": "a\u0000", "piece": "TransCR"})", "name"},
+      {R"({"name": "a\u009b", "piece": "TransCR"})", "name"},
+      {R"({"name": "a\u2028", "piece": "TransCR"})", "name"},
+      {"{\"name\": \"a\U000E0001\", \"piece\": \"TransCR\"}", "name"},
+      {R"({"name": "a", "piece": "TransCR", "picks": [[1, 1e400]]})", "picks"},
+      {R"({"name": "a", "piece": "TransCR", "H": {"name": 1}})", "H"},
+      {R"({"name": "a", "piece": "TransCR", "H": "000000000000000000000000000000001"})", "H"},
       {R"({"name": 7, "piece": "TransCR"})", "name"},
       {R"({"name": "a"})", "piece"},
       {R"({"name": "a", "piece": "TransCR", "H": [1]})", "H"},
@@ -52,8 +58,30 @@ TEST(LeeLista, RefusesByName) {
     ASSERT_TRUE(trabajos[1].rechazo) << caso.trabajo;
     EXPECT_EQ(trabajos[1].rechazo->clave, caso.clave) << caso.trabajo;
   }
-  const auto dobles = LeeLista(R"([{"name": "a", "piece": "x"}, {"name": "a", "piece": "x"}])");
-  for (const Trabajo& doble : dobles) EXPECT_EQ(doble.rechazo->clave, "name");
+  for (const char* otro : {"caf\u00e9", "CAFE\u0301"}) {
+    const auto dobles = LeeLista("[{\"name\": \"Caf\u00e9\", \"piece\": \"x\"}, {\"name\": \"" + std::string(otro) +
+                                 "\", \"piece\": \"x\"}]");
+    for (const Trabajo& doble : dobles) EXPECT_EQ(doble.rechazo->clave, "name");
+  }
+}
+
+TEST(LeeLista, WhatIsNoListSaysWhere) {
+  const std::pair<std::string, std::string> casos[] = {
+      {"[{},\n{}" + std::string(1, '\0') + "]", "job 2: a NUL byte at line 2"},
+      {"[{},\n{]", "job 2: parse error at line 2, column 2: "},
+      {"{}", "job 0: it must be one array"},
+      {std::string(100000, '['), "job 1: parse error at line 1, "}};
+  for (const auto& [texto, dicho] : casos) {
+    try {
+      LeeLista(texto);
+      ADD_FAILURE() << dicho;
+    } catch (const ErrorLista& error) {
+      EXPECT_TRUE(std::string(error.what()).starts_with(dicho)) << error.what();
+    }
+  }
+  EXPECT_EQ(LeeLista("[{}]")[0].nombre, "#1");
+  EXPECT_TRUE(LeeLista(R"([{"name": "a", "piece": "x", "H": 1e400}])")[0].valores ==
+              (Trabajo{}.valores = {{"H", "1e400"}}));
 }
 
 // The message of an error is its own, or that a run has ended early where it has none: never the prompt before it. In
@@ -64,12 +92,10 @@ TEST(Trabaja, APromptIsNoErrorsMessage) {
         {-40.0, "300", texto::kIncompleto}}) {
     Configura();
     estado.dIdioma = idioma;
-    const auto trabajos =
-        LeeLista(R"([{"name": "a", "piece": "TransCR", "RS": 90, "LI": 400, "AI": 300, "AX": 0, "AY": 0,
-                                        "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 2, "picks": [[0, 0], [0, 0]],
-                                        "H": ")" +
-                 alto + "\"}]");
-    const Resultado resultado = Trabaja(trabajos.at(0), {});
+    auto trabajo = LeeLista(R"([{"name": "a", "piece": "TransCR", "RS": 90, "LI": 400, "AI": 300, "AX": 0, "AY": 0,
+                                 "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 2, "picks": [[0, 0], [0, 0]]}])")[0];
+    trabajo.valores.emplace_back("H", alto);  // too long for a list
+    const Resultado resultado = Trabaja(trabajo, {});
     ASSERT_TRUE(resultado.rechazo);
     EXPECT_EQ(resultado.rechazo->clave + ": " + resultado.rechazo->texto, "piece: " + Texto(texto));
   }

@@ -1,16 +1,18 @@
-"""Runs the installed duktores-batch as a user would. Usage: programa_test.py PROGRAM SAMPLES"""
+"""Runs the installed duktores-batch as a user would."""
 
 import itertools
 import json
 import os
+import resource
 import shutil
 import subprocess
 import sys
 import unittest
+import xml.etree.ElementTree
 
 import ezdxf
 
-from lote import JOBS, PROGRAM, Batch
+from lote import JOBS, LIBRARY, PROGRAM, Batch
 
 GOOD = {"name": "good", "piece": "TransCR", "H": 300, "RS": 100, "LI": 400, "AI": "400", "AX": 0, "AY": 0,
         "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 1}
@@ -79,7 +81,7 @@ class Program(Batch):
                  ({"Color": 1}, 'Color: "Color" is no key'), ({"RI": 1}, "RI:"), ({"Divisions": 13}, "Divisions:"),
                  ({"Pieces": 3}, "Pieces:"), ({"H": ""}, "H: Introduzca todos los datos"),
                  ({"H": 0}, "H: Dato erróneo"), ({"Alfa": "3-"}, "Alfa: Dato erróneo"),
-                 ({"H": "9" * 400}, "H: Dato erróneo"), ({"H": "9" * 300}, "piece:"),
+                 ({"H": "9" * 33}, "H: H takes at most 32"),
                  ({"Pieces": 2, "picks": [[0, 0]]}, "picks: pick 2"), ({"piece": "Cube"}, "piece:")]
         jobs = [{**GOOD, "name": f"bad{i}", **change} for i, (change, _) in enumerate(cases)] + [GOOD]
         result = self.run_batch(jobs)
@@ -122,6 +124,8 @@ class Program(Batch):
             (self.run_batch([GOOD], out=blocker / "out"), "output folder"),
             (self.run_batch([GOOD], program=self.installation(template=False)), "Template.dxf"),
             (self.run_batch([GOOD], program=self.installation(template=b"  0\r\nEOF\r\n")), "Template.dxf"),
+            (self.run_batch([GOOD], "--max-list", "100b"), "--max-list"),
+            (self.run_batch([GOOD], "--shard", "3/2"), "--shard"),
         ):
             self.assertEqual(result.returncode, 2, reason)
             self.assertIn(reason, result.stderr.decode())
@@ -134,6 +138,71 @@ class Program(Batch):
             self.assertEqual((result.returncode, self.written()), (2, []))
             self.assertIn("Fiber" if config else "Config.ini", result.stderr.decode())
 
+    def test_a_misspelt_key_is_told_and_no_start_for_the_strict(self):
+        config = (PROGRAM.parent.parent / "Config/Config.ini").read_bytes().replace(b"Thickness", b"Thicknes")
+        program = self.installation(config=config)
+        for options, code in ((), 0), (("--strict",), 2):
+            result = self.run_batch([GOOD], *options, program=program)
+            self.assertEqual((result.returncode, bool(result.stdout)), (code, code == 0))
+            self.assertIn("DUCT Thicknes=1: clave desconocida, vale: Thickness=0", result.stderr.decode())
+
+    def test_a_template_with_a_hole_makes_no_drawing_that_does_not_open(self):
+        program = self.installation()
+        file = program.parent / "Template/Template.dxf"
+        template = file.read_bytes()
+        for start in range(0, len(template) - 512, len(template) // 48):
+            for hole in (b"", bytes(512)):
+                file.write_bytes(template[:start] + hole + template[start + 512:])
+                result = self.run_batch([GOOD], program=program)
+                if result.returncode == 2:
+                    self.assertRegex(result.stderr.decode(), r"Template\.dxf: (line \d+: |no line ENTITIES|cut short)")
+                    self.assertEqual(self.written(), [])
+                    continue
+                auditor = ezdxf.readfile(self.folder / "out/good.dxf").audit()
+                self.assertFalse(auditor.errors or hole, (start, auditor.errors))
+                (self.folder / "out/good.dxf").unlink()
+
+    @unittest.skipIf(LIBRARY == "none", "the sanitizers have costs of their own")
+    def test_cost_grows_with_the_list_and_not_faster(self):
+        job = '{"name": "a", "piece": "TransCR", %s}'
+        lists = (lambda n: ",".join(["{}"] * 50 * n), lambda n: job % ",".join(f'"k{i}": 1' for i in range(100 * n)),
+                 lambda n: job % ('"H": "%s"' % ("9" * 2000 * n)), lambda n: job % ('"H": %s1' % ("[" * 300 * n)),
+                 lambda n: ",".join(job % "" for i in range(10 * n)).replace(", }", "}"))
+        for make in lists:
+            def seconds(n):
+                before = resource.getrusage(resource.RUSAGE_CHILDREN)
+                self.run_batch(f"[{make(n)}]".encode(), "--check", "--shard", "1/1000000")
+                after = resource.getrusage(resource.RUSAGE_CHILDREN)
+                return after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+            # By turns, and again while a busy machine spoils it: the least is what it costs without other work.
+            once, twice = seconds(2000), seconds(4000)
+            for _ in range(10):
+                if twice < 2.5 * once:
+                    break
+                once, twice = min(once, seconds(2000)), min(twice, seconds(4000))
+            self.assertLess(twice, 2.5 * once)
+        self.assertLess(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss, 200_000)
+
+    def test_parts_of_a_list_make_the_whole(self):
+        """As a cluster works it, and as parallel does on one machine."""
+        file = self.folder / "jobs"
+        file.write_text(json.dumps([*JOBS, JOBS[0]]))  # its first name is there twice
+        whole = subprocess.run([PROGRAM, file, "--out", self.folder / "whole"], capture_output=True, timeout=120).stdout
+        parts = subprocess.run(["parallel", PROGRAM, "--shard", "{}/3", "--out", self.folder / "parts", file, ":::",
+                                "1", "2", "3"], capture_output=True, timeout=120,
+                               env={**os.environ, "HOME": self.folder})
+        self.assertEqual(sorted(whole.replace(b"/whole/", b"/parts/").splitlines()), sorted(parts.stdout.splitlines()))
+        self.assertEqual(*({p.name: p.read_bytes() for p in (self.folder / out).iterdir()}
+                           for out in ("whole", "parts")))
+
+    @unittest.skipIf(LIBRARY == "none", "they are in the release build")
+    def test_binaries_are_hardened(self):
+        for name in ("duktores", "duktores-batch"):
+            told = subprocess.run(["readelf", "-hldWs", PROGRAM.parent / name], capture_output=True, text=True).stdout
+            marks = "(Position-Independent Executable file)", "GNU_RELRO", "BIND_NOW", "__stack_chk_fail"
+            self.assertEqual([mark for mark in marks if mark not in told], [], name)
+        self.assertTrue("_chk@" in told, "fortified calls")
+
     def test_a_pattern_that_is_not_true_is_told_or_refused(self):
         """The usual rules spoil the sharp corners of this piece; developed exactly it is true."""
         jobs = [GOOD, {"name": "bad", "piece": "TransEsp3", "H": 320, "R": 90, "LX": 480, "LY": 300, "AX": 20, "AY": 10,
@@ -143,16 +212,27 @@ class Program(Batch):
         config.write_text((PROGRAM.parent.parent / "Config/Config.ini").read_text().replace("Exact=0", "Exact=1"))
         for options, code, answer in (((), 0, f"bad: ok {out}/bad.dxf, warning: ATENCIÓN, desarrollo falso: Esquina 2"),
                                       (("--strict",), 1, "bad: refused pattern: ATENCIÓN, desarrollo falso: Esquina 2"),
+                                      (("--strict", "--check"), 1, "bad: refused pattern: ATENCIÓN, desarrollo falso"),
                                       (("--strict", "--exact"), 0, f"bad: ok {out}/bad.dxf"),
                                       (("--strict", "--config", config), 0, f"bad: ok {out}/bad.dxf")):
             shutil.rmtree(out, ignore_errors=True)
             result = self.run_batch(jobs, *options)
-            lines = result.stdout.decode().splitlines()
-            self.assertEqual((result.returncode, lines[0]), (code, f"good: ok {out}/good.dxf"))
+            lines, written = result.stdout.decode().splitlines(), "--check" not in options
+            self.assertEqual((result.returncode, lines[0]), (code, "good: ok" + (f" {out}/good.dxf" if written else "")))
             self.assertTrue(lines[1].startswith(answer), lines[1])
             self.assertEqual("warning" in lines[1], options == ())
             self.assertEqual("Las reglas usuales" in lines[1], code == 1 or options == ())
             self.assertEqual((out / "bad.dxf").exists(), code == 0)
+
+    def test_pictures_of_any_name_and_without_fonts(self):
+        out = self.folder / "out"
+        name = "<a> & \"b\" ]]>\ufffe"
+        self.assertEqual(self.run_batch([{**GOOD, "name": name}], "--svg").returncode, 0)
+        self.assertIsNotNone(xml.etree.ElementTree.parse(out / (name + ".svg")).find("*"))
+        (self.folder / "fonts").write_text("<fontconfig/>")
+        result = self.run_batch([GOOD], "--png", env={"FONTCONFIG_FILE": self.folder / "fonts", "HOME": self.folder})
+        self.assertEqual(result.stdout.decode(), "good: refused name: No se pudo guardar el archivo: "
+                         f"{out}/good.png (no hay letra para sus textos). El dibujo está guardado: {out}/good.dxf\n")
 
 
 if __name__ == "__main__":

@@ -9,6 +9,7 @@
 #include "annotation/anotacion.h"
 #include "ayudas.h"
 #include "state/fichero.h"
+#include "state/guardado.h"
 #include "state/textos.h"
 
 namespace duktores {
@@ -93,9 +94,10 @@ TEST_F(Escritor, RefusalsLeaveWhatStoodThere) {
                                   plantilla.rfind("ENDSEC"), plantilla.rfind("EOF")}) {
     EscribeFichero(plantilla_, plantilla.substr(0, largo));
     EsperaRechazo("template cut at " + std::to_string(largo));
-    EXPECT_FALSE(HayPlantilla());
+    EXPECT_FALSE(RevisaPlantilla());
   }
   EscribeFichero(plantilla_, plantilla);
+  EXPECT_TRUE(RevisaPlantilla());
   EXPECT_FALSE(dxf_.Save(carpeta_ / "Template") || dxf_.Save(carpeta_ / "no/salida.dxf")) << "a folder, and none";
   EXPECT_FALSE(cDXF().Save(destino_) || cDXF().InsertEntities(nullptr)) << "no entities";
   cLine lejos{.x1 = -1.7e308, .x2 = 1.7e308};

@@ -1,15 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
 #include <QBitmap>
-#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <cmath>
-#include <csignal>
 #include <vector>
 
 #include "paint/pintura.h"
@@ -187,28 +184,6 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   const QByteArray pdf = Lee(carpeta.filePath("a"));
   EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
   EXPECT_TRUE(pdf.contains("/MediaBox [0 0 800.000000 640.000000]")) << "the picture's shape, half a point to a pixel";
-}
-
-TEST(GuardaImagen, WhatCannotBeWrittenLeavesWhatWasThere) {
-  const QTemporaryDir carpeta;
-  EWdraw axew;
-  Llena(axew, 1000, 800);
-  const QString ruta = carpeta.filePath("old");
-  const QStringList malas{carpeta.filePath("none/a"), carpeta.path(), ruta + "/a", ""};
-  ASSERT_TRUE(GuardaImagen(EWdraw(), ruta.toStdString(), Formato::svg));
-  const QByteArray antes = Lee(ruta);
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limite{};
-  getrlimit(RLIMIT_FSIZE, &limite);
-  const rlimit lleno{100, limite.rlim_max};  // a disk that is full after 100 bytes
-  for (const Formato formato : kFormatos) {
-    for (const QString& mal : malas) EXPECT_FALSE(GuardaImagen(axew, mal.toStdString(), formato)) << mal.toStdString();
-    setrlimit(RLIMIT_FSIZE, &lleno);
-    EXPECT_FALSE(GuardaImagen(axew, ruta.toStdString(), formato));
-    setrlimit(RLIMIT_FSIZE, &limite);
-    EXPECT_EQ(Lee(ruta), antes);
-  }
-  EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files | QDir::Hidden), QStringList("old")) << "no scraps";
 }
 
 }  // namespace

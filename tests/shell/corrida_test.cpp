@@ -156,22 +156,30 @@ TEST_F(Guarda, TwoProgramsOfOneInstallationSaveTheirOwnDrawings) {
 
 TEST_F(Guarda, WhatCannotBeSavedIsToldAndTheOldStays) {
   const std::string auxiliar = Ruta("Duct/AuxDxf.dxf"), muestra = Ruta("muestra.dxf");
-  const auto expectFalla = [&](const std::string& elegido, const std::string& donde) {
+  const auto expectFalla = [&](const std::string& elegido, int motivo) {
     EXPECT_FALSE(Dibuja(0, elegido));
-    EXPECT_EQ(mesa_.mensajes.back(), Texto(80) + " " + donde);
+    const std::string dicho = Texto(80) + " " + elegido + " (" + Texto(motivo);
+    EXPECT_TRUE(mesa_.mensajes.back().starts_with(dicho)) << mesa_.mensajes.back();
     EXPECT_EQ(LeeFichero(muestra), ficheros_[1]);
   };
   fs::create_directories(Ruta("carpeta.dxf"));
   fs::create_symlink(Ruta("corro.dxf"), Ruta("corro.dxf"));
-  for (const char* elegido : {"carpeta.dxf", "corro.dxf", "no hay/pieza.dxf", "muestra.dxf/pieza.dxf"})
-    expectFalla(Ruta(elegido), Ruta(elegido));
-  fs::remove(auxiliar);
-  fs::create_directory(auxiliar);
-  expectFalla(muestra, auxiliar);
+  expectFalla(Ruta("carpeta.dxf"), texto::kNoEsFichero);
+  expectFalla(Ruta("corro.dxf"), texto::kFalloDisco);
+  for (const char* elegido : {"no hay/pieza.dxf", "muestra.dxf/pieza.dxf"})
+    expectFalla(Ruta(elegido), texto::kSinCarpeta);
+  expectFalla(Ruta(std::string(300, 'a').c_str()) + ".dxf", texto::kNombreLargo);
+  // The scratch file never decides, nor is it written through a link.
+  for (const bool enlace : {false, true}) {
+    fs::remove(auxiliar);
+    enlace ? fs::create_symlink(muestra, auxiliar) : void(fs::create_directory(auxiliar));
+    EXPECT_TRUE(Dibuja(0, Ruta("otra.dxf")));
+    EXPECT_EQ(mesa_.mensajes.back(), "OK");
+    EXPECT_TRUE(LeeFichero(Ruta("otra.dxf")) == ficheros_[0] && LeeFichero(muestra) == ficheros_[1]);
+  }
   const std::string plantilla = Ruta("Duct/Template/Template.dxf");
   fs::remove(plantilla);
-  EXPECT_FALSE(Dibuja(0, muestra));
-  EXPECT_EQ(mesa_.mensajes.back(), Texto(81) + " " + plantilla);
+  expectFalla(muestra, texto::kPlantilla);
 }
 
 }  // namespace

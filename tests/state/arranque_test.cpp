@@ -6,11 +6,15 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <sstream>
+#include <thread>
+#include <tuple>
 
 #include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/fichero.h"
+#include "state/guardado.h"
 #include "state/ini.h"
 
 namespace duktores {
@@ -27,9 +31,9 @@ class Arranque : public testing::Test {
   }
   void TearDown() override { fs::remove_all(raiz_); }
   /// The configuration as it is read, language and unit first.
-  std::string Lanza(const std::string& contenido = "") const {
+  std::string Lanza(const std::string& contenido = "") {
     EXPECT_TRUE(contenido.empty() || EscribeFichero(ini_, contenido));
-    Arranca((raiz_ / "Duct/duktores").string());
+    lectura_ = Arranca((raiz_ / "Duct/duktores").string());
     const EstadoPrograma& e = estado;
     std::ostringstream s;
     s.precision(16);
@@ -40,6 +44,7 @@ class Arranque : public testing::Test {
   }
   fs::path raiz_ = fs::temp_directory_path() / ("duktores_state_" + std::to_string(getpid()));
   std::string ini_ = raiz_ / "Config/Config.ini";
+  LecturaConfiguracion lectura_;
 };
 
 TEST_F(Arranque, PlacesAndConfiguration) {
@@ -80,9 +85,59 @@ TEST_F(Arranque, UnitLanguageAndThickness) {
 }
 
 TEST_F(Arranque, AFileThatIsNoneReadsAsEmpty) {
-  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0 0") << "missing";
+  const auto expectVacia = [&](std::errc fallo) {
+    EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0 0");
+    EXPECT_EQ(lectura_.fallo, fallo);
+  };
+  expectVacia(std::errc::no_such_file_or_directory);
   ASSERT_EQ(mkfifo(ini_.c_str(), 0600), 0);
-  EXPECT_EQ(Lanza(), "0 1  0 0 0 0 0 0 0 0 0") << "a pipe, on which one could wait for ever";
+  expectVacia(std::errc::no_such_device);  // one could wait for ever
+  fs::remove(ini_);
+  EscribeFichero(ini_, std::string((1 << 20) + 1, ' '));
+  expectVacia(std::errc::file_too_large);
+}
+
+TEST_F(Arranque, NonsenseIsToldAKeyALine) {
+  const std::string sanas =
+      "[LANGUAGE]\nLanguage=english\n[UNIT]\nUnit=1\nTime=5\n[DUCT]\nThickness=+1.5e0 \nSizetxt=6\nFiber=3\n"
+      "BendColour=256\nDimensions=1.0\nDensity=0\nNDivi=16\nBox=-1\nExact=0\nPath=x\nMachine=a\nMax=3\nLast=q\n[HOST]\n"
+      "Thicknes=1\n";
+  Lanza(sanas);
+  EXPECT_EQ(lectura_.avisos, std::vector<std::string>());
+  // What is changed, and what is told of it.
+  const std::tuple<const char*, const char*, const char*> casos[] = {
+      {"Thickness=+1.5e0 ", "Thickness=1,5", "DUCT Thickness=1,5: no valid value, used is: 1"},
+      {"Thickness=+1.5e0 ", "Thickness=-1", "DUCT Thickness=-1: no valid value, used is: -1"},
+      {"Thickness", "tihckness", "DUCT tihckness=+1.5e0: unknown key, what counts is: Thickness=0"},
+      {"Fiber", "Fibre", "DUCT Fibre=3: unknown key, what counts is: Fiber=0"},
+      {"[UNIT]", "[UNITS]", "UNITS Unit=1: unknown key, what counts is: Unit=0"},
+      {"Box", "Bix", "DUCT Bix=-1: unknown key, what counts is: Box=0"},
+      {"english", "Englisch", "LANGUAGE Language=Englisch: valor no válido, se usa: SPANISH"},
+      {"Unit=1", "Unit=5", "UNIT Unit=5: no valid value, used is: 5"},
+      {"Sizetxt=6", "Sizetxt=0", "DUCT Sizetxt=0: no valid value, used is: 0"},
+      {"Fiber=3", "Fiber=9", "DUCT Fiber=9: no valid value, used is: 9"},
+      {"BendColour=256", "BendColour=257", "DUCT BendColour=257: no valid value, used is: 0"},
+      {"Density=0", "Density=abc", "DUCT Density=abc: no valid value, used is: 0"},
+      {"NDivi=16", "NDivi=18", "DUCT NDivi=18: no valid value, used is: 18"},
+      {"Box=-1", "Box=70000", "DUCT Box=70000: no valid value, used is: 0"},
+      {"Exact=0", "Exact=", "DUCT Exact=: no valid value, used is: 0"}};
+  for (const auto& [sana, mala, aviso] : casos) {
+    std::string contenido = sanas;
+    Lanza(contenido.replace(contenido.find(sana), std::string(sana).size(), mala));
+    EXPECT_EQ(lectura_.avisos, std::vector<std::string>{aviso});
+  }
+}
+
+TEST_F(Arranque, AConfigurationThatIsBeingWrittenIsReadWhole) {
+  const std::string contenido = "[LANGUAGE]\nLanguage=ENGLISH\n" + std::string(50000, ';') + "\n[DUCT]\nFiber=3\n";
+  const std::string antes = Lanza(contenido);
+  std::jthread otro([&](const std::stop_token& basta) {
+    while (!basta.stop_requested()) {
+      std::ofstream(ini_) << contenido;
+      std::this_thread::sleep_for(std::chrono::milliseconds(60));
+    }
+  });
+  for (int i = 0; i < 20; ++i) EXPECT_EQ(Lanza(), antes);
 }
 
 TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
@@ -104,6 +159,7 @@ TEST_F(Arranque, DecimalMarkOfTheEnvironment) {
 }
 
 TEST(Ini, Values) {
+  const auto Valor = [](const std::string& ini) { return LeeIni(EntradasIni(ini), "S", "K").value_or(""); };
   // clang-format off
   const std::pair<const char*, const char*> casos[] = {
       {"[S]\r\nK=1\r\n", "1"}, {"[S]\nK=1", "1"}, {"\xEF\xBB\xBF[S]\nK=1\n", "1"},
@@ -113,10 +169,10 @@ TEST(Ini, Values) {
       {"K=1\n[t]\nK=2\n", ""}, {"[s]\nK\n=1\nK2=1\n", ""}, {"[s", ""}, {"[s\nK=1\n", "1"}, {"[]\nK=1\n", ""},
       {"[s]\nK=Espa\xF1" "a \x80\n", "España €"}, {"[s]\nK=España €\n", "España €"}};
   // clang-format on
-  for (const auto& [contenido, valor] : casos) EXPECT_EQ(ValorIni(contenido, "S", "K"), valor) << contenido;
+  for (const auto& [contenido, valor] : casos) EXPECT_EQ(Valor(contenido), valor) << contenido;
   const std::string casi(126, 'a');  // one character short of the longest value
-  for (const char* cola : {"", "b"}) EXPECT_EQ(ValorIni("[s]\nk=" + casi + "é" + cola, "s", "k"), casi + "é");
-  EXPECT_EQ(ValorIni("[s]\nk=" + casi + "𝄞", "s", "k"), casi);
+  for (const char* cola : {"", "b"}) EXPECT_EQ(Valor("[s]\nk=" + casi + "é" + cola), casi + "é");
+  EXPECT_EQ(Valor("[s]\nk=" + casi + "𝄞"), casi);
 }
 
 }  // namespace

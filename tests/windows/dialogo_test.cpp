@@ -101,6 +101,12 @@ TEST_F(Lista, EachRowShowsAndOpensItsOwn) {
   Pulsa(lista_, "CmdContinuar");
 }
 
+TEST_F(Lista, FaultyKeysAreToldAtTheFoot) {
+  FrListaDuktores con({"one", "<two>"});
+  const auto& aviso = Hijo<QLabel>(con, "LblAviso");
+  EXPECT_EQ(aviso.text() + aviso.toolTip(), "one (1/2)<p>one</p><p>&lt;two&gt;</p>");
+}
+
 TEST_F(Lista, ControlsKeepTheirShareOfTheWindow) {
   auto& boton = Hijo(lista_, "CmdContinuar");
   const QSize diseno = lista_.size();

@@ -1,0 +1,72 @@
+#include "batch/ordenes.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <charconv>
+#include <string_view>
+#include <thread>
+
+namespace duktores {
+
+namespace {
+
+/// "2/8" is the second of eight parts. False if the text is nothing like that.
+bool LeeParte(std::string_view texto, Parte& parte) {
+  const auto numero = [&](std::size_t& n) {
+    const auto fin = std::from_chars(texto.data(), texto.data() + texto.size(), n);
+    texto.remove_prefix(static_cast<std::size_t>(fin.ptr - texto.data()));
+    return fin.ec == std::errc() && n > 0;
+  };
+  if (!numero(parte.primero) || !texto.starts_with('/')) return false;
+  texto.remove_prefix(1);
+  return numero(parte.cada) && texto.empty() && parte.primero <= parte.cada;
+}
+
+}  // namespace
+
+std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
+  bool png = false, svg = false, pdf = false;
+  Opciones& opciones = ordenes.opciones;
+  ordenes.hilos = std::max(1U, std::thread::hardware_concurrency());
+  CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
+  app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
+  app.add_option("JOBS.json", ordenes.lista, "job list; - for standard input")->required();
+  app.add_option("--config", ordenes.configuracion,
+                 "configuration file; default: Config/Config.ini of the installation")
+      ->type_name("FILE");
+  app.add_option("--out", opciones.carpeta, "folder of the drawings, made if missing")
+      ->type_name("DIR")
+      ->capture_default_str();
+  app.add_flag("--png", png, "a PNG picture of each pattern beside its drawing");
+  app.add_flag("--svg", svg, "the same as SVG");
+  app.add_flag("--pdf", pdf, "the same as PDF");
+  app.add_flag("--solid", opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
+  app.add_flag("--check", opciones.soloComprueba, "only check the jobs, with --strict their patterns; write nothing");
+  app.add_flag("--strict", opciones.estricto,
+               "refuse a piece whose pattern isn't true to its solid, and a configuration with a faulty key");
+  app.add_flag("--exact", ordenes.exacto, "develop exactly, whatever the configuration says");
+  app.add_option("--jobs", ordenes.hilos, "pieces worked at once; default: the machine's cores")
+      ->type_name("N")
+      ->check(CLI::PositiveNumber);
+  app.add_option_function<std::string>(
+         "--shard",
+         [&](const std::string& texto) {
+           if (!LeeParte(texto, ordenes.parte)) throw CLI::ValidationError("--shard", "must be K/N with K from 1 to N");
+         },
+         "only the jobs K, K+N, K+2N ... of the list")
+      ->type_name("K/N");
+  app.add_option("--max-list", ordenes.maximoLista, "longest list from a pipe; default: 1 GiB")
+      ->type_name("SIZE")
+      ->transform(CLI::AsSizeValue(false));
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
+  }
+  if (png) opciones.imagenes.push_back(Formato::png);
+  if (svg) opciones.imagenes.push_back(Formato::svg);
+  if (pdf) opciones.imagenes.push_back(Formato::pdf);
+  return std::nullopt;
+}
+
+}  // namespace duktores

@@ -1,0 +1,177 @@
+#include "state/configuracion.h"
+
+#include <langinfo.h>
+#include <locale.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <filesystem>
+#include <limits>
+#include <new>
+#include <optional>
+#include <string_view>
+#include <thread>
+
+#include "piece/numeros_texto.h"
+#include "state/caracteres.h"
+#include "state/estado.h"
+#include "state/fichero.h"
+#include "state/ini.h"
+#include "state/numeros.h"
+#include "state/textos.h"
+
+namespace duktores {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int16_t kUltimoColor = 256;  // a drawing with another colour index doesn't open
+
+// The language bases are the places in this list, times 10000.
+constexpr std::array<std::string_view, 7> kIdiomas{"SPANISH",    "ENGLISH", "GERMAN", "FRENCH",
+                                                   "PORTUGUESE", "BASQUE",  "CHINESE"};
+
+/// A key with a number: the numbers that make sense (multiples of `paso`, if there is one) and where its value goes.
+/// `pone` gives back the value that counts from then on.
+struct Clave {
+  std::string_view seccion, nombre;
+  double minimo, maximo, paso;
+  double (*pone)(double);
+};
+
+constexpr double kSinTope = std::numeric_limits<double>::max(), kMasQueCero = std::numeric_limits<double>::min();
+constexpr double kCorto = std::numeric_limits<std::int16_t>::max();
+
+template <std::int16_t EstadoPrograma::*valor>
+double PonEntero(double v) {
+  return estado.*valor = EnteroCorto(v);
+}
+
+template <std::string EstadoPrograma::*valor>
+double PonTexto(double v) {
+  estado.*valor = TextoDeNumero(v);
+  return v;
+}
+
+// Read in this order: the height of texts depends on the unit.
+constexpr std::array kClaves{
+    Clave{"UNIT", "Unit", 0, 1, 1, [](double v) { return (estado.iUnidad = EnteroCorto(v + 1)) - 1.0; }},
+    Clave{"DUCT", "Thickness", 0, kSinTope, 0,
+          [](double v) { return estado.dEspesor = NumeroDeTexto(TextoDeNumero(v)); }},
+    Clave{"DUCT", "Sizetxt", kMasQueCero, kSinTope, 0,
+          [](double v) { return estado.dTamanoTexto = estado.iUnidad == 2 ? v / 3.0 : v; }},
+    Clave{"DUCT", "Fiber", 1, 3, 1, PonEntero<&EstadoPrograma::iFibra>},
+    Clave{"DUCT", "BendColour", 0, kUltimoColor, 1,
+          [](double v) {
+            const std::int16_t color = EnteroCorto(v);
+            estado.iColorDoblez = color < 0 || color > kUltimoColor ? std::int16_t{0} : color;
+            return static_cast<double>(estado.iColorDoblez);
+          }},
+    Clave{"DUCT", "Dimensions", 0, 1, 1, PonTexto<&EstadoPrograma::sDimensiones>},
+    Clave{"DUCT", "Density", 0, kSinTope, 0, PonTexto<&EstadoPrograma::sDensidad>},
+    Clave{"DUCT", "NDivi", 4, 908, 4, PonEntero<&EstadoPrograma::iDivisiones>},
+    Clave{"DUCT", "Box", -kCorto, kCorto, 1, PonEntero<&EstadoPrograma::iBox>},
+    Clave{"DUCT", "Exact", -kCorto, kCorto, 1, PonEntero<&EstadoPrograma::iExacto>},
+};
+constexpr EntradaIni kTextos[]{{"LANGUAGE", "Language", {}}, {"DUCT", "Path", {}}};
+
+bool TieneSentido(const Clave& clave, const std::string& texto) {
+  const auto v = NumeroEntero(texto);
+  return v && *v >= clave.minimo && *v <= clave.maximo && (clave.paso == 0 || std::fmod(*v, clave.paso) == 0);
+}
+
+/// The language base; an unlisted language is Spanish.
+double LeeIdioma(const std::string& nombre) {
+  const auto* idioma = std::ranges::find(kIdiomas, Mayusculas(Recorta(nombre)));
+  return idioma == kIdiomas.end() ? 0.0 : 10000.0 * static_cast<double>(idioma - kIdiomas.begin());
+}
+
+std::string Aviso(std::string_view seccion, std::string_view clave, const std::string& texto, int motivo,
+                  const std::string& vale) {
+  return TextoIni(seccion) + " " + TextoIni(clave) + "=" + texto + ": " + Texto(motivo) + " " + vale;
+}
+
+/// The key of ours that stands there with a slip of the pen or two, names of few letters with one at most.
+const EntradaIni* Parecida(const std::vector<EntradaIni>& nuestras, const EntradaIni& escrita) {
+  constexpr std::size_t kCorta = 4;
+  const EntradaIni* parecida = nullptr;
+  for (const EntradaIni& nuestra : nuestras) {
+    const int erratas = Erratas(escrita.seccion, nuestra.seccion) + Erratas(escrita.clave, nuestra.clave);
+    if (erratas == 0) return nullptr;
+    if (erratas <= (nuestra.clave.size() > kCorta ? 2 : 1)) parecida = &nuestra;
+  }
+  return parecida;
+}
+
+void Lee(const std::string& contenido, std::vector<std::string>& avisos) {
+  const auto entradas = EntradasIni(contenido);
+  const auto idioma = LeeIni(entradas, "LANGUAGE", "Language");
+  estado.dIdioma = LeeIdioma(idioma.value_or(""));
+  if (idioma && std::ranges::find(kIdiomas, Mayusculas(Recorta(*idioma))) == kIdiomas.end()) {
+    avisos.push_back(Aviso("LANGUAGE", "Language", *idioma, texto::kValorMalo, std::string(kIdiomas[0])));
+  }
+  DetectaComa();
+  estado.sRutaDuct = LeeIni(entradas, "DUCT", "Path").value_or("");
+  std::vector<EntradaIni> nuestras(std::begin(kTextos), std::end(kTextos));
+  std::vector<std::string> valen{std::string(kIdiomas[static_cast<std::size_t>(estado.dIdioma / 10000)]),
+                                 estado.sRutaDuct};
+  for (const Clave& clave : kClaves) {
+    const auto texto = LeeIni(entradas, clave.seccion, clave.nombre);
+    nuestras.push_back({clave.seccion, clave.nombre, {}});
+    valen.push_back(TextoDeNumero(clave.pone(NumeroIzquierda(texto.value_or("")))));
+    if (texto && !TieneSentido(clave, *texto)) {
+      avisos.push_back(Aviso(clave.seccion, clave.nombre, *texto, texto::kValorMalo, valen.back()));
+    }
+  }
+  for (const EntradaIni& entrada : entradas) {
+    if (const EntradaIni* nuestra = Parecida(nuestras, entrada)) {
+      const std::string vale =
+          std::string(nuestra->clave) + "=" + valen[static_cast<std::size_t>(nuestra - nuestras.data())];
+      avisos.push_back(Aviso(entrada.seccion, entrada.clave, TextoIni(entrada.valor), texto::kClaveMala, vale));
+    }
+  }
+}
+
+/// A program that writes the file anew empties it first: what has just changed is read again until it has come to rest.
+/// A file is empty a little before it is newer.
+std::string LeeQuieta(std::error_code& fallo) {
+  using std::chrono_literals::operator""ms;
+  constexpr std::size_t kMaximo = 1 << 20;
+  constexpr int kIntentos = 100;
+  for (int i = 0; i < kIntentos; ++i) {
+    const auto escrita = fs::last_write_time(estado.sRutaIni, fallo);
+    if (fallo) return {};
+    const auto edad = fs::file_time_type::clock::now() - escrita;
+    const auto largo = fs::file_size(estado.sRutaIni, fallo);
+    auto contenido = LeeFichero(estado.sRutaIni, fallo, kMaximo);
+    if (!contenido) return {};
+    const bool quieta = (edad > 20ms || edad < -20ms) && contenido->size() == largo && (largo > 0 || i > 0);
+    if (quieta && fs::last_write_time(estado.sRutaIni, fallo) == escrita && !fallo) return std::move(*contenido);
+    std::this_thread::sleep_for(10ms);
+  }
+  fallo = std::make_error_code(std::errc::text_file_busy);
+  return {};
+}
+
+}  // namespace
+
+LecturaConfiguracion LeeConfiguracion() {
+  LecturaConfiguracion lectura;
+  Lee(LeeQuieta(lectura.fallo), lectura.avisos);
+  return lectura;
+}
+
+void DetectaComa() {
+  // A locale object of its own: the process's locale is shared by all threads and stays as it is.
+  errno = 0;
+  const locale_t local = newlocale(LC_NUMERIC_MASK, "", nullptr);
+  if (local == nullptr && errno == ENOMEM) throw std::bad_alloc();
+  estado.bComaDecimal = local != nullptr && std::string_view(nl_langinfo_l(RADIXCHAR, local)) == ",";
+  if (local != nullptr) freelocale(local);
+}
+
+}  // namespace duktores
