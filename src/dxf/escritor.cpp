@@ -99,12 +99,19 @@ void AnadeCp1252(std::string& destino, std::string_view utf8) {
 Guardado Compone(std::string_view plantilla, const std::vector<Reemplazo>& reemplazos, std::string_view entidades,
                  std::string& fichero) {
   fichero.reserve(2 * plantilla.size() + entidades.size());
+  constexpr std::string_view kEntidades = "ENTITIES";
+  // Capitals are as long as what they stand for, and few lines are as long as a mark.
+  const auto cabe = [&](std::string_view linea) {
+    const auto tanto = [&](const Reemplazo& r) { return r.marca.size() == linea.size(); };
+    return linea.size() == kEntidades.size() || std::ranges::any_of(reemplazos, tanto);
+  };
   Copiadora copiadora(plantilla, fichero);
   std::string_view linea;
   while (copiadora.Lee(linea)) {
     copiadora.Escribe(linea);
+    if (!cabe(linea)) continue;
     const std::string marca = Mayusculas(linea);
-    if (marca == "ENTITIES") {
+    if (marca == kEntidades) {
       AnadeCp1252(fichero, entidades);
       bool cerrado = false, acabado = false;
       while (copiadora.Lee(linea)) {
