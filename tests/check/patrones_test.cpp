@@ -204,7 +204,8 @@ TEST(Dobleces, AreThoseOfClosedForms) {
   const auto dobleces = [](const Pieza& pieza) {
     const Solido solido = SolidoDe(pieza);
     std::vector<double> grados;
-    for (const Linea& l : DesarrolloDe(pieza, solido).patron.formas[0].lineas) {
+    const Patron hoja = DesarrolloDe(pieza, solido).patron;
+    for (const Linea& l : hoja.formas[0].lineas) {
       const auto doblez = DoblezDe(solido, l);
       EXPECT_EQ(doblez.has_value(), l.clase == Clase::doblez);
       if (!doblez) continue;
