@@ -21,8 +21,11 @@ void GuardaIniciales(const Pieza& pieza) {
     e.dRadioEspIni = arriba.r(1);
     return;
   }
-  e.dR11Ini = arriba.r(1);
-  if (pieza.tipo != TipoPieza::esp4) std::tie(e.dR11Ini, e.dR12Ini, e.dR13Ini, e.dR14Ini) = RadiosDe(arriba.r);
+  if (pieza.tipo == TipoPieza::esp4) {
+    e.dR11Ini = arriba.r(1);
+  } else {
+    std::tie(e.dR11Ini, e.dR12Ini, e.dR13Ini, e.dR14Ini) = RadiosDe(arriba.r);
+  }
   if (pieza.tipo != TipoPieza::esp5) std::tie(e.dR21Ini, e.dR22Ini, e.dR23Ini, e.dR24Ini) = RadiosDe(abajo.r);
 }
 

@@ -57,9 +57,7 @@ Veredicto Juzga(const Pieza& pieza, const Solido& solido, const Patron& patron) 
   Pieza exacta = pieza;
   exacta.regla = Regla::exacta;
   const Solido suyo = SolidoDe(exacta);
-  Veredicto otro = Comprueba(suyo, DesarrolloDe(exacta, suyo).patron, ToleranciaPatron());
-  AnotaImposibles(otro, exacta);
-  veredicto.curaExacta = otro.Cierto();
+  veredicto.curaExacta = Juzga(exacta, suyo, DesarrolloDe(exacta, suyo).patron).Cierto();
   return veredicto;
 }
 

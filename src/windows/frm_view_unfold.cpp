@@ -192,8 +192,8 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   const Veredicto veredicto = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
   const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
-  if (!completo || !veredicto.Cierto())
-    LblEstado_->setStyleSheet("background: #c00000; color: white; font-weight: bold;");
+  const bool bien = completo && veredicto.Cierto();
+  LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
   LblEstado_->setToolTip(linea);

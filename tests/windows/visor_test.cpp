@@ -104,6 +104,8 @@ TEST_F(Visor, AFalsePatternIsToldAndATrueOne) {
     QTest::keyClick(&otro, Qt::Key_F7);
     Arrastra(*lienzo, Qt::RightButton, {300, 300}, {340, 250});
     EXPECT_EQ(lienzo->grab().toImage(), desarrollo) << "a flat pattern stays as seen from above";
+    Pulsa(otro, "CmdExacto");
+    EXPECT_EQ(veredicto.styleSheet().contains("background"), exacto) << "the other rule's own verdict";
   }
 }
 
