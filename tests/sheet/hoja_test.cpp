@@ -151,7 +151,9 @@ void ExpectAparte(const EWdraw& axew, std::vector<std::size_t> dibujado) {
     }
     if (caja.Vacia()) continue;
     EXPECT_GT(caja.minimo.x, libre);
-    EXPECT_TRUE(hasta == dibujado.front() || std::abs(caja.minimo.y) < kPanel) << caja.minimo.y;
+    // An apex far off, where nearly parallel elements meet, moves a little with its place.
+    const double alto = caja.maximo.y - caja.minimo.y, margen = kPanel + 1e-4 * alto;
+    EXPECT_TRUE(hasta == dibujado.front() || std::abs(caja.minimo.y) < margen) << caja.minimo.y << " of " << alto;
     libre = caja.maximo.x;
   }
 }
