@@ -22,8 +22,10 @@ void PreparaProceso() {
 
 LecturaConfiguracion Arranca(std::string_view ejecutable, std::string_view rutaIni) {
   Plataforma* const plataforma = estado.plataforma;
+  const std::string propia = estado.sRutaPropia;
   estado = EstadoPrograma{};
   estado.plataforma = plataforma;
+  estado.sRutaPropia = propia;
 
   constexpr std::size_t kLargoCarpeta = 5;  // four letters and the separator
   const std::string_view carpeta = ejecutable.substr(0, ejecutable.rfind('/') + 1);

@@ -14,7 +14,7 @@ void PreparaProceso();
 
 /// Makes `estado` anew for the executable at `ejecutable` (a full path): places, host window, language, unit,
 /// configuration. The executable lies in a folder of four letters directly below the installation root. A non-empty
-/// `rutaIni` takes the place of the installation's Config/Config.ini. Only `estado.plataforma` is kept.
+/// `rutaIni` takes the place of the installation's Config/Config.ini. Only `estado.plataforma` and `estado.sRutaPropia` are kept.
 LecturaConfiguracion Arranca(std::string_view ejecutable, std::string_view rutaIni = {});
 
 /// Whether what `Arranca` has read will do: with another `iFibra` than 1, 2 or 3 the dialogs store no dimension at all.

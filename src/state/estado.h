@@ -23,6 +23,7 @@ struct EstadoPrograma {
   std::string sRutaPrograma;  ///< folder of the executable: Images, Template and the scratch file lie here
   std::string sRutaBase;      ///< installation root
   std::string sRutaIni;       ///< configuration file
+  std::string sRutaPropia;        ///< the user's own file; empty: nothing is kept between two runs
   Ventana hVentanaHost = 0;   ///< foreground window at start
   bool bComaDecimal = false;  ///< the system's decimal separator is a comma
 

@@ -21,6 +21,15 @@ std::string_view SinComillas(std::string_view valor) {
   return encerrado && (valor.front() == '"' || valor.front() == '\'') ? valor.substr(1, valor.size() - 2) : valor;
 }
 
+/// As a line of a file holds it, so that it is read as it is.
+std::string Encierra(std::string_view valor) {
+  std::string linea(valor);
+  std::ranges::replace_if(
+      linea, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  const bool pelado = Recorta(linea) == linea && SinComillas(linea) == linea;
+  return pelado ? linea : '"' + linea + '"';
+}
+
 }  // namespace
 
 std::string TextoIni(std::string_view bytes) {
@@ -52,11 +61,37 @@ std::vector<EntradaIni> EntradasIni(std::string_view contenido) {
   return entradas;
 }
 
-std::optional<std::string> LeeIni(const std::vector<EntradaIni>& entradas, std::string_view seccion,
-                                  std::string_view clave) {
+const EntradaIni* BuscaIni(const std::vector<EntradaIni>& entradas, std::string_view seccion, std::string_view clave) {
   const auto entrada = std::ranges::find_if(
       entradas, [&](const EntradaIni& e) { return IgualSinCaja(e.seccion, seccion) && IgualSinCaja(e.clave, clave); });
-  return entrada == entradas.end() ? std::nullopt : std::optional(TextoIni(entrada->valor));
+  return entrada == entradas.end() ? nullptr : &*entrada;
+}
+
+std::optional<std::string> LeeIni(const std::vector<EntradaIni>& entradas, std::string_view seccion,
+                                  std::string_view clave) {
+  const EntradaIni* entrada = BuscaIni(entradas, seccion, clave);
+  return entrada ? std::optional(TextoIni(entrada->valor)) : std::nullopt;
+}
+
+std::string PonIni(std::string_view contenido, std::string_view seccion, std::string_view clave,
+                   std::string_view valor) {
+  const std::string linea = std::string(clave) + "=" + Encierra(valor);
+  const std::string_view finLinea = contenido.find("\r\n") == std::string_view::npos ? "\n" : "\r\n";
+  const auto lugar = [&](std::string_view parte) { return static_cast<std::size_t>(parte.data() - contenido.data()); };
+  const auto finDe = [&](std::size_t sitio) {
+    return std::min(contenido.find_first_of("\r\n", sitio), contenido.size());
+  };
+  std::string nuevo(contenido);
+  std::optional<std::size_t> detras;
+  for (const EntradaIni& e : EntradasIni(contenido)) {
+    if (!IgualSinCaja(e.seccion, seccion)) continue;
+    const std::size_t inicio = lugar(e.clave), fin = finDe(lugar(e.valor));
+    if (IgualSinCaja(e.clave, clave)) return nuevo.replace(inicio, fin - inicio, linea);
+    detras = fin;
+  }
+  if (detras) return nuevo.insert(*detras, std::string(finLinea) + linea);
+  if (!nuevo.empty() && nuevo.back() != '\n') nuevo += finLinea;
+  return ((((nuevo += '[') += seccion) += ']') += finLinea) + linea + std::string(finLinea);
 }
 
 int Erratas(std::string_view escrita, std::string_view clave) {

@@ -1,6 +1,7 @@
 // duktores: the catalogue of the duct transition pieces.
 
 #include <QApplication>
+#include <QStandardPaths>
 #include <cstdio>
 #include <new>
 #include <system_error>
@@ -44,6 +45,8 @@ int main(int argc, char** argv) {
 
   PlataformaQt plataforma;
   estado.plataforma = &plataforma;
+  estado.sRutaPropia =
+      QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString() + "/duktores.ini";
   LecturaConfiguracion lectura = Arranca(RutaEjecutable());
   const bool falta = lectura.fallo == std::errc::no_such_file_or_directory;
   if (lectura.fallo) lectura.avisos = {Texto(texto::kConfiguracion) + " " + estado.sRutaIni};

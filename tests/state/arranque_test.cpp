@@ -16,6 +16,7 @@
 #include "state/fichero.h"
 #include "state/guardado.h"
 #include "state/ini.h"
+#include "state/propio.h"
 
 namespace duktores {
 namespace {
@@ -173,6 +174,22 @@ TEST(Ini, Values) {
   const std::string casi(126, 'a');  // one character short of the longest value
   for (const char* cola : {"", "b"}) EXPECT_EQ(Valor("[s]\nk=" + casi + "é" + cola), casi + "é");
   EXPECT_EQ(Valor("[s]\nk=" + casi + "𝄞"), casi);
+}
+
+TEST_F(Arranque, TheUsersOwnFileKeepsValuesAndAllThatStandsBesideThem) {
+  EXPECT_EQ(LeePropio("SAVE", "Folder"), std::nullopt);
+  EXPECT_FALSE(PonPropio("SAVE", "Folder", "x"));  // a program without such a file
+  estado.sRutaPropia = (raiz_ / "home/duktores/duktores.ini").string();
+  const std::string carpeta = "/home/\xC3\xB1/" + std::string(200, 'a') + "/ \"b\" ";
+  ASSERT_TRUE(PonPropio("SAVE", "Folder", carpeta));
+  EXPECT_EQ(LeePropio("save", "FOLDER"), carpeta);
+  const std::string antes = "; mine\r\n[SAVE]\r\nFolder = a ; b\r\nOther=1\r\n\r\n[DUCT]\r\nBox=1";
+  ASSERT_TRUE(EscribeFichero(estado.sRutaPropia, antes));
+  EXPECT_TRUE(PonPropio("SAVE", "Folder", "c\nd") && PonPropio("SAVE", "New", "") && PonPropio("TransCR", "H", "'1'"));
+  EXPECT_EQ(LeeFichero(estado.sRutaPropia),
+            "; mine\r\n[SAVE]\r\nFolder=c d\r\nOther=1\r\nNew=\r\n\r\n[DUCT]\r\nBox=1\r\n[TransCR]\r\nH=\"'1'\"\r\n");
+  EXPECT_EQ(LeePropio("TransCR", "H"), "'1'");
+  EXPECT_FALSE((estado.sRutaPropia = raiz_.string(), PonPropio("SAVE", "Folder", "x")));
 }
 
 }  // namespace
