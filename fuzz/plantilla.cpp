@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "dxf/composicion.h"
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
 #include "state/estado.h"

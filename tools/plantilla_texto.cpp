@@ -44,10 +44,19 @@ constexpr Par kLineaVacia[]    = {{70, "0"}, {3, ""}, {72, "65"}, {73, "0"}, {40
 constexpr Par kLineaContinua[] = {{70, "0"}, {3, "Solid line"}, {72, "65"}, {73, "0"}, {40, "0.0"}};
 constexpr Registro kTiposLinea[] = {
     {"14", "ByBlock", kLineaVacia}, {"15", "ByLayer", kLineaVacia}, {"16", "Continuous", kLineaContinua}};
+// Lengths in millimetres; a file in inches scales them.
+constexpr Par kLineaTrazos[] = {{70, "0"}, {3, "Dashed __ __ __"}, {72, "65"}, {73, "2"}, {40, "7.5"},
+    {49, "5.0"}, {74, "0"}, {49, "-2.5"}, {74, "0"}};
+constexpr Registro kTiposLineaCorte[] = {
+    kTiposLinea[0], kTiposLinea[1], kTiposLinea[2], {"17A", "Dashed", kLineaTrazos}};
 
 // Colour 7 shows on a light and on a dark background.
 constexpr Par kCapa[] = {{70, "0"}, {62, "7"}, {6, "Continuous"}, {370, "-3"}, {390, kMarcador}};
 constexpr Registro kCapas[] = {{"10", "0", kCapa}, {"30", "DUCT", kCapa}};
+constexpr Par kCapaDoblez[] = {{70, "0"}, {62, "3"}, {6, "Dashed"}, {370, "-3"}, {390, kMarcador}};
+constexpr Par kCapaMarca[]  = {{70, "0"}, {62, "1"}, {6, "Continuous"}, {370, "-3"}, {390, kMarcador}};
+constexpr Registro kCapasCorte[] = {{"10", "0", kCapa}, {"30", "CUT", kCapa}, {"32", "BEND_UP", kCapaDoblez},
+    {"33", "BEND_DOWN", kCapaDoblez}, {"34", "MARK", kCapaMarca}};
 
 constexpr Par kEstiloArial[] = {
     {70, "0"}, {40, "0.0"}, {41, "1.0"}, {50, "0.0"}, {71, "0"}, {42, "2.5"}, {3, "Arial.ttf"}, {4, ""},
@@ -186,7 +195,8 @@ std::string CabeceraConSemilla() {
 
 }  // namespace
 
-std::string TextoPlantilla() {
+std::string TextoPlantilla(Plantilla cual) {
+  const bool corte = cual == Plantilla::corte;
   estado.ExtMinX = estado.ExtMinY = estado.ExtMinZ = estado.ExtMaxZ = 0;
   estado.ExtMaxX = 12;
   estado.ExtMaxY = 9;
@@ -197,7 +207,11 @@ std::string TextoPlantilla() {
   e.CierraSeccion();
   e.AbreSeccion("TABLES");
   e.AnadeTexto(cHeader().DxfTableVPORT());
-  for (const Tabla& tabla : kTablas) e.AnadeTabla(tabla);
+  for (Tabla tabla : kTablas) {
+    if (corte && tabla.nombre == "LTYPE") tabla.registros = kTiposLineaCorte;
+    if (corte && tabla.nombre == "LAYER") tabla.registros = kCapasCorte;
+    e.AnadeTabla(tabla);
+  }
   e.CierraSeccion();
   e.AbreSeccion("BLOCKS");
   e.Anade(kDefinicionBloques);

@@ -6,6 +6,7 @@
 #include <istream>
 #include <nlohmann/json.hpp>
 
+#include "shell/nombres.h"
 #include "state/caracteres.h"
 
 namespace duktores {
@@ -238,25 +239,50 @@ void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& tom
 }
 
 void Nombres::Anota(const Trabajo& trabajo) {
-  const auto [nombre, nuevo] = repetidos_.try_emplace(SinCaja(trabajo.nombre), false);
-  if (!nuevo) nombre->second = true;
+  const auto anota = [](Repetidos& nombres, const std::string& nombre) {
+    const auto anotado = nombres.try_emplace(nombre, false);
+    if (!anotado.second) anotado.first->second = true;
+  };
+  anota(repetidos_, SinCaja(trabajo.nombre));
+  if (adjuntos_.cortes) anota(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)));
+}
+
+// NAME-1of2 or NAME-cut.
+bool Nombres::EsDeCorte(const std::string& nombre) const {
+  const std::size_t guion = nombre.rfind('-');
+  if (guion == std::string::npos || !portatiles_.contains(nombre.substr(0, guion))) return false;
+  const std::string cola = nombre.substr(guion + 1);
+  const std::size_t de = cola.find("of");
+  const auto numero = [](std::string_view cifras) {
+    return !cifras.empty() && cifras.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  return cola == "cut" || (de != std::string::npos && numero(cola.substr(0, de)) && numero(cola.substr(de + 2)));
 }
 
 void Nombres::Revisa(Trabajo& trabajo) const {
   const std::string nombre = SinCaja(trabajo.nombre);
-  const auto donde = " (line " + std::to_string(trabajo.linea) + ").";
-  const auto anotado = repetidos_.find(nombre);
-  if (anotado != repetidos_.end() && anotado->second) {
-    trabajo.rechazo = {"name", "the name stands on another job too" + donde};
-  } else if (solidos_ && nombre.ends_with(kSufijoSolido) &&
-             repetidos_.contains(nombre.substr(0, nombre.size() - kSufijoSolido.size()))) {
-    trabajo.rechazo = {"name", "the picture of another job's solid has that name" + donde};
+  const auto esta = [](const Repetidos& nombres, const std::string& cual) {
+    const auto anotado = nombres.find(cual);
+    return anotado != nombres.end() && anotado->second;
+  };
+  const bool deSolido = adjuntos_.solidos && nombre.ends_with(kSufijoSolido) &&
+                        repetidos_.contains(nombre.substr(0, nombre.size() - kSufijoSolido.size()));
+  const char* motivo = nullptr;
+  if (esta(repetidos_, nombre)) {
+    motivo = "the name stands on another job too";
+  } else if (deSolido) {
+    motivo = "the picture of another job's solid has that name";
+  } else if (adjuntos_.cortes && esta(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)))) {
+    motivo = "the cut files of another job would have the same names";
+  } else if (adjuntos_.cortes && EsDeCorte(nombre)) {
+    motivo = "a cut file of another job has that name";
   }
+  if (motivo) trabajo.rechazo = {"name", std::string(motivo) + " (line " + std::to_string(trabajo.linea) + ")."};
 }
 
-std::vector<Trabajo> LeeLista(std::string_view json, bool solidos) {
+std::vector<Trabajo> LeeLista(std::string_view json, Adjuntos adjuntos) {
   std::vector<Trabajo> trabajos;
-  Nombres nombres(solidos);
+  Nombres nombres(adjuntos);
   const auto lee = [&](std::span<char> sitio) {
     const std::size_t n = json.copy(sitio.data(), sitio.size());
     json.remove_prefix(n);

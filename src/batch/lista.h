@@ -34,26 +34,34 @@ struct Trabajo {
 /// Hands on each job of a list as it is read. Throws ErrorLista, which tells line and job.
 void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma);
 
+/// Which files are made of a job beside its drawing: no job may have their names.
+struct Adjuntos {
+  bool solidos = false;  ///< pictures of the solids
+  bool cortes = false;   ///< cut files and lists of bends
+};
+
 /// The names of a list. Nobody can tell which of two pieces the drawing of one name should be, and many disks don't
 /// tell names apart that differ by case or by the way in which an accent is written.
 class Nombres {
  public:
-  /// `solidos` says that pictures of the solids are made too, whose names no job may have.
-  explicit Nombres(bool solidos = false) : solidos_(solidos) {}
+  explicit Nombres(Adjuntos adjuntos = {}) : adjuntos_(adjuntos) {}
   void Anota(const Trabajo& trabajo);
   /// Refuses a job whose name is another one's too.
   void Revisa(Trabajo& trabajo) const;
 
  private:
-  bool solidos_;
-  std::unordered_map<std::string, bool> repetidos_;  // by name without case: whether it is there twice
+  bool EsDeCorte(const std::string& nombre) const;
+
+  using Repetidos = std::unordered_map<std::string, bool>;  // by name without case: whether it is there twice
+  Adjuntos adjuntos_;
+  Repetidos repetidos_, portatiles_;  // the latter as cut files have them
 };
 
 /// Behind the name of a job it makes that of the picture of its solid.
 inline constexpr std::string_view kSufijoSolido = "-3d";
 
 /// A whole list that is in memory.
-std::vector<Trabajo> LeeLista(std::string_view json, bool solidos = false);
+std::vector<Trabajo> LeeLista(std::string_view json, Adjuntos adjuntos = {});
 
 /// One line of what may hold anything: control characters and line separators become blanks.
 std::string EnUnaLinea(const std::string& texto);

@@ -11,11 +11,12 @@
 #include <system_error>
 
 #include "batch/fuente_lista.h"
+#include "batch/informe.h"
 #include "batch/lista.h"
 #include "batch/obreros.h"
 #include "batch/ordenes.h"
 #include "batch/senales.h"
-#include "dxf/escritor.h"
+#include "dxf/composicion.h"
 #include "piece/numeros_texto.h"
 #include "state/arranque.h"
 #include "state/estado.h"
@@ -45,28 +46,36 @@ std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
                     (resultado.nota.empty() ? "" : ", note: " + resultado.nota));
 }
 
-/// Writes the answers as they come, and on a terminal how far the work is.
+/// Writes the answers as they come, and on a terminal how far the work is; at the end the report.
 class Respuestas {
  public:
-  explicit Respuestas(std::size_t cuantas) : cuantas_(cuantas) {}
+  Respuestas(std::size_t cuantas, const Ordenes& ordenes) : cuantas_(cuantas), rutaInforme_(ordenes.informe) {
+    if (!rutaInforme_.empty()) informe_.emplace(rutaInforme_, ordenes.opciones.habito);
+  }
   void Escribe(const Trabajo& trabajo, const Resultado& resultado) {
     if (terminal_) std::cerr << "\r\033[K" << std::flush;
     std::cout << Linea(trabajo, resultado) << '\n' << std::flush;
-    rechazado_ = rechazado_ || resultado.rechazo.has_value();
+    if (informe_) informe_->Anade(trabajo, resultado);
+    rechazado_ = rechazado_ || resultado.rechazo || resultado.sinCorte;
     ++hechas_;
     if (terminal_ && hechas_ < cuantas_) std::cerr << hechas_ << " of " << cuantas_ << std::flush;
   }
-  bool Ninguna() const { return hechas_ == 0; }
-  int Salida() const {
-    if (std::cout) return rechazado_ ? kAlgoRechazado : kTodoEscrito;
-    Avisa("the answers can't be written");
-    return kAlgoRechazado;
+  /// The exit status, for which the list may have given another reason than its answers.
+  int Acaba(int salida = kTodoEscrito) {
+    if (!std::cout) Avisa("the answers can't be written");
+    const Guardado guardado = informe_ ? informe_->Guarda() : Guardado{};
+    if (!guardado) Avisa(TextoNoGuardado(rutaInforme_, guardado));
+    const bool bien = std::cout && guardado && !rechazado_;
+    return salida != kTodoEscrito || bien ? salida : kAlgoRechazado;
   }
+  bool Ninguna() const { return hechas_ == 0; }
 
  private:
   const bool terminal_ = isatty(STDERR_FILENO) != 0;
   std::size_t cuantas_, hechas_ = 0;
   bool rechazado_ = false;
+  const std::string& rutaInforme_;
+  std::optional<Informe> informe_;
 };
 
 void Configura(const Ordenes& ordenes) {
@@ -82,7 +91,12 @@ void Configura(const Ordenes& ordenes) {
 
 void PreparaSalida(const Opciones& opciones) {
   if (opciones.soloComprueba) return;
-  if (const Guardado marco = RevisaPlantilla(); !marco) throw NadaHecho(Texto(texto::kPlantilla) + " " + marco.detalle);
+  std::vector<PlantillaDxf> plantillas{kPlantillaDibujo};
+  if (opciones.cortes) plantillas.push_back(kPlantillaCorte);
+  for (const PlantillaDxf& plantilla : plantillas) {
+    const Guardado marco = RevisaPlantilla(plantilla);
+    if (!marco) throw NadaHecho(Texto(texto::kPlantilla) + " " + marco.detalle);
+  }
   if (const int error = HazCarpeta(opciones.carpeta)) {
     throw NadaHecho("can't make the output folder " + opciones.carpeta + ": " + std::strerror(error));
   }
@@ -91,7 +105,7 @@ void PreparaSalida(const Opciones& opciones) {
 /// Works the jobs of the list's part on several threads, each with its own program state.
 int TrabajaTodos(FuenteLista& fuente, const Ordenes& ordenes, const Nombres& nombres, std::size_t cuantos) {
   const EstadoPrograma configurado = estado;
-  Respuestas respuestas(cuantos);
+  Respuestas respuestas(cuantos, ordenes);
   Obreros obreros(
       ordenes.hilos,
       [&](const Trabajo& trabajo) -> Resultado {
@@ -114,21 +128,22 @@ int TrabajaTodos(FuenteLista& fuente, const Ordenes& ordenes, const Nombres& nom
     fuente.ExigeIgual();
   } catch (const Interrumpido&) {
     obreros.Acaba();
+    respuestas.Acaba();
     throw;
   } catch (const std::runtime_error& motivo) {
     // The list was sound a moment ago.
     obreros.Acaba();
     Avisa(ordenes.lista + ": " + motivo.what());
-    return respuestas.Ninguna() ? kNadaHecho : kAlgoRechazado;
+    return respuestas.Acaba(respuestas.Ninguna() ? kNadaHecho : kAlgoRechazado);
   }
-  return respuestas.Salida();
+  return respuestas.Acaba();
 }
 
 int Ejecuta(const Ordenes& ordenes) {
   Configura(ordenes);
   try {
     FuenteLista fuente(ordenes.lista, ordenes.maximoLista);
-    Nombres nombres(ordenes.opciones.solido);
+    Nombres nombres({.solidos = ordenes.opciones.solido, .cortes = ordenes.opciones.cortes});
     std::size_t cuantos = 0;
     RecorreLista(fuente.DesdeElPrincipio(), [&](Trabajo&& trabajo) {
       nombres.Anota(trabajo);

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <thread>
 
+#include "batch/informe.h"
+
 namespace duktores {
 
 namespace {
@@ -25,7 +27,7 @@ bool LeeParte(std::string_view texto, Parte& parte) {
 }  // namespace
 
 std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
-  bool png = false, svg = false, pdf = false;
+  bool png = false, svg = false, pdf = false, coma = false;
   Opciones& opciones = ordenes.opciones;
   ordenes.hilos = std::max(1U, std::thread::hardware_concurrency());
   CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
@@ -41,7 +43,16 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   app.add_flag("--svg", svg, "the same as SVG");
   app.add_flag("--pdf", pdf, "the same as PDF");
   app.add_flag("--solid", opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
-  app.add_flag("--check", opciones.soloComprueba, "only check the jobs, with --strict their patterns; write nothing");
+  app.add_flag("--cut", opciones.cortes, "a cut file of each shape, NAME-1of2.dxf, as section MACHINE says");
+  app.add_flag("--force", opciones.fuerza, "cut files also of patterns that aren't true and shapes that aren't sound");
+  app.add_flag("--bends", opciones.dobleces, "a list of the bends of each piece, NAME-bends.csv");
+  app.add_option("--report", ordenes.informe, "the figures of all shapes of the list as FILE.csv or FILE.json")
+      ->type_name("FILE")
+      ->check(
+          [](const std::string& ruta) -> std::string { return EsInforme(ruta) ? "" : "must end in .csv or .json"; });
+  app.add_flag("--comma", coma, "tables with a decimal comma, and semicolons between fields");
+  app.add_flag("--check", opciones.soloComprueba, "only check the jobs, with --strict their patterns; write nothing")
+      ->excludes("--cut", "--bends", "--report");
   app.add_flag("--strict", opciones.estricto,
                "refuse a piece whose pattern isn't true to its solid, and a configuration with a faulty key");
   app.add_flag("--exact", ordenes.exacto, "develop exactly, whatever the configuration says");
@@ -63,6 +74,8 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
   }
+  opciones.informe = !ordenes.informe.empty();
+  if (coma) opciones.habito = kConComa;
   if (png) opciones.imagenes.push_back(Formato::png);
   if (svg) opciones.imagenes.push_back(Formato::svg);
   if (pdf) opciones.imagenes.push_back(Formato::pdf);

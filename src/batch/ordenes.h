@@ -18,7 +18,7 @@ struct Parte {
 };
 
 struct Ordenes {
-  std::string lista, configuracion;
+  std::string lista, configuracion, informe;
   Opciones opciones;
   bool exacto = false;
   unsigned hilos = 1;

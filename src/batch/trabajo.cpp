@@ -7,6 +7,7 @@
 #include "dxf/escritor.h"
 #include "piece/numeros_texto.h"
 #include "sheet/hoja.h"
+#include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/texto_veredicto.h"
@@ -91,10 +92,9 @@ std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, co
   return std::nullopt;
 }
 
-// Unfolds the accepted piece, which has this solid, and holds it against that.
-std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Solido& solido, Veredicto& veredicto,
-                                 PlataformaLote& plataforma) {
-  Desarrollo desarrollo = DesarrolloDe(*estado.pieza, solido);
+// Places and draws what the accepted piece, which has this solid, unfolds to, and holds it against that.
+std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Solido& solido, Desarrollo desarrollo,
+                                 Veredicto& veredicto, PlataformaLote& plataforma) {
   const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : Reparte(desarrollo.patron, FormatoDeEstado());
   Puntos puntos(sitios, plataforma.mensaje);
   axew.PonVista(&puntos);
@@ -125,33 +125,95 @@ std::string Sufijo(Formato formato) {
   return ".pdf";
 }
 
-// Drawing and pictures; what isn't written is told by its place, and that the drawing stands if it does.
-void Guarda(const EWdraw& axew, const Solido& solido, const std::string& base, const Opciones& opciones,
-            Resultado& resultado) {
-  const std::string dxf = base + ".dxf";
-  const auto anota = [&](const std::string& ruta, const Guardado& guardado) {
-    const std::string restos = TextoRestos(guardado);
-    if (!restos.empty()) resultado.aviso += (resultado.aviso.empty() ? "" : ". ") + restos;
+// The files of one piece; what isn't written is told by its place, and that the drawing stands if it does.
+class Salida {
+ public:
+  Salida(const Trabajo& trabajo, const Opciones& opciones, Resultado& resultado)
+      : nombre_(trabajo.nombre),
+        base_(std::filesystem::path(opciones.carpeta) / trabajo.nombre),
+        opciones_(opciones),
+        resultado_(resultado) {}
+
+  bool Dibujo() {
+    estado.oDXF->InsertEntities(estado.oDrawing);
+    return Anota(Dxf(), estado.oDXF->Save(Dxf()));
+  }
+  bool Imagenes(const EWdraw& axew, std::string_view sufijo = "") {
+    return std::ranges::all_of(opciones_.imagenes, [&](Formato formato) {
+      const std::string imagen = base_ + std::string(sufijo) + Sufijo(formato);
+      return Anota(imagen, GuardaImagen(axew, imagen, formato));
+    });
+  }
+  bool Solidos(const Solido& solido) {
+    if (!opciones_.solido || opciones_.imagenes.empty()) return true;
+    EWdraw vista;
+    DibujaSolido(vista, solido);
+    vista.EwViewDirection(1, -1, 1);
+    return Imagenes(vista, kSufijoSolido);
+  }
+  bool Maquina(Cortes& cortes, const Veredicto& veredicto) {
+    std::string ruta;
+    std::vector<std::string> escritos;
+    const Cuales cuales = opciones_.fuerza ? Cuales::todas : Cuales::sanas;
+    if (opciones_.cortes) {
+      const Guardado guardado = GuardaCortes(cortes, veredicto, cuales, opciones_.carpeta, escritos, ruta);
+      if (!Anota(ruta, guardado)) return false;
+    }
+    const std::string faltas = TextoSinCorte(cortes, veredicto);
+    resultado_.sinCorte = opciones_.cortes && !opciones_.fuerza && !faltas.empty();
+    if (resultado_.sinCorte) Avisa(faltas);
+    if (!opciones_.cortes) cortes.ficheros.assign(cortes.ficheros.size(), "");
+    if (!opciones_.dobleces) return true;
+    const std::string lista = std::filesystem::path(opciones_.carpeta) / FicheroDobleces(nombre_);
+    return Anota(lista, EscribeFichero(lista, ListaDobleces(cortes, opciones_.habito)));
+  }
+  std::string Dxf() const { return base_ + ".dxf"; }
+
+ private:
+  void Avisa(const std::string& texto) { resultado_.aviso += (resultado_.aviso.empty() ? "" : ". ") + texto; }
+  bool Anota(const std::string& ruta, const Guardado& guardado) {
+    if (const std::string restos = TextoRestos(guardado); !restos.empty()) Avisa(restos);
     if (guardado) return true;
-    const std::string queda = ruta == dxf ? "" : ". " + Texto(texto::kDibujoQueda) + " " + dxf;
-    resultado.rechazo = {"name", TextoNoGuardado(ruta, guardado) + queda};
+    const std::string queda = ruta == Dxf() ? "" : ". " + Texto(texto::kDibujoQueda) + " " + Dxf();
+    resultado_.rechazo = {"name", TextoNoGuardado(ruta, guardado) + queda};
     return false;
-  };
-  estado.oDXF->InsertEntities(estado.oDrawing);
-  if (!anota(dxf, estado.oDXF->Save(dxf))) return;
-  for (const Formato formato : opciones.imagenes) {
-    const std::string imagen = base + Sufijo(formato);
-    if (!anota(imagen, GuardaImagen(axew, imagen, formato))) return;
   }
-  resultado.fichero = dxf;
-  if (!opciones.solido || opciones.imagenes.empty()) return;
-  EWdraw vista;
-  DibujaSolido(vista, solido);
-  vista.EwViewDirection(1, -1, 1);
-  for (const Formato formato : opciones.imagenes) {
-    const std::string imagen = base + std::string(kSufijoSolido) + Sufijo(formato);
-    if (!anota(imagen, GuardaImagen(vista, imagen, formato))) return;
+
+  const std::string& nombre_;
+  std::string base_;
+  const Opciones& opciones_;
+  Resultado& resultado_;
+};
+
+std::vector<FilaInforme> FilasInforme(const Cortes& cortes, const Veredicto& veredicto) {
+  const FormatoHoja formato = FormatoDeEstado();
+  std::vector<FilaInforme> filas;
+  for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
+    const Recorte& recorte = cortes.partes[i].recorte;
+    FilaInforme& fila = filas.emplace_back();
+    fila.forma = TextoForma(recorte.forma);
+    fila.fichero = cortes.ficheros[i];
+    fila.espesor = formato.espesor;
+    fila.caja = recorte.caja;
+    fila.area = recorte.area;
+    fila.peso = Peso(recorte.area, formato);
+    fila.largo = recorte.largo;
+    fila.dobleces = static_cast<int>(recorte.dobleces.size());
+    fila.desviacion = veredicto.desviacion;
+    fila.veredicto = veredicto.Cierto() ? "ok" : TextoVeredicto(veredicto);
   }
+  return filas;
+}
+
+// What is written of a piece that lies on the control; `patron` is its pattern as it was made.
+void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, const Veredicto& veredicto,
+            const Trabajo& trabajo, const Opciones& opciones, Resultado& resultado) {
+  Salida salida(trabajo, opciones, resultado);
+  if (!salida.Dibujo() || !salida.Imagenes(axew)) return;
+  resultado.fichero = salida.Dxf();
+  if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
+  Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
+  if (salida.Maquina(cortes, veredicto) && opciones.informe) resultado.filas = FilasInforme(cortes, veredicto);
 }
 
 }  // namespace
@@ -167,15 +229,18 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   Resultado resultado;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && (!opciones.soloComprueba || opciones.estricto)) {
-    const std::string base = std::filesystem::path(opciones.carpeta) / trabajo.nombre;
     const Solido solido = SolidoDe(*estado.pieza);
     EWdraw axew;
     Veredicto veredicto;
-    resultado.rechazo = Despliega(axew, trabajo, solido, veredicto, plataforma);
+    Desarrollo desarrollo = DesarrolloDe(*estado.pieza, solido);
+    const Patron patron = opciones.QuierePartes() ? desarrollo.patron : Patron{};
+    resultado.rechazo = Despliega(axew, trabajo, solido, std::move(desarrollo), veredicto, plataforma);
     if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
     if (veredicto.Cierto()) resultado.nota = TextoNotas(veredicto);
     if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
-    if (!resultado.rechazo && !opciones.soloComprueba) Guarda(axew, solido, base, opciones, resultado);
+    if (!resultado.rechazo && !opciones.soloComprueba) {
+      Guarda(axew, solido, patron, veredicto, trabajo, opciones, resultado);
+    }
   }
   estado.plataforma = nullptr;
   return resultado;

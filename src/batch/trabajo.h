@@ -8,21 +8,41 @@
 
 #include "batch/lista.h"
 #include "paint/pintura.h"
+#include "shell/csv.h"
 
 namespace duktores {
 
 struct Opciones {
   std::string carpeta = ".";
   std::vector<Formato> imagenes;
-  bool solido = false;         ///< pictures of the solid too
-  bool soloComprueba = false;  ///< write nothing
-  bool estricto = false;       ///< a pattern that isn't true is refused
+  bool solido = false;                    ///< pictures of the solid too
+  bool cortes = false, dobleces = false;  ///< cut files and the list of bends too
+  bool fuerza = false;                    ///< cut files also of what isn't true or sound
+  HabitoCsv habito{};                     ///< of the list of bends
+  bool informe = false;                   ///< the figures of the shapes are wanted
+  bool soloComprueba = false;             ///< write nothing
+  bool estricto = false;                  ///< a pattern that isn't true is refused
+
+  bool QuierePartes() const { return cortes || dobleces || informe; }
+};
+
+/// A shape as the office wants to know it.
+struct FilaInforme {
+  std::string forma, fichero;  ///< its name; its cut file, if there is one
+  double espesor = 0;
+  Punto2 caja;                           ///< of the smallest rectangle around it, the longer side first
+  double area = 0, peso = 0, largo = 0;  ///< of the sheet, and of the cut
+  int dobleces = 0;
+  double desviacion = 0;
+  std::string veredicto;
 };
 
 /// What was written (empty with `soloComprueba`), or why not; and what is wrong with the pattern or with the file.
 struct Resultado {
   std::string fichero{};
   std::string aviso{}, nota{};
+  bool sinCorte = false;  ///< a cut file that was wanted isn't written
+  std::vector<FilaInforme> filas{};
   std::optional<Rechazo> rechazo{};
 };
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "geometry/planas.h"
+
 namespace duktores {
 
 namespace {
@@ -13,8 +15,6 @@ struct Lado {
   double yMin, yMax;
   std::size_t lugar;  // behind this vertex of the outline
 };
-
-double Vectorial2(Punto2 a, Punto2 b) { return a.x * b.y - a.y * b.x; }
 
 // Each end of one edge lies off the line of the other on its own side.
 bool Parte(const Lado& a, const Lado& b, double margen) {
@@ -61,34 +61,58 @@ class Sumas {
   std::vector<Suma> suma_;
 };
 
-}  // namespace
-
-double AnchoDe(const std::vector<Punto2>& contorno) { return Sumas(contorno).Ancho(); }
-
-// The edges enter from left to right; those that end before the newest begins leave.
-std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen, double ancho) {
-  std::optional<Sumas> sumas;
+// Whether `es` is true of some pair of edges whose boxes, widened by `margen`, meet. The edges enter from left to
+// right; those that end before the newest begins leave. An edge without length is none.
+template <class Es>
+bool AlgunPar(const std::vector<Punto2>& contorno, double margen, Es es) {
   std::vector<Lado> lados;
   for (std::size_t i = 0; i < contorno.size(); ++i) {
     Punto2 p = contorno[i], q = contorno[(i + 1) % contorno.size()];
     if (p == q) continue;
     if (p.x > q.x) std::swap(p, q);
-    lados.push_back({p, q, std::min(p.y, q.y), std::max(p.y, q.y), i});
+    lados.push_back({p, q, std::min(p.y, q.y) - margen, std::max(p.y, q.y) + margen, i});
   }
   std::ranges::sort(lados, {}, [](const Lado& l) { return l.p.x; });
   std::vector<const Lado*> abiertos;
   for (const Lado& nuevo : lados) {
-    std::erase_if(abiertos, [&](const Lado* l) { return l->q.x < nuevo.p.x; });
+    std::erase_if(abiertos, [&](const Lado* l) { return l->q.x + margen < nuevo.p.x; });
     for (const Lado* l : abiertos) {
-      if (l->yMax < nuevo.yMin || l->yMin > nuevo.yMax) continue;
-      if (!Parte(*l, nuevo, margen) || !Parte(nuevo, *l, margen)) continue;
-      if (!sumas) sumas.emplace(contorno);
-      const Punto2 X = Encuentro(*l, nuevo);
-      if (sumas->AnchoBucle(X, l->lugar, nuevo.lugar) > ancho) return X;
+      if (l->yMax >= nuevo.yMin && l->yMin <= nuevo.yMax && es(*l, nuevo)) return true;
     }
     abiertos.push_back(&nuevo);
   }
-  return std::nullopt;
+  return false;
+}
+
+}  // namespace
+
+double AnchoDe(const std::vector<Punto2>& contorno) { return Sumas(contorno).Ancho(); }
+
+std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen, double ancho) {
+  std::optional<Sumas> sumas;
+  std::optional<Punto2> cruce;
+  AlgunPar(contorno, 0, [&](const Lado& a, const Lado& b) {
+    if (!Parte(a, b, margen) || !Parte(b, a, margen)) return false;
+    if (!sumas) sumas.emplace(contorno);
+    const Punto2 X = Encuentro(a, b);
+    if (sumas->AnchoBucle(X, a.lugar, b.lugar) > ancho) cruce = X;
+    return cruce.has_value();
+  });
+  return cruce;
+}
+
+bool EsSimple(const std::vector<Punto2>& contorno, double hueco) {
+  const auto junto = [&](Punto2 p, const Lado& l) { return DistanciaASegmento(p, l.p, l.q) < hueco; };
+  const auto siguiente = [&](std::size_t i) { return (i + 1) % contorno.size(); };
+  return !AlgunPar(contorno, hueco, [&](const Lado& a, const Lado& b) {
+    if (siguiente(a.lugar) != b.lugar && siguiente(b.lugar) != a.lugar) {
+      return (Parte(a, b, 0) && Parte(b, a, 0)) || junto(a.p, b) || junto(a.q, b) || junto(b.p, a) || junto(b.q, a);
+    }
+    // Neighbours share a vertex; what lies beyond it must not come back.
+    const std::size_t primero = siguiente(a.lugar) == b.lugar ? a.lugar : b.lugar;
+    const Lado &una = primero == a.lugar ? a : b, &otra = primero == a.lugar ? b : a;
+    return junto(contorno[primero], otra) || junto(contorno[siguiente(otra.lugar)], una);
+  });
 }
 
 }  // namespace duktores

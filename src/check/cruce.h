@@ -12,6 +12,10 @@ namespace duktores {
 /// the width `ancho`; touching is no crossing.
 std::optional<Punto2> Cruce(const std::vector<Punto2>& contorno, double margen, double ancho);
 
+/// Whether no two edges of the closed outline, whose first vertex doesn't stand again at the end, come nearer than
+/// `hueco`, but for neighbours at the vertex that they share.
+bool EsSimple(const std::vector<Punto2>& contorno, double hueco);
+
 /// The width of a shape as a strip of its area and its perimeter.
 double AnchoDe(const std::vector<Punto2>& contorno);
 

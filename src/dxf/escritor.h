@@ -1,6 +1,6 @@
 #pragma once
-// cDXF: writes a drawing as a DXF file, by copying the template line by line, rewriting extent and view, and putting
-// the entities behind the line "ENTITIES". The file is in code page 1252 with CR LF line ends.
+// cDXF: writes a drawing as a DXF file: that of the template with the extent and the view of the drawing, and its
+// entities.
 
 #include <cstdint>
 #include <memory>
@@ -55,11 +55,6 @@ class cDXF : public AjustesDxf {
   int FontCharSet_ = 0;
   cGlobals globals_;
 };
-
-/// Full path of the template.
-std::string RutaPlantilla();
-/// Whether the template stands, can take a drawing and is a drawing itself; else what is wrong with it.
-Guardado RevisaPlantilla();
 
 bool ExisteFichero(const std::string& ruta);  ///< a file with a length above 0
 

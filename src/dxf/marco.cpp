@@ -41,11 +41,10 @@ constexpr Tramo kTramos[] = {
 constexpr int kUltimoCodigo = 1071;
 
 // What a drawing of ours stands on or points at: sections, tables, records by table and name or handle.
-constexpr std::string_view kExigidos[] = {"$ACADVER",       "$HANDSEED",        "SECTION HEADER", "SECTION TABLES",
-                                          "SECTION BLOCKS", "SECTION ENTITIES", "TABLE VPORT",    "TABLE LTYPE",
-                                          "TABLE LAYER",    "TABLE STYLE",      "TABLE APPID",    "TABLE DIMSTYLE",
-                                          "VPORT *ACTIVE",  "LTYPE BYLAYER",    "LTYPE BYBLOCK",  "LAYER 0",
-                                          "LAYER DUCT",     "STYLE STANDARD",   "BLOCK_RECORD 6B"};
+constexpr std::string_view kExigidos[] = {
+    "$ACADVER",      "$HANDSEED",     "SECTION HEADER", "SECTION TABLES", "SECTION BLOCKS", "SECTION ENTITIES",
+    "TABLE VPORT",   "TABLE LTYPE",   "TABLE LAYER",    "TABLE STYLE",    "TABLE APPID",    "TABLE DIMSTYLE",
+    "VPORT *ACTIVE", "LTYPE BYLAYER", "LTYPE BYBLOCK",  "LAYER 0",        "STYLE STANDARD", "BLOCK_RECORD 6B"};
 
 bool EsReal(std::string_view texto) {
   double v = 0;
@@ -128,11 +127,13 @@ class Marco {
     if (inicio.valor != "SECTION" && inicio.valor != "ENDSEC" && inicio.valor != "ENDTAB") Objeto(registro);
   }
 
-  void Acaba(std::size_t linea) const {
+  void Acaba(std::size_t linea, std::span<const std::string_view> capas) const {
     if (!acabado_) throw Falta(linea, "cut short");
-    for (const auto que : kExigidos) {
-      if (!hay_.contains(std::string(que))) throw Falta(linea, "no " + std::string(que));
-    }
+    const auto exige = [&](const std::string& que) {
+      if (!hay_.contains(que)) throw Falta(linea, "no " + que);
+    };
+    for (const auto que : kExigidos) exige(std::string(que));
+    for (const auto capa : capas) exige("LAYER " + std::string(capa));
     for (const Par& puntero : punteros_) {
       if (!handles_.contains(puntero.valor)) throw Falta(puntero.linea, "a pointer to no object");
     }
@@ -200,7 +201,7 @@ class Marco {
 
 }  // namespace
 
-std::optional<std::string> FaltaEnMarco(std::string_view dxf) {
+std::optional<std::string> FaltaEnMarco(std::string_view dxf, std::span<const std::string_view> capas) {
   try {
     const std::vector<Par> pares = Pares(dxf);
     Marco marco;
@@ -210,7 +211,7 @@ std::optional<std::string> FaltaEnMarco(std::string_view dxf) {
       marco.Lee({par, fin});
       par = fin;
     }
-    marco.Acaba(pares.empty() ? 1 : pares.back().linea);
+    marco.Acaba(pares.empty() ? 1 : pares.back().linea, capas);
   } catch (const Falta& falta) {
     return falta.what();
   }

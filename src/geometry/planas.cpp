@@ -79,4 +79,11 @@ Punto2 PieDePerpendicular(Punto2 p, Punto2 a, Punto2 b) {
   return a + ((v.x * r.x + v.y * r.y) / (r.x * r.x + r.y * r.y)) * r;
 }
 
+double DistanciaASegmento(Punto2 p, Punto2 a, Punto2 b) {
+  const Punto2 u = b - a, v = p - a;
+  const double largo2 = u.x * u.x + u.y * u.y;
+  const double t = largo2 > 0 ? std::clamp((u.x * v.x + u.y * v.y) / largo2, 0.0, 1.0) : 0;
+  return Distancia(p, a + t * u);
+}
+
 }  // namespace duktores

@@ -37,6 +37,12 @@ double AnguloRecta(Punto2 p1, Punto2 p2);
 /// as vertical, also if the two points coincide.
 Punto2 PieDePerpendicular(Punto2 p, Punto2 a, Punto2 b);
 
+/// From a point to the nearest point of the segment between `a` and `b`.
+double DistanciaASegmento(Punto2 p, Punto2 a, Punto2 b);
+
+/// Twice the area of the triangle from the origin to `a` and `b`, positive if b lies counter-clockwise of a.
+inline double Vectorial2(Punto2 a, Punto2 b) { return a.x * b.y - a.y * b.x; }
+
 inline Punto2 PuntoMedio(Punto2 a, Punto2 b) { return {(a.x - b.x) / 2 + b.x, (a.y - b.y) / 2 + b.y}; }
 
 }  // namespace duktores

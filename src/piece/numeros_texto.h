@@ -67,4 +67,14 @@ inline constexpr int kSeEncuentra = 156, kReglasUsuales = 157, kCuraExacta = 158
 inline constexpr int kNota = 159, kDelgada = 160, kOtroExtremo = 161;
 inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
 
+// Files for the machine, lists, paper.
+inline constexpr int kSinCorte = 170;     ///< why follows
+inline constexpr int kCorteFalso = 171;   ///< the pattern isn't true
+inline constexpr int kSinArea = 172;      ///< of a shape
+inline constexpr int kNombreAjeno = 173;  ///< a name that other systems can't store
+inline constexpr int kExporta = 174, kCortes = 175, kListaDobleces = 176, kPdf = 177, kImprime = 178;
+inline constexpr int kEscrito = 179;         ///< names and folder follow
+inline constexpr int kCortarIgual = 180;     ///< a question
+inline constexpr int kReemplazarEsos = 181;  ///< likewise; names follow
+
 }  // namespace duktores::texto

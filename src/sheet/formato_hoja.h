@@ -15,4 +15,10 @@ struct FormatoHoja {
   double densidad = 0, espesor = 0;  ///< of the sheet, for the figures of a title block
 };
 
+/// Of so much sheet: in grams with a density per cubic centimetre, in inches as the density says.
+inline double Peso(double area, const FormatoHoja& formato) {
+  constexpr double kCentimetrosCubicos = 0.001;
+  return area * formato.espesor * formato.densidad * (formato.milimetros ? kCentimetrosCubicos : 1);
+}
+
 }  // namespace duktores

@@ -1,7 +1,6 @@
 #include "shell/texto_linea.h"
 
-#include <algorithm>
-
+#include "geometry/planas.h"
 #include "geometry/redondeo.h"
 #include "piece/doblez.h"
 #include "piece/numeros_texto.h"
@@ -10,17 +9,6 @@
 #include "state/textos.h"
 
 namespace duktores {
-
-namespace {
-
-double DistanciaASegmento(Punto2 sitio, Punto2 p, Punto2 q) {
-  const Punto2 u = q - p, v = sitio - p;
-  const double largo2 = u.x * u.x + u.y * u.y;
-  const double t = largo2 > 0 ? std::clamp((u.x * v.x + u.y * v.y) / largo2, 0.0, 1.0) : 0;
-  return Distancia(sitio, p + t * u);
-}
-
-}  // namespace
 
 std::optional<LineaEnHoja> LineaCercana(const Patron& hoja, Punto2 sitio, double alcance) {
   std::optional<LineaEnHoja> cercana;

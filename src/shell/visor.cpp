@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "dxf/composicion.h"
 #include "dxf/escritor.h"
 #include "piece/numeros_texto.h"
 #include "state/estado.h"

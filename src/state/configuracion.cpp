@@ -14,6 +14,7 @@
 #include <optional>
 #include <string_view>
 #include <thread>
+#include <type_traits>
 
 #include "piece/numeros_texto.h"
 #include "state/caracteres.h"
@@ -36,12 +37,15 @@ constexpr std::array<std::string_view, 7> kIdiomas{"SPANISH",    "ENGLISH", "GER
                                                    "PORTUGUESE", "BASQUE",  "CHINESE"};
 
 /// A key with a number: the numbers that make sense (multiples of `paso`, if there is one) and where its value goes.
-/// `pone` gives back the value that counts from then on.
+/// `pone` gives back the value that counts from then on. Of the machine's keys one that is missing or makes no sense
+/// counts as `defecto`.
 struct Clave {
   std::string_view seccion, nombre;
   double minimo, maximo, paso;
   double (*pone)(double);
+  double defecto = 0;
 };
+constexpr std::string_view kMaquina = "MACHINE";
 
 constexpr double kSinTope = std::numeric_limits<double>::max(), kMasQueCero = std::numeric_limits<double>::min();
 constexpr double kCorto = std::numeric_limits<std::int16_t>::max();
@@ -54,6 +58,12 @@ double PonEntero(double v) {
 template <std::string EstadoPrograma::*valor>
 double PonTexto(double v) {
   estado.*valor = TextoDeNumero(v);
+  return v;
+}
+
+template <auto Maquina::*valor>
+double PonMaquina(double v) {
+  estado.maquina.*valor = static_cast<std::remove_reference_t<decltype(estado.maquina.*valor)>>(v);
   return v;
 }
 
@@ -76,12 +86,40 @@ constexpr std::array kClaves{
     Clave{"DUCT", "NDivi", 4, 908, 4, PonEntero<&EstadoPrograma::iDivisiones>},
     Clave{"DUCT", "Box", -kCorto, kCorto, 1, PonEntero<&EstadoPrograma::iBox>},
     Clave{"DUCT", "Exact", -kCorto, kCorto, 1, PonEntero<&EstadoPrograma::iExacto>},
+    Clave{kMaquina, "Bends", 0, 2, 1, PonMaquina<&Maquina::dobleces>, 1},
+    Clave{kMaquina, "Marks", 0, 1, 1, PonMaquina<&Maquina::marcas>, 1},
+    Clave{kMaquina, "Tolerance", 0, 1, 0, PonMaquina<&Maquina::tolerancia>, 0.02},
+    Clave{kMaquina, "LeastAngle", 0, 180, 0, PonMaquina<&Maquina::anguloMinimo>, 0.5},
+    Clave{kMaquina, "Arcs", 0, 1, 1, PonMaquina<&Maquina::arcos>, 0},
+    Clave{kMaquina, "Together", 0, 1, 1, PonMaquina<&Maquina::juntas>, 0},
 };
+
+/// A key with the name of a layer of the cut files.
+struct ClaveCapa {
+  std::string_view nombre;
+  std::string Maquina::*capa;
+};
+constexpr ClaveCapa kCapas[]{{"CutLayer", &Maquina::capaCorte},
+                             {"BendUpLayer", &Maquina::capaArriba},
+                             {"BendDownLayer", &Maquina::capaAbajo},
+                             {"MarkLayer", &Maquina::capaMarca}};
+
 constexpr EntradaIni kTextos[]{{"LANGUAGE", "Language", {}}, {"DUCT", "Path", {}}};
 
 bool TieneSentido(const Clave& clave, const std::string& texto) {
   const auto v = NumeroEntero(texto);
   return v && *v >= clave.minimo && *v <= clave.maximo && (clave.paso == 0 || std::fmod(*v, clave.paso) == 0);
+}
+
+/// What every reader of a drawing takes, and no name that another layer has.
+bool EsCapa(const std::string& nombre, const std::vector<std::string>& otras) {
+  constexpr std::size_t kLargo = 31;
+  const auto vale = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '-' ||
+           c == '$';
+  };
+  return !nombre.empty() && nombre.size() <= kLargo && nombre != "0" && std::ranges::all_of(nombre, vale) &&
+         std::ranges::find(otras, Mayusculas(nombre)) == otras.end();
 }
 
 /// The language base; an unlisted language is Spanish.
@@ -107,6 +145,29 @@ const EntradaIni* Parecida(const std::vector<EntradaIni>& nuestras, const Entrad
   return parecida;
 }
 
+/// Two layers of one name would be one to the machine: of such names the first counts, and of a layer whose name
+/// doesn't the usual one.
+void LeeCapas(const std::vector<EntradaIni>& entradas, std::vector<std::string>& avisos) {
+  const Maquina usual;
+  std::vector<std::string> ocupadas;
+  for (const auto& [nombre, capa] : kCapas) {
+    if (!LeeIni(entradas, kMaquina, nombre)) ocupadas.push_back(Mayusculas(usual.*capa));
+  }
+  for (const auto& [nombre, capa] : kCapas) {
+    estado.maquina.*capa = usual.*capa;
+    const auto texto = LeeIni(entradas, kMaquina, nombre);
+    if (!texto) continue;
+    if (EsCapa(*texto, ocupadas)) {
+      estado.maquina.*capa = *texto;
+    } else {
+      std::string& queda = estado.maquina.*capa;
+      while (std::ranges::find(ocupadas, Mayusculas(queda)) != ocupadas.end()) queda += '_';
+      avisos.push_back(Aviso(kMaquina, nombre, *texto, texto::kValorMalo, queda));
+    }
+    ocupadas.push_back(Mayusculas(estado.maquina.*capa));
+  }
+}
+
 void Lee(const std::string& contenido, std::vector<std::string>& avisos) {
   const auto entradas = EntradasIni(contenido);
   const auto idioma = LeeIni(entradas, "LANGUAGE", "Language");
@@ -119,11 +180,18 @@ void Lee(const std::string& contenido, std::vector<std::string>& avisos) {
   std::vector<EntradaIni> nuestras(std::begin(kTextos), std::end(kTextos));
   std::vector<std::string> valen{std::string(kIdiomas[static_cast<std::size_t>(estado.dIdioma / 10000)]),
                                  estado.sRutaDuct};
+  LeeCapas(entradas, avisos);
+  for (const auto& [nombre, capa] : kCapas) {
+    nuestras.push_back({kMaquina, nombre, {}});
+    valen.push_back(estado.maquina.*capa);
+  }
   for (const Clave& clave : kClaves) {
     const auto texto = LeeIni(entradas, clave.seccion, clave.nombre);
+    const bool sano = texto && TieneSentido(clave, *texto), deMaquina = clave.seccion == kMaquina;
     nuestras.push_back({clave.seccion, clave.nombre, {}});
-    valen.push_back(TextoDeNumero(clave.pone(NumeroIzquierda(texto.value_or("")))));
-    if (texto && !TieneSentido(clave, *texto)) {
+    const double v = !texto || (deMaquina && !sano) ? clave.defecto : NumeroIzquierda(*texto);
+    valen.push_back(TextoDeNumero(clave.pone(v)));
+    if (texto && !sano) {
       avisos.push_back(Aviso(clave.seccion, clave.nombre, *texto, texto::kValorMalo, valen.back()));
     }
   }

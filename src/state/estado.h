@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "geometry/puntos.h"
+#include "piece/maquina.h"
 #include "piece/pieza.h"
 #include "platform/plataforma.h"
 
@@ -23,7 +24,7 @@ struct EstadoPrograma {
   std::string sRutaPrograma;  ///< folder of the executable: Images, Template and the scratch file lie here
   std::string sRutaBase;      ///< installation root
   std::string sRutaIni;       ///< configuration file
-  std::string sRutaPropia;        ///< the user's own file; empty: nothing is kept between two runs
+  std::string sRutaPropia;    ///< the user's own file; empty: nothing is kept between two runs
   Ventana hVentanaHost = 0;   ///< foreground window at start
   bool bComaDecimal = false;  ///< the system's decimal separator is a comma
 
@@ -40,6 +41,7 @@ struct EstadoPrograma {
   std::int16_t iDivisiones = 0;   ///< divisions: the configured default, then those of the last accepted dialog
   std::int16_t iBox = 0;          ///< any value but 0 switches the title block on
   std::int16_t iExacto = 0;       ///< any value but 0: patterns of exact lengths instead of the usual rules
+  Maquina maquina;                ///< what cut files have to be like
   double dPasoTablaX = 60.0, dPasoTablaY = 30.0;  ///< spacing of the drawn dimensions, in drawing units
 
   /// The piece that a dialog has accepted last; all that follows names its values one by one.

@@ -1,3 +1,4 @@
+#include "dxf/composicion.h"
 #include "dxf/escritor.h"
 
 #include <unistd.h>

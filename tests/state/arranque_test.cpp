@@ -129,6 +129,24 @@ TEST_F(Arranque, NonsenseIsToldAKeyALine) {
   }
 }
 
+TEST_F(Arranque, TheMachinesKeysHaveTheirOwnDefaults) {
+  const auto lee = [&](const std::string& claves) {
+    Lanza("[LANGUAGE]\nLanguage=ENGLISH\n[MACHINE]\n" + claves);
+    const Maquina& m = estado.maquina;
+    std::ostringstream s;
+    s << m.capaCorte << ' ' << m.capaArriba << ' ' << m.capaAbajo << ' ' << m.capaMarca << ' '
+      << static_cast<int>(m.dobleces) << m.marcas << m.arcos << m.juntas << ' ' << m.tolerancia << ' ' << m.anguloMinimo
+      << ' ' << lectura_.avisos.size();
+    return s.str();
+  };
+  EXPECT_EQ(lee(""), "CUT BEND_UP BEND_DOWN MARK 1100 0.02 0.5 0");
+  EXPECT_EQ(lee("CutLayer=MARK\nMarkLayer=text\nBends=2\nMarks=0\nArcs=1\nTogether=1\nTolerance=0.1\nLeastAngle=0\n"),
+            "MARK BEND_UP BEND_DOWN text 2011 0.1 0 0");
+  EXPECT_EQ(
+      lee("CutLayer=mark\nBendUpLayer=a b\nBendDownLayer=0\nBends=3\nMarks=\nTolerance=-1\nLeastAngle=x\nArcs=2\n"),
+      "CUT BEND_UP BEND_DOWN MARK 1100 0.02 0.5 8");
+}
+
 TEST_F(Arranque, AConfigurationThatIsBeingWrittenIsReadWhole) {
   const std::string contenido = "[LANGUAGE]\nLanguage=ENGLISH\n" + std::string(50000, ';') + "\n[DUCT]\nFiber=3\n";
   const std::string antes = Lanza(contenido);
