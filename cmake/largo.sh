@@ -1,6 +1,6 @@
 # What ./test --long has beyond the tests: static checks and fuzzing, and the Debian packages for them.
 
-PAQUETES_LARGO=(clang libclang-rt-dev llvm clang-tidy cppcheck)
+PAQUETES_LARGO=(clang libclang-rt-dev llvm clang-tidy cppcheck freecad)
 
 # analiza FOLDER: clang-tidy, by the compile commands of the build in FOLDER, and cppcheck find nothing.
 analiza() {
@@ -18,6 +18,13 @@ fallos() {
   echo "Every failure of a save"
   /usr/bin/python3 -B tests/batch/fallos_test.py "build/$1/root/Duct/duktores-batch" Samples/pieces.json \
     "build/$1/tests/libfalla.so" long
+}
+
+# caras PRESET: another program makes one face of each cut file.
+caras() {
+  echo "A face of each cut file"
+  QT_QPA_PLATFORM=offscreen /usr/bin/python3 -B tests/batch/caras_test.py "build/$1/root/Duct/duktores-batch" \
+    Samples/pieces.json none
 }
 
 # fuzz SECONDS: runs each target that long from its seeds and from what earlier runs have added to build/fuzz/finds,

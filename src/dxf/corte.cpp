@@ -127,6 +127,8 @@ std::vector<Reemplazo> Reemplazos(Punto2 tamano, const Maquina& maquina, bool mi
           {"$EXTMAX", hasta},
           {"$LIMMIN", cero},
           {"$LIMMAX", hasta},
+          {"$PLIMMIN", cero},  // by which a program chooses its paper
+          {"$PLIMMAX", hasta},
           {"$LTSCALE", {{1, n(milimetros ? 1 : 1 / kPulgada)}}},
           {"$INSUNITS", {{1, milimetros ? "4" : "1"}}},
           {"$MEASUREMENT", {{1, milimetros ? "1" : "0"}}},
