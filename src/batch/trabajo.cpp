@@ -139,9 +139,10 @@ void Guarda(const EWdraw& axew, const Solido& solido, const std::string& base, c
   };
   estado.oDXF->InsertEntities(estado.oDrawing);
   if (!anota(dxf, estado.oDXF->Save(dxf))) return;
+  const Escala escala = estado.iUnidad == 1 ? Escala::milimetros : Escala::pulgadas;
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + Sufijo(formato);
-    if (!anota(imagen, GuardaImagen(axew, imagen, formato))) return;
+    if (!anota(imagen, GuardaImagen(axew, imagen, formato, escala))) return;
   }
   resultado.fichero = dxf;
   if (!opciones.solido || opciones.imagenes.empty()) return;
@@ -150,7 +151,7 @@ void Guarda(const EWdraw& axew, const Solido& solido, const std::string& base, c
   vista.EwViewDirection(1, -1, 1);
   for (const Formato formato : opciones.imagenes) {
     const std::string imagen = base + std::string(kSufijoSolido) + Sufijo(formato);
-    if (!anota(imagen, GuardaImagen(vista, imagen, formato))) return;
+    if (!anota(imagen, GuardaImagen(vista, imagen, formato, Escala::ajustada))) return;
   }
 }
 

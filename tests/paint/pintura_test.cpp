@@ -159,11 +159,11 @@ TEST(GuardaImagen, ShapeFollowsTheModel) {
   for (const auto& [esquina, tamano] : casos) {
     EWdraw axew;
     axew.EwAddLine({}, esquina);
-    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png));
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png, Escala::ajustada));
     EXPECT_EQ(QImage(carpeta.filePath("a")).size(), tamano);
   }
   for (const Formato formato : kFormatos)
-    EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b").toStdString(), formato));
+    EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b").toStdString(), formato, Escala::ajustada));
 }
 
 TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
@@ -172,7 +172,7 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   Llena(axew, 1000, 800);
   axew.EwAddText("tiny", "", {5, 5, 0}, 0.01, 0);
   axew.EwAddLine({qQNaN(), 0, 0}, {1, 1, 0});
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::svg));
+  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::svg, Escala::ajustada));
   const QByteArray svg = Lee(carpeta.filePath("a"));
   QXmlStreamReader xml(svg);
   QString textos;
@@ -180,7 +180,7 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   EXPECT_FALSE(xml.hasError() || svg.contains("nan")) << xml.errorString().toStdString();
   for (const char* texto : {"12,5 < 13 &", "\u5468\u957F", "tiny"}) EXPECT_TRUE(textos.contains(texto)) << texto;
 
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::pdf));
+  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::pdf, Escala::ajustada));
   const QByteArray pdf = Lee(carpeta.filePath("a"));
   EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
   EXPECT_TRUE(pdf.contains("/MediaBox [0 0 800.000000 640.000000]")) << "the picture's shape, half a point to a pixel";
