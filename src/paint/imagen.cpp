@@ -56,7 +56,7 @@ double TextoMenor(const EWdraw& axew) {
 /// A page on which the smallest text can be read, as far as pixels and memory go. It grows without the air around a
 /// strip or a tower.
 QSizeF TamanoLegible(const EWdraw& axew) {
-  constexpr double kTexto = 8, kLado = 8000, kPixeles = 40e6, kMargen = 0.09;
+  constexpr double kTexto = 8, kLado = 8000, kPixeles = 32e6, kMargen = 0.09;
   const QRectF zona = ExtensionPintada(axew);
   const QSizeF pagina = TamanoPagina(zona);
   const double escala = kTexto / TextoMenor(axew);
