@@ -113,18 +113,6 @@ std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Sol
   return Rechazo{"piece", plataforma.mensaje.empty() ? Texto(texto::kIncompleto) : plataforma.mensaje};
 }
 
-std::string Sufijo(Formato formato) {
-  switch (formato) {
-    case Formato::png:
-      return ".png";
-    case Formato::svg:
-      return ".svg";
-    case Formato::pdf:
-      break;
-  }
-  return ".pdf";
-}
-
 // The files of one piece; what isn't written is told by its place, and that the drawing stands if it does.
 class Salida {
  public:
@@ -138,10 +126,10 @@ class Salida {
     estado.oDXF->InsertEntities(estado.oDrawing);
     return Anota(Dxf(), estado.oDXF->Save(Dxf()));
   }
-  bool Imagenes(const EWdraw& axew, std::string_view sufijo = "") {
+  bool Imagenes(const EWdraw& axew, Escala escala, std::string_view sufijo = "") {
     return std::ranges::all_of(opciones_.imagenes, [&](Formato formato) {
       const std::string imagen = base_ + std::string(sufijo) + Sufijo(formato);
-      return Anota(imagen, GuardaImagen(axew, imagen, formato));
+      return Anota(imagen, GuardaImagen(axew, imagen, formato, escala));
     });
   }
   bool Solidos(const Solido& solido) {
@@ -149,7 +137,7 @@ class Salida {
     EWdraw vista;
     DibujaSolido(vista, solido);
     vista.EwViewDirection(1, -1, 1);
-    return Imagenes(vista, kSufijoSolido);
+    return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
   bool Maquina(Cortes& cortes, const Veredicto& veredicto) {
     std::string ruta;
@@ -209,7 +197,8 @@ std::vector<FilaInforme> FilasInforme(const Cortes& cortes, const Veredicto& ver
 void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, const Veredicto& veredicto,
             const Trabajo& trabajo, const Opciones& opciones, Resultado& resultado) {
   Salida salida(trabajo, opciones, resultado);
-  if (!salida.Dibujo() || !salida.Imagenes(axew)) return;
+  const Escala escala = estado.iUnidad == 1 ? Escala::milimetros : Escala::pulgadas;
+  if (!salida.Dibujo() || !salida.Imagenes(axew, escala)) return;
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
   Cortes cortes = CortesDe(trabajo.nombre, solido, patron);

@@ -1,4 +1,4 @@
-// Pictures as files. All formats have the same layout in picture units: a pixel of the PNG.
+// Pictures as files.
 
 #include <QBuffer>
 #include <QImage>
@@ -7,12 +7,15 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
+#include <functional>
 #include <new>
 #include <optional>
 #include <string_view>
 
 #include "paint/letra.h"
+#include "paint/papel.h"
 #include "paint/pintura.h"
 #include "piece/numeros_texto.h"
 #include "viewer/ewdraw.h"
@@ -21,12 +24,63 @@ namespace duktores {
 
 namespace {
 
+/// A page in units of which `porPulgada` are an inch of paper, and what is painted on it where a device has as many.
+/// Width and height of an SVG picture are `tamano` times `medida` of its `unidad`.
+struct Lamina {
+  QSizeF tamano;
+  double porPulgada;
+  double medida;
+  const char* unidad;
+  std::function<void(QPainter& pintor, double porPulgada)> pinta;
+};
+
+constexpr double kAncho = 1600, kAltoMinimo = 640, kAltoMaximo = 2400;
+
 /// As high as the model asks for; long thin models get air instead of a strip or a tower.
-QSize TamanoImagen(const EWdraw& axew) {
-  constexpr int kAncho = 1600;
+QSizeF TamanoPagina(const QRectF& zona) {
+  const double cociente = zona.height() / zona.width(), forma = std::isfinite(cociente) ? cociente : 1;
+  return {kAncho, std::round(std::clamp(kAncho * forma, kAltoMinimo, kAltoMaximo))};
+}
+
+double TextoMenor(const EWdraw& axew) {
+  const Base3 base = BaseVista(axew.DireccionVista());
+  double menor = HUGE_VAL;
+  for (const Entidad& entidad : axew.Entidades()) {
+    const QPointF v = AlPlano(base, entidad.v);
+    const double alto = std::hypot(v.x(), v.y());
+    if (entidad.tipo == TipoEntidad::texto && alto > 0) menor = std::min(menor, alto);
+  }
+  return menor;
+}
+
+/// A page on which the smallest text can be read, as far as pixels and memory go. It grows without the air around a
+/// strip or a tower.
+QSizeF TamanoLegible(const EWdraw& axew) {
+  constexpr double kTexto = 8, kLado = 8000, kPixeles = 32e6, kMargen = 0.09;
   const QRectF zona = ExtensionPintada(axew);
-  const double forma = zona.width() > 0 ? zona.height() / zona.width() : 1;
-  return {kAncho, qRound(kAncho * std::clamp(forma, 0.4, 1.5))};
+  const QSizeF pagina = TamanoPagina(zona);
+  const double escala = kTexto / TextoMenor(axew);
+  const QSizeF dibujo = escala * zona.size();
+  const bool legible = !(escala > Ajusta(axew, pagina).escala);
+  if (legible || !std::isfinite(dibujo.width() * dibujo.height())) return pagina;
+  const double margen = kMargen * std::max(std::min(dibujo.width(), dibujo.height()), kAltoMinimo);
+  const QSizeF lleno(dibujo.width() + margen, dibujo.height() + margen);
+  const double cabe = std::min(
+      {1.0, kLado / lleno.width(), kLado / lleno.height(), std::sqrt(kPixeles / (lleno.width() * lleno.height()))});
+  return QSizeF((cabe * lleno).toSize()).expandedTo({kAncho, kAltoMinimo});
+}
+
+Lamina LaminaAjustada(const EWdraw& axew, QSizeF tamano) {
+  constexpr double kSvg = 25.4 / 96;  // its pixels are larger
+  return {tamano, kPorPulgada, kSvg, "mm", [&axew, tamano](QPainter& pintor, double porPulgada) {
+            const QSizeF lienzo = porPulgada / kPorPulgada * tamano;
+            Pinta(pintor, axew, Ajusta(axew, lienzo), lienzo, Fondo::claro, porPulgada);
+          }};
+}
+
+Lamina LaminaDe(const Papel& papel) {
+  return {papel.Tamano(), papel.UnidadesPorPulgada(), 1, papel.Milimetros() ? "mm" : "in",
+          [&papel](QPainter& pintor, double porPulgada) { papel.Pinta(pintor, porPulgada); }};
 }
 
 /// A text as XML may hold it; Qt writes titles as they are.
@@ -37,39 +91,46 @@ QString TextoXml(QString texto) {
   return texto.toHtmlEscaped();
 }
 
-bool PintaEn(QPaintDevice& dispositivo, const EWdraw& axew, QSizeF lienzo) {
+bool PintaEn(QPaintDevice& dispositivo, const Lamina& lamina, double porPulgada) {
   QPainter pintor;
   if (!pintor.begin(&dispositivo)) return false;
-  Pinta(pintor, axew, Ajusta(axew, lienzo), lienzo, Fondo::claro);
+  lamina.pinta(pintor, porPulgada);
   return pintor.end();
 }
 
-bool Png(QIODevice& salida, const EWdraw& axew, QSize lienzo) {
-  QImage imagen(lienzo, QImage::Format_RGB32);
+bool Png(QIODevice& salida, const Lamina& lamina) {
+  QImage imagen(lamina.tamano.toSize(), QImage::Format_RGB32);
   if (imagen.isNull()) throw std::bad_alloc();
-  return PintaEn(imagen, axew, lienzo) && imagen.save(&salida, "PNG");
+  return PintaEn(imagen, lamina, lamina.porPulgada) && imagen.save(&salida, "PNG");
 }
 
-bool Svg(QIODevice& salida, const EWdraw& axew, QSize lienzo, const QString& titulo) {
+bool Svg(QBuffer& salida, const Lamina& lamina, const QString& titulo) {
   QSvgGenerator svg;
   svg.setOutputDevice(&salida);
   svg.setTitle(TextoXml(titulo));
   svg.setDescription("duktores");
-  svg.setSize(lienzo);
-  svg.setViewBox(QRect(QPoint(), lienzo));
-  svg.setResolution(96);
-  return PintaEn(svg, axew, lienzo);
+  svg.setViewBox(QRectF(QPointF(), lamina.tamano));
+  if (!PintaEn(svg, lamina, lamina.porPulgada)) return false;
+  // Qt knows a size in whole pixels only.
+  const QSizeF lados = lamina.medida * lamina.tamano;
+  const QString cabeza = QStringLiteral("<svg width=\"%1%3\" height=\"%2%3\"\n");
+  const qsizetype desde = salida.data().indexOf("<svg"), hasta = salida.data().indexOf(" viewBox", desde);
+  salida.buffer().replace(desde, hasta - desde,
+                          cabeza.arg(lados.width()).arg(lados.height()).arg(lamina.unidad).toUtf8());
+  return true;
 }
 
-bool Pdf(QIODevice& salida, const EWdraw& axew, QSize lienzo, const QString& titulo) {
-  constexpr int kPorPulgada = 144;  // two picture units to a point of 1/72 inch
+bool Pdf(QIODevice& salida, const Lamina& lamina, const QString& titulo) {
+  const QSizeF puntos = 72 / lamina.porPulgada * lamina.tamano;
   QPdfWriter pdf(&salida);
+  pdf.setPdfVersion(QPagedPaintDevice::PdfVersion_1_6);  // the first that has pages of more than 14400 points
   pdf.setTitle(titulo);
   pdf.setCreator("duktores");
-  pdf.setResolution(kPorPulgada);
+  pdf.setResolution(qRound(kPorPulgada));
   pdf.setPageMargins(QMarginsF());
-  pdf.setPageSize(QPageSize(QSizeF(lienzo) / 2, QPageSize::Point, QString(), QPageSize::ExactMatch));
-  return PintaEn(pdf, axew, lienzo);
+  const QSizeF enteros(std::ceil(puntos.width()), std::ceil(puntos.height()));
+  pdf.setPageSize(QPageSize(enteros, QPageSize::Point, QString(), QPageSize::ExactMatch));
+  return PintaEn(pdf, lamina, kPorPulgada);
 }
 
 // A machine without fonts would draw boxes in their place.
@@ -84,15 +145,24 @@ bool HayLetraParaTodo(const EWdraw& axew) {
 
 }  // namespace
 
-Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato) {
+std::string Sufijo(Formato formato) {
+  return formato == Formato::png ? ".png" : formato == Formato::svg ? ".svg" : ".pdf";
+}
+
+Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato, Escala escala) {
   if (!HayLetraParaTodo(axew)) return {texto::kSinLetra, {}, {}};
-  const QSize lienzo = TamanoImagen(axew);
+  std::optional<Papel> papel;
+  if (formato != Formato::png && escala != Escala::ajustada) papel.emplace(axew, escala == Escala::milimetros);
+  if (papel && !HayLetraParaTodo(papel->Regla())) return {texto::kSinLetra, {}, {}};
+  const Lamina lamina = papel ? LaminaDe(*papel)
+                              : LaminaAjustada(axew, formato == Formato::png ? TamanoLegible(axew)
+                                                                             : TamanoPagina(ExtensionPintada(axew)));
   const QString titulo = QString::fromStdString(std::filesystem::path(ruta).stem().string());
   QBuffer salida;
   salida.open(QIODevice::WriteOnly);
-  const bool pintado = formato == Formato::png   ? Png(salida, axew, lienzo)
-                       : formato == Formato::svg ? Svg(salida, axew, lienzo, titulo)
-                                                 : Pdf(salida, axew, lienzo, titulo);
+  const bool pintado = formato == Formato::png   ? Png(salida, lamina)
+                       : formato == Formato::svg ? Svg(salida, lamina, titulo)
+                                                 : Pdf(salida, lamina, titulo);
   if (!pintado) return {texto::kNoPintado, {}, {}};
   return EscribeFichero(ruta, std::string_view(salida.data().constData(), static_cast<std::size_t>(salida.size())));
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "paint/letra.h"
@@ -18,7 +19,8 @@ namespace duktores {
 
 namespace {
 
-// Widths in device units. On the screen the many thin lines take Qt's fast road, which ends at one pixel.
+// Widths in device units, on paper of kPorPulgada to an inch. On the screen the many thin lines take Qt's fast road,
+// which ends at one pixel.
 struct Trazos {
   double fino, contorno, punto;
 };
@@ -73,15 +75,18 @@ std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja) {
 
 class Pincel {
  public:
-  Pincel(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo)
+  Pincel(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada)
       : pintor_(pintor),
         base_(BaseVista(axew.DireccionVista())),
         encuadre_(encuadre),
         lienzo_(lienzo),
         fondo_(fondo),
-        trazos_(fondo == Fondo::claro ? kTrazosPapel : kTrazosPantalla) {
+        trazos_(fondo == Fondo::claro ? kTrazosPapel : kTrazosPantalla),
+        escalaTrazos_(fondo == Fondo::claro ? porPulgada / kPorPulgada : 1),
+        celda_(20 * porPulgada) {
     const QPaintEngine::Type motor = pintor.paintEngine()->type();
-    vectorial_ = motor == QPaintEngine::SVG || motor == QPaintEngine::Pdf;
+    svg_ = motor == QPaintEngine::SVG;
+    vectorial_ = svg_ || motor == QPaintEngine::Pdf;
     puntosPorUnidad_ = pintor.device()->devicePixelRatioF();
     visible_ = QRectF(QPointF(), lienzo).adjusted(-8, -8, 8, 8);
   }
@@ -89,6 +94,7 @@ class Pincel {
   void PintaLineas(const Entidad& entidad);
   void PintaTexto(const Entidad& entidad);
   void Vuelca();
+  void Vuelve();
 
  private:
   QPointF Lugar(Punto3 p) const { return encuadre_.AlDispositivo(AlPlano(base_, p), lienzo_); }
@@ -101,6 +107,7 @@ class Pincel {
   void PonPluma(std::int32_t color, double ancho);
   void Traza(QPolygonF camino, bool cerrado);
   void Centra(QPointF& p, QPointF& q) const;
+  void Acerca(QPolygonF& camino);
 
   QPainter& pintor_;
   Base3 base_;
@@ -108,9 +115,11 @@ class Pincel {
   QSizeF lienzo_;
   Fondo fondo_;
   Trazos trazos_;
-  bool vectorial_ = false;
+  double escalaTrazos_, celda_;
+  bool svg_ = false, vectorial_ = false;
   double puntosPorUnidad_ = 1;
   QRectF visible_;
+  QPointF cerca_;  // where the painter's origin is
   std::int32_t colorPluma_ = 0;
   double anchoPluma_ = 0;
   std::vector<QLineF> lineas_;  // waiting for the pen to change
@@ -124,8 +133,9 @@ void Pincel::PonPluma(std::int32_t color, double ancho) {
   Vuelca();
   colorPluma_ = color;
   anchoPluma_ = ancho;
-  QPen pluma(Tinta(color, fondo_), ancho * puntosPorUnidad_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
-  pluma.setCosmetic(true);
+  QPen pluma(Tinta(color, fondo_), ancho * escalaTrazos_ * puntosPorUnidad_, Qt::SolidLine, Qt::SquareCap,
+             Qt::MiterJoin);
+  pluma.setCosmetic(!vectorial_);
   pintor_.setPen(pluma);
 }
 
@@ -148,6 +158,17 @@ void Pincel::Centra(QPointF& p, QPointF& q) const {
   }
 }
 
+/// Qt writes six digits into an SVG file. Far from the origin too few of them are behind the point, so the origin goes
+/// along.
+void Pincel::Acerca(QPolygonF& camino) {
+  const QPointF p = camino.front() / celda_, cerca = celda_ * QPointF(std::floor(p.x()), std::floor(p.y()));
+  if (cerca != cerca_) pintor_.translate(cerca - cerca_);
+  cerca_ = cerca;
+  camino.translate(-cerca);
+}
+
+void Pincel::Vuelve() { pintor_.translate(-std::exchange(cerca_, QPointF())); }
+
 void Pincel::Traza(QPolygonF camino, bool cerrado) {
   if (camino.isEmpty() || !std::ranges::all_of(camino, Dibujable)) return;
   if (cerrado && camino.size() > 2 && camino.isClosed()) camino.removeLast();
@@ -161,6 +182,7 @@ void Pincel::Traza(QPolygonF camino, bool cerrado) {
   constexpr qsizetype kCorto = 2000;
   if (vectorial_ || (!suelta && camino.size() <= kCorto && visible_.contains(camino.boundingRect()))) {
     Vuelca();
+    if (svg_) Acerca(camino);
     cerrado ? pintor_.drawPolygon(camino) : pintor_.drawPolyline(camino);
     return;
   }
@@ -245,14 +267,15 @@ void Pincel::PintaTexto(const Entidad& entidad) {
 
 }  // namespace
 
-void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo) {
+void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
+           double porPulgada) {
   if (!pintor.isActive()) return;
   pintor.save();
   pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   pintor.setBrush(Qt::NoBrush);
   pintor.setLayoutDirection(Qt::LeftToRight);
   pintor.fillRect(QRectF(QPointF(), lienzo), ColorFondo(fondo));
-  Pincel pincel(pintor, axew, encuadre, lienzo, fondo);
+  Pincel pincel(pintor, axew, encuadre, lienzo, fondo, porPulgada);
   // Outlines lie over the bend lines that run along them, texts over all.
   for (const bool contornos : {false, true}) {
     for (const Entidad& entidad : axew.Entidades()) {
@@ -260,6 +283,7 @@ void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSize
     }
   }
   pincel.Vuelca();
+  pincel.Vuelve();
   for (const Entidad& entidad : axew.Entidades()) pincel.PintaTexto(entidad);
   pintor.restore();
 }

@@ -45,12 +45,22 @@ enum class Fondo { claro, oscuro };
 QRectF ExtensionPintada(const EWdraw& axew);
 /// Fits the model into `lienzo` with a margin; an empty model gives a sensible default region.
 Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo);
+/// A page of a printer has so many device units to an inch as its resolution; a pixel of a picture counts as one of
+/// 144.
+inline constexpr double kPorPulgada = 144;
 /// Fills `lienzo` with the background and paints the model. Device units are those of the painter, whose transformation
-/// should be the one it starts with.
-void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo);
+/// should be the one it starts with, but for a translation. On paper, lines are a quarter of a millimetre wide,
+/// outlines more.
+void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
+           double porPulgada = kPorPulgada);
 
 enum class Formato { png, svg, pdf };
+/// The ending of its files, with the point.
+std::string Sufijo(Formato formato);
+/// Whether a picture shows the whole model on a page of some size, or on one of its own size a unit of the model is the
+/// millimetre or inch that it stands for. PNG pictures are always fitted: they are as large as it takes to read them.
+enum class Escala { ajustada, milimetros, pulgadas };
 /// A picture of the whole model on light paper, written whole or not at all.
-Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato);
+Guardado GuardaImagen(const EWdraw& axew, const std::string& ruta, Formato formato, Escala escala);
 
 }  // namespace duktores

@@ -28,8 +28,9 @@ Patron DibujaPatron(EWdraw& axew, Patron patron, const FormatoHoja& formato, con
 /// refused pick throws EleccionRechazada.
 Punto2 PideAlDueno(EWdraw& axew, const Encargo& encargo);
 
-/// A place for each that `DibujaPatron` asks for, in that order: side by side from the left, right of what lies where
-/// it is, each with its annotation on the bottom line y = 0. Where the drawing would end early the places end too.
+/// A place for each that `DibujaPatron` asks for, in that order: in rows from the left and from the top that together
+/// come near to 16:9, right of what lies where it is; a shape's title block stands beside it, all annotation of the
+/// last row on the line y = 0. Where the drawing would end early the places end too.
 std::vector<Punto2> Reparte(const Patron& patron, const FormatoHoja& formato);
 
 }  // namespace duktores

@@ -1,7 +1,8 @@
 """Opens the sample drawings, of the usual rules and the exact ones, in other programs: they must find every entity
-where it was written."""
+where it was written; and measures drawings on paper."""
 
 import itertools
+import json
 import math
 import pathlib
 import re
@@ -10,11 +11,12 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import xml.etree.ElementTree
 
 import ezdxf
 from osgeo import gdal, ogr
 
-from lote import CONFIG, JOBS, PROGRAM, SAMPLES
+from lote import CONFIG, JOBS, PROGRAM, SAMPLES, Batch
 
 
 def plain(text):
@@ -84,6 +86,50 @@ class Readers(unittest.TestCase):
         self.assertTrue(0 < min(handles) and max(handles) < 0x500)
         pointers = {int(value, 16) for code, value in body if code in ("330", "340", "350", "360", "390")}
         self.assertLessEqual(pointers, {0, *handles})
+
+
+def on_paper(file):
+    """Width and height of an SVG picture, and the lengths of all lines in it, in millimetres."""
+    svg = xml.etree.ElementTree.parse(file).getroot()
+    width, unit = re.fullmatch(r"([\d.]+)(\w+)", svg.get("width")).groups()
+    _, _, *box = map(float, svg.get("viewBox").split())
+    scale, lengths = {"mm": 1, "in": 25.4, "pt": 25.4 / 72}[unit] * float(width) / box[0], []
+    for group, line in ((group, line) for group in svg.iter() for line in group):
+        numbers = [float(n) for n in re.findall(r"-?[\d.]+(?:e-?\d+)?", line.get("points") or line.get("d") or "")]
+        points = [complex(x, y) for x, y in zip(numbers[::2], numbers[1::2])]
+        turns = [re.match(r"matrix\(([^, ]+)", e.get("transform") or "matrix(1") for e in (group, line)]
+        lengths += [scale * math.prod(float(t[1]) for t in turns) * abs(q - p) for p, q in zip(points, points[1:])]
+    return [scale * side for side in box], lengths
+
+
+class Paper(Batch):
+    def test_as_large_as_the_drawing_is(self):
+        """Sides of 400 mm, far from the origin too, where a page outgrows the 14,400 points that PDF has."""
+        job = {"piece": "TransCR", "AX": 0, "AY": 0, "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 2}
+        far = [[0, 0], [2000, 0], [9000.125, 20000.375], [12000, 30000]]
+        for unit, inch, bar in ((0, 25.4, 100), (1, 1, 101.6)):
+            (self.folder / "ini").write_text((CONFIG % ("ENGLISH", 1, 0)).replace("Unit=0", f"Unit={unit}"))
+            side = round(800 * inch / 25.4 + 2, 3)  # less the sheet's thickness
+            sizes = {"H": 20, "RS": 10, "LI": side, "AI": side}
+            picks = [[x * inch / 25.4, y * inch / 25.4] for x, y in far]
+            (self.folder / "jobs").write_text(json.dumps([
+                {**job, **sizes, "name": "near"}, {**job, **sizes, "name": "far", "picks": picks}]))
+            subprocess.run([PROGRAM, self.folder / "jobs", "--config", self.folder / "ini", "--out", self.folder,
+                            "--svg", "--pdf"], check=True, stdout=subprocess.DEVNULL, timeout=60)
+            for name in ("near", "far"):
+                svg, pdf, seen = (self.folder / (name + end) for end in (".svg", ".pdf", "-seen.svg"))
+                subprocess.run(["pdftocairo", "-svg", "-noshrink", pdf, seen], check=True, timeout=60)
+                user_unit = float(re.search(rb"/UserUnit ([\d.]+)", pdf.read_bytes())[1])
+                self.assertEqual(user_unit > 1, unit == 1 or name == "far")
+                (page, in_svg), (points, in_pdf) = on_paper(svg), on_paper(seen)
+                for want in (400, bar, 670 * 25.4 / inch, 750 * 25.4 / inch):
+                    self.assertLess(min(abs(v - want) for v in in_svg), 2e-3 + 1e-5 * want, (name, want))
+                    # pdftocairo has a few digits only.
+                    slack = 0.008 * user_unit + 1e-5 * want
+                    self.assertLess(min(abs(user_unit * v - want) for v in in_pdf), slack, (name, want))
+                for a, b in zip(page, points):
+                    self.assertAlmostEqual(user_unit * b, a, delta=2)
+                self.assertLessEqual(max(points), 14400 * 25.4 / 72 + 0.01)
 
 
 if __name__ == "__main__":

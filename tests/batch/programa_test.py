@@ -226,9 +226,10 @@ class Program(Batch):
 
     def test_pictures_of_any_name_and_without_fonts(self):
         out = self.folder / "out"
-        name = "<a> & \"b\" ]]>\ufffe"
+        name = "<a> & \"b\" ]]>\ufffe\U0001f600"
         self.assertEqual(self.run_batch([{**GOOD, "name": name}], "--svg").returncode, 0)
-        self.assertIsNotNone(xml.etree.ElementTree.parse(out / (name + ".svg")).find("*"))
+        title = xml.etree.ElementTree.parse(out / (name + ".svg")).find("{*}title")
+        self.assertEqual(title.text, name.replace("\ufffe", " "))
         (self.folder / "fonts").write_text("<fontconfig/>")
         result = self.run_batch([GOOD], "--png", env={"FONTCONFIG_FILE": self.folder / "fonts", "HOME": self.folder})
         self.assertEqual(result.stdout.decode(), "good: refused name: No se pudo guardar el archivo: "

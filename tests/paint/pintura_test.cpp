@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 #include <cmath>
+#include <tuple>
 #include <vector>
 
 #include "paint/pintura.h"
@@ -159,11 +160,25 @@ TEST(GuardaImagen, ShapeFollowsTheModel) {
   for (const auto& [esquina, tamano] : casos) {
     EWdraw axew;
     axew.EwAddLine({}, esquina);
-    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png));
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png, Escala::ajustada));
+    EXPECT_EQ(QImage(carpeta.filePath("a")).size(), tamano);
+  }
+  const std::pair<Punto3, QSize> conTexto[] = {// as large as its smallest text asks for, of a tenth
+                                               {{4, 4, 0}, {1600, 1600}},
+                                               {{40, 20, 0}, {3344, 1744}},
+                                               {{900, 1, 0}, {8000, 640}},
+                                               {{4, 900, 0}, {1600, 8000}},
+                                               {{900, 900, 0}, {5657, 5657}}};
+  for (const auto& [esquina, tamano] : conTexto) {
+    EWdraw axew;
+    axew.EwAddLine({}, esquina);
+    axew.EwAddText("x", "", {}, 0.1, 0);
+    axew.EwAddText("x", "", {}, 0.2, 0);
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::png, Escala::milimetros));
     EXPECT_EQ(QImage(carpeta.filePath("a")).size(), tamano);
   }
   for (const Formato formato : kFormatos)
-    EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b").toStdString(), formato));
+    EXPECT_TRUE(GuardaImagen(EWdraw(), carpeta.filePath("b").toStdString(), formato, Escala::ajustada));
 }
 
 TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
@@ -172,18 +187,31 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   Llena(axew, 1000, 800);
   axew.EwAddText("tiny", "", {5, 5, 0}, 0.01, 0);
   axew.EwAddLine({qQNaN(), 0, 0}, {1, 1, 0});
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::svg));
-  const QByteArray svg = Lee(carpeta.filePath("a"));
-  QXmlStreamReader xml(svg);
-  QString textos;
-  while (!xml.atEnd()) textos += xml.readNext() == QXmlStreamReader::Characters ? xml.text().toString() : QString();
-  EXPECT_FALSE(xml.hasError() || svg.contains("nan")) << xml.errorString().toStdString();
-  for (const char* texto : {"12,5 < 13 &", "\u5468\u957F", "tiny"}) EXPECT_TRUE(textos.contains(texto)) << texto;
+  const std::tuple<Escala, QString, QString> casos[] = {{Escala::ajustada, "423.333mm", "tiny"},
+                                                        {Escala::milimetros, "1016mm", "100 mm"},
+                                                        {Escala::pulgadas, "1000.6in", "4 in"}};
+  for (const auto& [escala, ancho, dicho] : casos) {
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::svg, escala));
+    const QByteArray svg = Lee(carpeta.filePath("a"));
+    QXmlStreamReader xml(svg);
+    QString textos;
+    EXPECT_TRUE(xml.readNextStartElement() && xml.attributes().value("width") == ancho) << ancho.toStdString();
+    while (!xml.atEnd()) textos += xml.readNext() == QXmlStreamReader::Characters ? xml.text().toString() : QString();
+    EXPECT_FALSE(xml.hasError() || svg.contains("nan")) << xml.errorString().toStdString();
+    for (const QString& texto : {QString("12,5 < 13 &"), QString("\u5468\u957F"), dicho})
+      EXPECT_TRUE(textos.contains(texto)) << texto.toStdString();
+  }
 
-  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::pdf));
+  ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), Formato::pdf, Escala::ajustada));
   const QByteArray pdf = Lee(carpeta.filePath("a"));
   EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
   EXPECT_TRUE(pdf.contains("/MediaBox [0 0 800.000000 640.000000]")) << "the picture's shape, half a point to a pixel";
+
+  axew.EwAddLine({1e308, -1e308, 0}, {-1e308, 1e308, 0});
+  for (const Formato formato : kFormatos) {
+    ASSERT_TRUE(GuardaImagen(axew, carpeta.filePath("a").toStdString(), formato, Escala::pulgadas));
+    EXPECT_FALSE(formato == Formato::svg && Lee(carpeta.filePath("a")).contains("inf"));
+  }
 }
 
 }  // namespace
