@@ -66,6 +66,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   EWdraw_.EwInicia(true);
   solido_ = Dibuja3D(EWdraw_);
   CmdSave_->setEnabled(false);
+  CmdExport_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
 }
 
@@ -105,7 +106,7 @@ void FrmViewUnfold::Botones() {
   }
   proporcion_.Coloca(*FrmZoom_, {inicioZoom, 10, x + 4, kAltoGrupo});
 
-  x = kDiseno.width() - kMargen - 5 * (kPaso + 8);
+  x = kDiseno.width() - kMargen - 6 * (kPaso + 8);
   const auto suelto = [&](std::string_view nombre, int texto) {
     QPushButton* boton = Boton(this, nombre, texto, {x, 14, kBoton + 6, kBoton + 4});
     x += kPaso + 8;
@@ -117,6 +118,10 @@ void FrmViewUnfold::Botones() {
   CmdExacto_->setShortcut(Qt::Key_E);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
+  CmdExport_ = new Exportador([this] { return Exportable{EWdraw_, solido_, veredicto_}; }, this);
+  proporcion_.Coloca(*CmdExport_, {x, 14, kBoton + 6, kBoton + 4});
+  connect(CmdExport_, &Exportador::escrito, this, [this](const QString& linea) { MuestraEstado(linea, true); });
+  x += kPaso + 8;
   connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
@@ -133,6 +138,7 @@ void FrmViewUnfold::CmdDesplegado() {
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
   CmdSave_->setEnabled(false);
+  CmdExport_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   CmdExacto_->setEnabled(false);
   FrmView_->setEnabled(false);
@@ -145,6 +151,7 @@ void FrmViewUnfold::CmdDesplegado() {
   CmdDesplegado_->setEnabled(true);
   CmdExacto_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
+  CmdExport_->setEnabled(!hoja_.formas.empty());
 }
 
 // The other rule has another solid, and another pattern where one stands.
@@ -190,9 +197,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 // A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
-  const Veredicto veredicto = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
-  const bool bien = completo && veredicto.Cierto();
+  veredicto_ = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
+  MuestraEstado(Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto)), completo && veredicto_.Cierto());
+}
+
+void FrmViewUnfold::MuestraEstado(const QString& linea, bool bien) {
   LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));

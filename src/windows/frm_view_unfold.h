@@ -8,6 +8,7 @@
 
 #include "shell/corrida.h"
 #include "viewer/ewdraw.h"
+#include "windows/exportador.h"
 #include "windows/lienzo.h"
 #include "windows/proporcion.h"
 
@@ -38,14 +39,17 @@ class FrmViewUnfold : public QDialog {
   void MuestraPunto(QPointF punto);
   void MuestraLinea(QPointF punto, double alcance);
   void MuestraVeredicto(const Corrida& corrida);
+  void MuestraEstado(const QString& linea, bool bien);
 
   Proporcion proporcion_;
   Solido solido_;
-  Patron hoja_;  // as it stands on the control; empty while the solid shows
+  Patron hoja_;          // as it stands on the control; empty while the solid shows
+  Veredicto veredicto_;  // on it
   EWdraw EWdraw_;
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;
   QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
+  Exportador* CmdExport_;
   QLabel* LblEstado_;
 };
 

@@ -45,6 +45,7 @@ constexpr std::array kDibujos{
     Dibujo{"CmdDesplegado", "M2 12L8 5L9.5 7.5Q12 10 14.5 7.5L16 5L22 12L17 19H7ZM9.5 7.5L7 19M14.5 7.5L17 19", ""},
     Dibujo{"CmdExacto",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M12 1V7M12 17V23M1 12H7M17 12H23",         ""},
     Dibujo{"CmdSave",       "M4 4H17L20 7V20H4ZM8 4V9H15V4M7 20V13H17V20",       ""},
+    Dibujo{"CmdExport",     "M12 3V14M8 10L12 14L16 10M4 13V20H20V13",           ""},
     Dibujo{"CmdCancelar",   kVuelve,                                             ""},
     Dibujo{"CmdExit",       kPuerta,                                             ""},
     Dibujo{"CmdSalir",      kPuerta,                                             ""},

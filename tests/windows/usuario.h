@@ -95,7 +95,9 @@ class ConVentanas : public testing::Test {
     namespace fs = std::filesystem;
     const fs::path duct = Ruta("Duct"), raiz = DUKTORES_RAIZ;
     fs::create_directories(duct / "Template");
-    fs::copy_file(raiz / "Template/Template.dxf", duct / "Template/Template.dxf");
+    for (const char* nombre : {"Template.dxf", "Cut.dxf"}) {
+      fs::copy_file(raiz / "Template" / nombre, duct / "Template" / nombre);
+    }
     fs::create_directory_symlink(raiz / "Images", duct / "Images");
     estado = {};
     estado.sRutaPrograma = duct.string() + "/";

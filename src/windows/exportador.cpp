@@ -1,0 +1,212 @@
+#include "windows/exportador.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "paint/pintura.h"
+#include "piece/numeros_texto.h"
+#include "shell/corrida.h"
+#include "shell/cortes.h"
+#include "shell/lista.h"
+#include "state/estado.h"
+#include "state/propio.h"
+#include "state/textos.h"
+#include "windows/iconos.h"
+
+namespace duktores {
+
+namespace {
+
+constexpr std::string_view kSeccion = "EXPORT", kCarpeta = "Folder";
+
+/// A kind of file: the key of its choice, and its name in the menu.
+struct ClaseFichero {
+  std::string_view clave;
+  int texto;
+  const char* literal;
+  std::optional<Formato> imagen;
+  bool alPrincipio;
+};
+constexpr std::array kClases{
+    ClaseFichero{"Cut", texto::kCortes, "", {}, true},
+    ClaseFichero{"Bends", texto::kListaDobleces, "", {}, true},
+    ClaseFichero{"Pdf", texto::kPdf, "", Formato::pdf, false},
+    ClaseFichero{"Svg", 0, "SVG", Formato::svg, false},
+    ClaseFichero{"Png", 0, "PNG", Formato::png, false},
+};
+enum Cual : std::size_t { kDeCorte, kDeDobleces };
+
+QString Q(const std::string& texto) { return QString::fromStdString(texto); }
+
+bool Elegida(const ClaseFichero& clase) {
+  return LeePropio(kSeccion, clase.clave).value_or(clase.alPrincipio ? "1" : "0") == "1";
+}
+
+/// Stays open while one chooses.
+class MenuElige : public QMenu {
+ public:
+  using QMenu::QMenu;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* suceso) override {
+    QAction* accion = activeAction();
+    accion && accion->isCheckable() ? accion->trigger() : QMenu::mouseReleaseEvent(suceso);
+  }
+};
+
+/// What is to be written, and under which names.
+class Entrega {
+ public:
+  Entrega(const Exportable& que, const QFileInfo& base, std::vector<bool> elegidas)
+      : que_(que),
+        carpeta_(base.absolutePath().toStdString()),
+        nombre_(base.fileName().toStdString()),
+        elegidas_(std::move(elegidas)) {
+    const Patron patron = DesarrolloDe(*estado.pieza, que.solido).patron;
+    if (elegidas_[kDeCorte] || elegidas_[kDeDobleces]) cortes_ = CortesDe(nombre_, que.solido, patron);
+  }
+
+  /// Asks what has to be asked; false if the user would rather not.
+  bool Pregunta(QWidget* padre) {
+    const std::string faltas = elegidas_[kDeCorte] ? TextoSinCorte(cortes_, que_.veredicto) : "";
+    if (!faltas.empty() && Si(padre, Q(faltas) + "\n\n" + Q(Texto(texto::kCortarIgual)))) cuales_ = Cuales::todas;
+    QStringList estan;
+    for (const std::string& nombre : Nombres()) {
+      if (QFileInfo::exists(Q(Ruta(nombre)))) estan += Q(nombre);
+    }
+    return estan.isEmpty() || Si(padre, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)));
+  }
+
+  /// Writes until something can't be written, which the user is told. What was written, in one line.
+  QString Escribe() {
+    std::vector<std::string> escritos;
+    const auto guarda = [&](const std::string& ruta, const Guardado& guardado) {
+      if (!guardado) MuestraMensaje(TextoNoGuardado(ruta, guardado), EstiloMensaje::exclamacion, "");
+      return static_cast<bool>(guardado);
+    };
+    std::string ruta;
+    bool bien = true;
+    if (elegidas_[kDeCorte]) {
+      const Guardado guardado = GuardaCortes(cortes_, que_.veredicto, cuales_, carpeta_, escritos, ruta);
+      bien = guarda(ruta, guardado);
+    } else {
+      cortes_.ficheros.assign(cortes_.ficheros.size(), "");
+    }
+    const auto anade = [&](const std::string& fichero, const auto& escribe) {
+      bien = bien && guarda(Ruta(fichero), escribe(Ruta(fichero)));
+      if (bien) escritos.push_back(fichero);
+    };
+    if (elegidas_[kDeDobleces]) {
+      const HabitoCsv habito = estado.bComaDecimal ? kConComa : kConPunto;
+      anade(FicheroDobleces(nombre_),
+            [&](const std::string& donde) { return EscribeFichero(donde, ListaDobleces(cortes_, habito)); });
+    }
+    const Escala escala = estado.iUnidad == 1 ? Escala::milimetros : Escala::pulgadas;
+    for (std::size_t i = 0; i < kClases.size(); ++i) {
+      if (!elegidas_[i] || !kClases[i].imagen) continue;
+      const Formato formato = *kClases[i].imagen;
+      anade(nombre_ + Sufijo(formato),
+            [&](const std::string& donde) { return GuardaImagen(que_.axew, donde, formato, escala); });
+    }
+    if (escritos.empty()) return {};
+    QStringList nombres;
+    for (const std::string& fichero : escritos) nombres += Q(fichero);
+    return Q(Texto(texto::kEscrito)) + " " + Q(carpeta_) + ": " + nombres.join(", ");
+  }
+
+ private:
+  static bool Si(QWidget* padre, const QString& pregunta) {
+    return QMessageBox::question(padre, {}, pregunta) == QMessageBox::Yes;
+  }
+  std::string Ruta(const std::string& fichero) const { return std::filesystem::path(carpeta_) / fichero; }
+  std::vector<std::string> Nombres() const {
+    std::vector<std::string> nombres;
+    if (elegidas_[kDeCorte]) nombres = cortes_.ficheros;
+    nombres.erase(std::unique(nombres.begin(), nombres.end()), nombres.end());
+    if (elegidas_[kDeDobleces]) nombres.push_back(FicheroDobleces(nombre_));
+    for (std::size_t i = 0; i < kClases.size(); ++i) {
+      if (elegidas_[i] && kClases[i].imagen) nombres.push_back(nombre_ + Sufijo(*kClases[i].imagen));
+    }
+    return nombres;
+  }
+
+  const Exportable& que_;
+  std::string carpeta_, nombre_;
+  std::vector<bool> elegidas_;
+  Cortes cortes_;
+  Cuales cuales_ = Cuales::sanas;
+};
+
+}  // namespace
+
+bool Imprime(QPrinter& impresora, const EWdraw& axew) {
+  const QRectF zona = ExtensionPintada(axew);
+  impresora.setPageOrientation(zona.width() > zona.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
+  QPainter pintor;
+  if (!pintor.begin(&impresora)) return false;
+  const QSizeF hoja = impresora.pageRect(QPrinter::DevicePixel).size();
+  Pinta(pintor, axew, Ajusta(axew, hoja), hoja, Fondo::claro);
+  return pintor.end();
+}
+
+Exportador::Exportador(std::function<Exportable()> que, QWidget* padre) : QPushButton(padre), que_(std::move(que)) {
+  PonBoton(*this, "CmdExport", Q(Texto(texto::kExporta)));
+  setAutoDefault(false);
+  auto* menu = new MenuElige(this);
+  menu->setObjectName("MenuExport");
+  for (const ClaseFichero& clase : kClases) {
+    QAction* accion = menu->addAction(clase.texto == 0 ? QString(clase.literal) : Q(Texto(clase.texto)));
+    accion->setCheckable(true);
+    accion->setChecked(Elegida(clase));
+    connect(accion, &QAction::toggled, this,
+            [&clase](bool elegida) { PonPropio(kSeccion, clase.clave, elegida ? "1" : "0"); });
+  }
+  menu->addSeparator();
+  connect(menu->addAction(Q(Texto(texto::kExporta)) + "..."), &QAction::triggered, this, &Exportador::Exporta);
+  connect(menu->addAction(Q(Texto(texto::kImprime)) + "..."), &QAction::triggered, this, &Exportador::ImprimeEnPapel);
+  setMenu(menu);
+}
+
+void Exportador::Exporta() {
+  const std::string_view clave = FilaDe(estado.pieza->tipo).dialogo.clave;
+  const std::string carpeta = LeePropio(kSeccion, kCarpeta).value_or(estado.sRutaDuct);
+  QFileDialog dialogo(window(), toolTip(), Q(carpeta));
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);
+  dialogo.selectFile(Q(std::string(clave)));
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
+  const QFileInfo elegido(dialogo.selectedFiles().first());
+  PonPropio(kSeccion, kCarpeta, elegido.absolutePath().toStdString());
+  std::vector<bool> elegidas;
+  for (const QAction* accion : menu()->actions()) {
+    if (accion->isCheckable()) elegidas.push_back(accion->isChecked());
+  }
+  const Exportable que = que_();
+  Entrega entrega(que, elegido, std::move(elegidas));
+  if (!entrega.Pregunta(window())) return;
+  CursorEspera(true);
+  const QString linea = entrega.Escribe();
+  CursorEspera(false);
+  if (!linea.isEmpty()) emit escrito(linea);
+}
+
+void Exportador::ImprimeEnPapel() {
+  QPrinter impresora;
+  QPrintDialog dialogo(&impresora, window());
+  if (dialogo.exec() != QDialog::Accepted) return;
+  if (Imprime(impresora, que_().axew)) return;
+  MuestraMensaje(Texto(texto::kNoPintado), EstiloMensaje::exclamacion, "");
+}
+
+}  // namespace duktores
