@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <charconv>
@@ -12,6 +13,7 @@
 #include "dxf/escritor.h"
 #include "dxf/numero_dxf.h"
 #include "paint/pintura.h"
+#include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/visor.h"
 #include "state/estado.h"
@@ -71,12 +73,31 @@ void Desarrolla(benchmark::State& s, TipoPieza tipo, std::int16_t exacto = 0) {
     benchmark::DoNotOptimize(estado.oDrawing->GetEntities().data());
   }
 }
-BENCHMARK_CAPTURE(Desarrolla, CR, TipoPieza::cr)->Name("Desarrollo/CR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrolla, RC, TipoPieza::rc)->Name("Desarrollo/RC")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrolla, Elip, TipoPieza::elip)->Name("Desarrollo/Elip")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, CR, TipoPieza::cr)
+    ->Name("Desarrollo/CR")
+    ->Arg(12)
+    ->Arg(120)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, RC, TipoPieza::rc)
+    ->Name("Desarrollo/RC")
+    ->Arg(12)
+    ->Arg(120)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, Elip, TipoPieza::elip)
+    ->Name("Desarrollo/Elip")
+    ->Arg(12)
+    ->Arg(120)
+    ->Unit(benchmark::kMicrosecond);
 
-BENCHMARK_CAPTURE(Desarrolla, ExactCR, TipoPieza::cr, 1)->Name("Desarrollo/ExactCR")->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Desarrolla, ExactEsp1, TipoPieza::esp1, 1)->Name("Desarrollo/ExactEsp1")->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, ExactCR, TipoPieza::cr, 1)
+    ->Name("Desarrollo/ExactCR")
+    ->Arg(120)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Desarrolla, ExactEsp1, TipoPieza::esp1, 1)
+    ->Name("Desarrollo/ExactEsp1")
+    ->Arg(16)
+    ->Arg(908)
+    ->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_CAPTURE(Desarrolla, Especial, TipoPieza::esp1)
     ->Name("Especial")
@@ -96,6 +117,62 @@ void Cotejo(benchmark::State& s, TipoPieza tipo) {
 }
 BENCHMARK_CAPTURE(Cotejo, CR, TipoPieza::cr)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Cotejo, Esp1, TipoPieza::esp1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+
+void Cortes_(benchmark::State& s, TipoPieza tipo) {
+  PonPieza(tipo, static_cast<int>(s.range(0)));
+  estado.pieza->regla = Regla::exacta;
+  const Solido solido = SolidoDe(*estado.pieza);
+  const Patron patron = DesarrolloDe(*estado.pieza, solido).patron;
+  for (auto _ : s) benchmark::DoNotOptimize(CortesDe("bench", solido, patron).partes.data());
+}
+BENCHMARK_CAPTURE(Cortes_, CR, TipoPieza::cr)->Name("Cortes/CR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Cortes_, Esp1, TipoPieza::esp1)
+    ->Name("Cortes/Esp1")
+    ->Arg(16)
+    ->Arg(908)
+    ->Unit(benchmark::kMicrosecond);
+
+// What is written of a pattern: the drawing, with its unfolding; the files for machine and press brake, with theirs;
+// the drawing on paper.
+enum class Que { dibujo, maquina, papel };
+void Escribe(benchmark::State& s, TipoPieza tipo, Que que) {
+  PonPieza(tipo, static_cast<int>(s.range(0)));
+  estado.pieza->regla = Regla::exacta;
+  Mesa mesa;
+  EWdraw axew;
+  axew.PonVista(&mesa);
+  Desplegado(axew);
+  const std::string carpeta = std::filesystem::temp_directory_path().string(), nombre = "duktores_bench";
+  const std::string base = carpeta + "/" + nombre;
+  const Solido solido = SolidoDe(*estado.pieza);
+  std::vector<std::string> escritos{nombre + ".dxf", nombre + ".pdf", FicheroDobleces(nombre)};
+  std::string ruta;
+  for (auto _ : s) {
+    Guardado guardado;
+    if (que == Que::dibujo) {
+      Desplegado(axew);
+      estado.oDXF->InsertEntities(estado.oDrawing);
+      guardado = estado.oDXF->Save(base + ".dxf");
+    } else if (que == Que::papel) {
+      guardado = GuardaImagen(axew, base + ".pdf", Formato::pdf, Escala::milimetros);
+    } else {
+      Cortes cortes = CortesDe(nombre, solido, DesarrolloDe(*estado.pieza, solido).patron);
+      guardado = GuardaCortes(cortes, {}, Cuales::todas, carpeta, escritos, ruta);
+      if (guardado) guardado = EscribeFichero(carpeta + "/" + escritos[2], ListaDobleces(cortes, kConPunto));
+    }
+    if (!guardado) s.SkipWithError("not saved");
+  }
+  for (const std::string& fichero : escritos) std::filesystem::remove(carpeta + "/" + fichero);
+}
+BENCHMARK_CAPTURE(Escribe, DibujoCR, TipoPieza::cr, Que::dibujo)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Escribe, MaquinaCR, TipoPieza::cr, Que::maquina)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Escribe, PapelCR, TipoPieza::cr, Que::papel)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Escribe, DibujoEsp1, TipoPieza::esp1, Que::dibujo)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Escribe, MaquinaEsp1, TipoPieza::esp1, Que::maquina)
+    ->Arg(16)
+    ->Arg(908)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Escribe, PapelEsp1, TipoPieza::esp1, Que::papel)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
 // One frame of the viewer while the solid turns.
 void PintaSolido(benchmark::State& s, TipoPieza tipo) {
@@ -176,3 +253,13 @@ void Save(benchmark::State& s) {
 BENCHMARK(Save)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
+
+// Texts of a picture need the application object.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication qt(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -10,6 +10,7 @@
 #include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/lista.h"
+#include "shell/nombres.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/caracteres.h"
@@ -226,6 +227,9 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
     resultado.rechazo = Despliega(axew, trabajo, solido, std::move(desarrollo), veredicto, plataforma);
     if (!veredicto.Cierto()) resultado.aviso = TextoVeredicto(veredicto);
     if (veredicto.Cierto()) resultado.nota = TextoNotas(veredicto);
+    if (!EsNombrePortatil(trabajo.nombre)) {
+      resultado.nota += (resultado.nota.empty() ? Texto(texto::kNota) + " " : "; ") + Texto(texto::kNombreAjeno);
+    }
     if (!veredicto.Cierto() && opciones.estricto) resultado.rechazo = {"pattern", resultado.aviso};
     if (!resultado.rechazo && !opciones.soloComprueba) {
       Guarda(axew, solido, patron, veredicto, trabajo, opciones, resultado);

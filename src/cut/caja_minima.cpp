@@ -31,28 +31,35 @@ std::vector<Punto2> Envolvente(std::vector<Punto2> puntos) {
 
 }  // namespace
 
-// One side of it lies along an edge of the hull.
+// One side of it lies along an edge of the hull. Round the hull the edges turn one way, so what lies furthest to the
+// right of an edge, above it and to its left goes round with it.
 Punto2 CajaMinima(const std::vector<Punto2>& puntos) {
   if (puntos.size() < 2) return {};
   const std::vector<Punto2> casco = Envolvente(puntos);
+  const std::size_t n = casco.size();
   Punto2 mejor;
   double menor = std::numeric_limits<double>::infinity();
-  for (std::size_t i = 0; i < casco.size(); ++i) {
-    const Punto2 lado = casco[(i + 1) % casco.size()] - casco[i];
+  std::size_t derecha = 0, alto = 0, izquierda = 0;
+  for (std::size_t i = 0; i < n; ++i) {
+    const Punto2 lado = casco[(i + 1) % n] - casco[i];
     const double largo = std::hypot(lado.x, lado.y);
     if (!(largo > 0)) continue;
-    const Punto2 u = (1 / largo) * lado;
-    double izquierda = 0, derecha = 0, alto = 0;
-    for (const Punto2 p : casco) {
-      const Punto2 v = p - casco[i];
-      const double a = u.x * v.x + u.y * v.y;
-      izquierda = std::min(izquierda, a);
-      derecha = std::max(derecha, a);
-      alto = std::max(alto, Vectorial2(u, v));
-    }
-    if ((derecha - izquierda) * alto >= menor) continue;
-    menor = (derecha - izquierda) * alto;
-    mejor = {std::max(derecha - izquierda, alto), std::min(derecha - izquierda, alto)};
+    const Punto2 u = (1 / largo) * lado, v{-u.y, u.x};
+    const auto lejos = [&](std::size_t k, Punto2 w) {
+      const Punto2 p = casco[k % n] - casco[i];
+      return w.x * p.x + w.y * p.y;
+    };
+    const auto avanza = [&](std::size_t& k, std::size_t desde, Punto2 w) {
+      k = std::max(k, desde);
+      while (k < i + n && lejos(k + 1, w) > lejos(k, w)) ++k;
+    };
+    avanza(derecha, i + 1, u);
+    avanza(alto, derecha, v);
+    avanza(izquierda, alto, -1 * u);
+    const double ancho = lejos(derecha, u) - lejos(izquierda, u), altura = lejos(alto, v);
+    if (ancho * altura >= menor) continue;
+    menor = ancho * altura;
+    mejor = {std::max(ancho, altura), std::min(ancho, altura)};
   }
   return mejor;
 }
