@@ -39,9 +39,9 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   app.add_option("--out", opciones.carpeta, "folder of the drawings, made if missing")
       ->type_name("DIR")
       ->capture_default_str();
-  app.add_flag("--png", png, "a PNG picture of each pattern beside its drawing");
-  app.add_flag("--svg", svg, "the same as SVG");
-  app.add_flag("--pdf", pdf, "the same as PDF");
+  app.add_flag("--png", png, "a PNG picture of each pattern beside its drawing, large enough to read it");
+  app.add_flag("--svg", svg, "the pattern as SVG, as large as it is");
+  app.add_flag("--pdf", pdf, "the pattern as PDF, on a page as large as it is");
   app.add_flag("--solid", opciones.solido, "with a picture option: a picture of each solid too, NAME-3d");
   app.add_flag("--cut", opciones.cortes, "a cut file of each shape, NAME-1of2.dxf, as section MACHINE says");
   app.add_flag("--force", opciones.fuerza, "cut files also of patterns that aren't true and shapes that aren't sound");

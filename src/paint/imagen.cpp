@@ -63,11 +63,12 @@ QSizeF TamanoLegible(const EWdraw& axew) {
   const QSizeF dibujo = escala * zona.size();
   const bool legible = !(escala > Ajusta(axew, pagina).escala);
   if (legible || !std::isfinite(dibujo.width() * dibujo.height())) return pagina;
-  const double margen = kMargen * std::max(std::min(dibujo.width(), dibujo.height()), kAltoMinimo);
+  const QSizeF minimo = QSizeF(kAncho, kAltoMinimo), ancha = dibujo.expandedTo(minimo);
+  const double margen = kMargen * std::min(ancha.width(), ancha.height());
   const QSizeF lleno(dibujo.width() + margen, dibujo.height() + margen);
   const double cabe = std::min(
       {1.0, kLado / lleno.width(), kLado / lleno.height(), std::sqrt(kPixeles / (lleno.width() * lleno.height()))});
-  return QSizeF((cabe * lleno).toSize()).expandedTo({kAncho, kAltoMinimo});
+  return QSizeF((cabe * lleno).toSize()).expandedTo(minimo);
 }
 
 Lamina LaminaAjustada(const EWdraw& axew, QSizeF tamano) {

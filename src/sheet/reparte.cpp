@@ -90,20 +90,20 @@ Filas LlenaFilas(const std::vector<Grupo>& grupos, double ancho) {
   return filas;
 }
 
-/// The rows that with `fijo`, the width of what stands left of them, come nearest to the shape of a screen.
+/// The rows that show largest on a page as wide as a screen, with `fijo`, the width of what stands left of them.
 Filas EligeFilas(const std::vector<Grupo>& grupos, Punto2 hueco, double fijo) {
   constexpr double kForma = 16.0 / 9;
   Filas mejor;
-  double menor = HUGE_VAL;
+  std::pair menor(HUGE_VAL, HUGE_VAL);
   for (std::size_t desde = 0; desde < grupos.size(); ++desde) {
-    double ancho = 0;
+    double limite = 0;
     for (std::size_t i = desde; i < grupos.size(); ++i) {
-      ancho += grupos[i].ancho;
-      Filas filas = LlenaFilas(grupos, ancho);
-      const double forma = (fijo + filas.ancho - hueco.x) / (filas.alto - hueco.y);
-      const double falta = std::abs(std::log(forma / kForma));
-      if (!mejor.finales.empty() && !(falta < menor)) continue;
-      menor = falta;
+      limite += grupos[i].ancho;
+      Filas filas = LlenaFilas(grupos, limite);
+      const double ancho = fijo + filas.ancho - hueco.x, alto = filas.alto - hueco.y;
+      const std::pair pagina(std::max(ancho, kForma * alto), ancho + alto);
+      if (!mejor.finales.empty() && !(pagina < menor)) continue;
+      menor = pagina;
       mejor = std::move(filas);
     }
   }
