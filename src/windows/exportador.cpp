@@ -156,7 +156,7 @@ bool Imprime(QPrinter& impresora, const EWdraw& axew) {
   QPainter pintor;
   if (!pintor.begin(&impresora)) return false;
   const QSizeF hoja = impresora.pageRect(QPrinter::DevicePixel).size();
-  Pinta(pintor, axew, Ajusta(axew, hoja), hoja, Fondo::claro);
+  Pinta(pintor, axew, Ajusta(axew, hoja), hoja, Fondo::claro, impresora.resolution());
   return pintor.end();
 }
 
