@@ -59,9 +59,10 @@ FrAjustes::FrAjustes(QWidget* padre)
   lblerror_->setStyleSheet(
       "QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; padding: 6px; }");
   lblerror_->hide();
-  for (const auto* campo : findChildren<QLineEdit*>())
+  for (const auto* campo : paginas_->findChildren<QLineEdit*>()) {
     connect(campo, &QLineEdit::textChanged, lblerror_, &QLabel::hide);
-  for (const auto* lista : findChildren<QComboBox*>()) {
+  }
+  for (const auto* lista : paginas_->findChildren<QComboBox*>()) {
     connect(lista, &QComboBox::currentIndexChanged, lblerror_, &QLabel::hide);
   }
   auto* columna = new QVBoxLayout(this);
