@@ -132,6 +132,17 @@ void FrAjustes::Rechaza(const QString& porque) {
   lblerror_->show();
 }
 
+void FrAjustes::Enfoca(QWidget& control) {
+  for (int i = 0; i < paginas_->count(); ++i) {
+    auto* rollo = static_cast<QScrollArea*>(paginas_->widget(i));
+    if (!rollo->isAncestorOf(&control)) continue;
+    paginas_->setCurrentIndex(i);
+    layout()->activate();  // the error's line takes its place first
+    rollo->ensureWidgetVisible(&control);
+  }
+  control.setFocus(Qt::OtherFocusReason);
+}
+
 void FrAjustes::accept() {
   std::vector<std::string> valores;
   std::vector<EntradaIni> cambios;
@@ -139,12 +150,8 @@ void FrAjustes::accept() {
   for (const RenglonAjuste& renglon : renglones_) {
     if (!renglon.Cambiado()) continue;
     if (!renglon.Sirve()) {
-      QWidget* foco = renglon.Foco();
-      for (int i = 0; i < paginas_->count(); ++i) {
-        if (paginas_->widget(i)->isAncestorOf(foco)) paginas_->setCurrentIndex(i);
-      }
-      foco->setFocus(Qt::OtherFocusReason);
-      return Rechaza(renglon.Rotulo() + ": " + renglon.Regla());
+      Rechaza(renglon.Rotulo() + ": " + renglon.Regla());
+      return Enfoca(*renglon.Foco());
     }
     valores.push_back(renglon.Valor());
     cambios.push_back({renglon.Fila().seccion, renglon.Fila().clave, valores.back()});

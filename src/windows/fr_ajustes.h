@@ -30,6 +30,7 @@ class FrAjustes : public QDialog {
   QWidget* Pagina(int pagina);
   QWidget* Pie();
   void Rechaza(const QString& porque);
+  void Enfoca(QWidget& control);
 
   LecturaConfiguracion lectura_;
   std::deque<RenglonAjuste> renglones_;
