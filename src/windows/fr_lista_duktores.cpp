@@ -30,6 +30,10 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   LstDuktores_->setObjectName("LstDuktores");
   LblGeneral_->setObjectName("LblGeneral");
   PicDuktores_->setObjectName("PicDuktores");
+  LblAviso_->setObjectName("LblAviso");
+  LblAviso_->setTextFormat(Qt::PlainText);
+  LblAviso_->setWordWrap(true);
+  LblAviso_->setCursor(Qt::PointingHandCursor);
   auto* continuar = new QPushButton(this);
   auto* salir = new QPushButton(this);
   auto* ajustes = new QPushButton(this);
@@ -90,10 +94,6 @@ void FrListaDuktores::AnadeLista() {
 void FrListaDuktores::PonAvisos(const std::vector<std::string>& avisos) {
   LblAviso_->setVisible(!avisos.empty());
   if (avisos.empty()) return;
-  LblAviso_->setObjectName("LblAviso");
-  LblAviso_->setTextFormat(Qt::PlainText);
-  LblAviso_->setWordWrap(true);
-  LblAviso_->setCursor(Qt::PointingHandCursor);
   const QString mas = avisos.size() > 1 ? QString(" (1/%1)").arg(avisos.size()) : QString();
   LblAviso_->setText(QString::fromStdString(avisos.front()) + mas);
   QStringList todos;
