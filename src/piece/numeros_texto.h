@@ -76,5 +76,22 @@ inline constexpr int kExporta = 174, kCortes = 175, kListaDobleces = 176, kPdf =
 inline constexpr int kEscrito = 179;         ///< names and folder follow
 inline constexpr int kCortarIgual = 180;     ///< a question
 inline constexpr int kReemplazarEsos = 181;  ///< likewise; names follow
+// The settings: what the window says, its rows and what they mean, choices, limits.
+inline constexpr int kNombreIdioma = 240;  ///< each language's own name
+inline constexpr int kAjustes = 241, kPiezasYDibujos = 242, kMaquina = 243;
+inline constexpr int kIdioma = 244, kUnidad = 245, kSuperficie = 246, kAlturaTextos = 247, kCotas = 248;
+inline constexpr int kColorDoblez = 249, kDesarrolloExacto = 250, kCarpetaGuardado = 251;
+inline constexpr int kQueUnidad = 252, kQueEspesor = 253, kQueSuperficie = 254, kQueDensidad = 255, kQueAltura = 256;
+inline constexpr int kQueCotas = 257, kQueCajetin = 258, kQueColor = 259, kQueDivisiones = 260, kQueExacto = 261;
+inline constexpr int kQueCarpeta = 262;
+inline constexpr int kMilimetros = 263, kPulgadas = 264;
+inline constexpr int kSuperficieInterior = 265, kSuperficieMedia = 266, kSuperficieExterior = 267;
+inline constexpr int kNumeroDesde = 268, kMayorQueCero = 269, kNumeroEntre = 270, kEnteroEntre = 271, kMultiplo = 272;
+inline constexpr int kCarpetaQueExiste = 273, kDeLaLista = 274;
+inline constexpr int kSinConfiguracion = 275;  ///< no configuration file; a click helps
+inline constexpr int kSeGuardan = 276;         ///< the file that keeps the settings
+inline constexpr int kCapaCorte = 277, kCapaArriba = 278, kCapaAbajo = 279, kCapaMarcas = 280;
+inline constexpr int kDoblecesCorte = 281, kNombreMarcado = 282, kTolerancia = 283, kDoblezMinimo = 284;
+inline constexpr int kArcos = 285, kUnFichero = 286, kNinguno = 287, kLineasEnteras = 288, kTrazos = 289;
 
 }  // namespace duktores::texto

@@ -9,10 +9,7 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
-#include <limits>
 #include <new>
-#include <optional>
-#include <string_view>
 #include <thread>
 #include <type_traits>
 
@@ -22,6 +19,7 @@
 #include "state/fichero.h"
 #include "state/ini.h"
 #include "state/numeros.h"
+#include "state/propio.h"
 #include "state/textos.h"
 
 namespace duktores {
@@ -47,7 +45,6 @@ struct Clave {
 };
 constexpr std::string_view kMaquina = "MACHINE";
 
-constexpr double kSinTope = std::numeric_limits<double>::max(), kMasQueCero = std::numeric_limits<double>::min();
 constexpr double kCorto = std::numeric_limits<std::int16_t>::max();
 
 template <std::int16_t EstadoPrograma::*valor>
@@ -104,13 +101,6 @@ constexpr ClaveCapa kCapas[]{{"CutLayer", &Maquina::capaCorte},
                              {"BendDownLayer", &Maquina::capaAbajo},
                              {"MarkLayer", &Maquina::capaMarca}};
 
-constexpr EntradaIni kTextos[]{{"LANGUAGE", "Language", {}}, {"DUCT", "Path", {}}};
-
-bool TieneSentido(const Clave& clave, const std::string& texto) {
-  const auto v = NumeroEntero(texto);
-  return v && *v >= clave.minimo && *v <= clave.maximo && (clave.paso == 0 || std::fmod(*v, clave.paso) == 0);
-}
-
 /// What every reader of a drawing takes, and no name that another layer has.
 bool EsCapa(const std::string& nombre, const std::vector<std::string>& otras) {
   constexpr std::size_t kLargo = 31;
@@ -134,10 +124,10 @@ std::string Aviso(std::string_view seccion, std::string_view clave, const std::s
 }
 
 /// The key of ours that stands there with a slip of the pen or two, names of few letters with one at most.
-const EntradaIni* Parecida(const std::vector<EntradaIni>& nuestras, const EntradaIni& escrita) {
+const ClaveLeida* Parecida(const std::vector<ClaveLeida>& nuestras, const EntradaIni& escrita) {
   constexpr std::size_t kCorta = 4;
-  const EntradaIni* parecida = nullptr;
-  for (const EntradaIni& nuestra : nuestras) {
+  const ClaveLeida* parecida = nullptr;
+  for (const ClaveLeida& nuestra : nuestras) {
     const int erratas = Erratas(escrita.seccion, nuestra.seccion) + Erratas(escrita.clave, nuestra.clave);
     if (erratas == 0) return nullptr;
     if (erratas <= (nuestra.clave.size() > kCorta ? 2 : 1)) parecida = &nuestra;
@@ -147,66 +137,73 @@ const EntradaIni* Parecida(const std::vector<EntradaIni>& nuestras, const Entrad
 
 /// Two layers of one name would be one to the machine: of such names the first counts, and of a layer whose name
 /// doesn't the usual one.
-void LeeCapas(const std::vector<EntradaIni>& entradas, std::vector<std::string>& avisos) {
+void LeeCapas(const std::vector<EntradaIni>& entradas, LecturaConfiguracion& lectura) {
   const Maquina usual;
   std::vector<std::string> ocupadas;
   for (const auto& [nombre, capa] : kCapas) {
     if (!LeeIni(entradas, kMaquina, nombre)) ocupadas.push_back(Mayusculas(usual.*capa));
   }
   for (const auto& [nombre, capa] : kCapas) {
-    estado.maquina.*capa = usual.*capa;
+    std::string& queda = estado.maquina.*capa = usual.*capa;
     const auto texto = LeeIni(entradas, kMaquina, nombre);
-    if (!texto) continue;
-    if (EsCapa(*texto, ocupadas)) {
-      estado.maquina.*capa = *texto;
-    } else {
-      std::string& queda = estado.maquina.*capa;
+    if (texto && EsCapa(*texto, ocupadas)) {
+      queda = *texto;
+    } else if (texto) {
       while (std::ranges::find(ocupadas, Mayusculas(queda)) != ocupadas.end()) queda += '_';
-      avisos.push_back(Aviso(kMaquina, nombre, *texto, texto::kValorMalo, queda));
+      lectura.avisos.push_back(Aviso(kMaquina, nombre, *texto, texto::kValorMalo, queda));
     }
-    ocupadas.push_back(Mayusculas(estado.maquina.*capa));
+    if (texto) ocupadas.push_back(Mayusculas(queda));
+    lectura.claves.push_back({kMaquina, nombre, texto, queda, {}});
   }
 }
 
-void Lee(const std::string& contenido, std::vector<std::string>& avisos) {
-  const auto entradas = EntradasIni(contenido);
+void Lee(const std::string& contenido, const std::string& propio, LecturaConfiguracion& lectura) {
+  const auto deInstalacion = EntradasIni(contenido);
+  auto entradas = EntradasIni(propio);
+  entradas.insert(entradas.end(), deInstalacion.begin(), deInstalacion.end());
   const auto idioma = LeeIni(entradas, "LANGUAGE", "Language");
   estado.dIdioma = LeeIdioma(idioma.value_or(""));
   if (idioma && std::ranges::find(kIdiomas, Mayusculas(Recorta(*idioma))) == kIdiomas.end()) {
-    avisos.push_back(Aviso("LANGUAGE", "Language", *idioma, texto::kValorMalo, std::string(kIdiomas[0])));
+    lectura.avisos.push_back(Aviso("LANGUAGE", "Language", *idioma, texto::kValorMalo, std::string(kIdiomas[0])));
   }
   DetectaComa();
-  estado.sRutaDuct = LeeIni(entradas, "DUCT", "Path").value_or("");
-  std::vector<EntradaIni> nuestras(std::begin(kTextos), std::end(kTextos));
-  std::vector<std::string> valen{std::string(kIdiomas[static_cast<std::size_t>(estado.dIdioma / 10000)]),
-                                 estado.sRutaDuct};
-  LeeCapas(entradas, avisos);
-  for (const auto& [nombre, capa] : kCapas) {
-    nuestras.push_back({kMaquina, nombre, {}});
-    valen.push_back(estado.maquina.*capa);
-  }
+  const auto carpeta = LeeIni(entradas, "DUCT", "Path");
+  estado.sRutaDuct = carpeta.value_or("");
+  const auto enIdioma = static_cast<std::size_t>(estado.dIdioma / 10000);
+  lectura.claves = {{"LANGUAGE", "Language", idioma, std::string(kIdiomas[enIdioma]), {}},
+                    {"DUCT", "Path", carpeta, estado.sRutaDuct, {}}};
+  LeeCapas(entradas, lectura);
   for (const Clave& clave : kClaves) {
     const auto texto = LeeIni(entradas, clave.seccion, clave.nombre);
-    const bool sano = texto && TieneSentido(clave, *texto), deMaquina = clave.seccion == kMaquina;
-    nuestras.push_back({clave.seccion, clave.nombre, {}});
+    const Limites limites{clave.minimo, clave.maximo, clave.paso};
+    const bool sano = texto && TieneSentido(limites, *texto), deMaquina = clave.seccion == kMaquina;
     const double v = !texto || (deMaquina && !sano) ? clave.defecto : NumeroIzquierda(*texto);
-    valen.push_back(TextoDeNumero(clave.pone(v)));
+    const std::string vale = TextoDeNumero(clave.pone(v));
+    lectura.claves.push_back({clave.seccion, clave.nombre, texto, vale, limites});
     if (texto && !sano) {
-      avisos.push_back(Aviso(clave.seccion, clave.nombre, *texto, texto::kValorMalo, valen.back()));
+      lectura.avisos.push_back(Aviso(clave.seccion, clave.nombre, *texto, texto::kValorMalo, vale));
     }
   }
-  for (const EntradaIni& entrada : entradas) {
-    if (const EntradaIni* nuestra = Parecida(nuestras, entrada)) {
-      const std::string vale =
-          std::string(nuestra->clave) + "=" + valen[static_cast<std::size_t>(nuestra - nuestras.data())];
-      avisos.push_back(Aviso(entrada.seccion, entrada.clave, TextoIni(entrada.valor), texto::kClaveMala, vale));
+  for (const EntradaIni& entrada : deInstalacion) {
+    if (const ClaveLeida* nuestra = Parecida(lectura.claves, entrada)) {
+      const std::string vale = std::string(nuestra->clave) + "=" + nuestra->vale;
+      lectura.avisos.push_back(Aviso(entrada.seccion, entrada.clave, TextoIni(entrada.valor), texto::kClaveMala, vale));
     }
   }
 }
 
-/// A program that writes the file anew empties it first: what has just changed is read again until it has come to rest.
-/// A file is empty a little before it is newer.
-std::string LeeQuieta(std::error_code& fallo) {
+}  // namespace
+
+bool TieneSentido(const Limites& limites, std::string_view texto) {
+  const auto v = NumeroEntero(texto);
+  return v && *v >= limites.minimo && *v <= limites.maximo && (limites.paso == 0 || std::fmod(*v, limites.paso) == 0);
+}
+
+std::span<const std::string_view> Idiomas() { return kIdiomas; }
+
+// A program that writes the file anew empties it first: what has just changed is read again until it has come to rest.
+// A file is empty a little before it is newer.
+std::string TextoConfiguracion(std::error_code& fallo) {
   using std::chrono_literals::operator""ms;
   constexpr std::size_t kMaximo = 1 << 20;
   constexpr int kIntentos = 100;
@@ -225,11 +222,10 @@ std::string LeeQuieta(std::error_code& fallo) {
   return {};
 }
 
-}  // namespace
-
 LecturaConfiguracion LeeConfiguracion() {
   LecturaConfiguracion lectura;
-  Lee(LeeQuieta(lectura.fallo), lectura.avisos);
+  const std::string contenido = TextoConfiguracion(lectura.fallo);
+  Lee(contenido, LeePropio(), lectura);
   return lectura;
 }
 

@@ -6,7 +6,6 @@
 #include "state/estado.h"
 #include "state/fichero.h"
 #include "state/guardado.h"
-#include "state/ini.h"
 
 namespace duktores {
 
@@ -31,12 +30,22 @@ std::optional<std::string> LeePropio(std::string_view seccion, std::string_view 
   return entrada ? std::optional(std::string(entrada->valor)) : std::nullopt;
 }
 
+std::string LeePropio() {
+  std::error_code fallo;
+  return Contenido(fallo).value_or("");
+}
+
 bool PonPropio(std::string_view seccion, std::string_view clave, std::string_view valor) {
+  return PonPropio(std::vector<EntradaIni>{{seccion, clave, valor}});
+}
+
+bool PonPropio(const std::vector<EntradaIni>& valores) {
   std::error_code fallo;
   const auto contenido = Contenido(fallo);
   // What can't be read is not written over.
   if (estado.sRutaPropia.empty() || (!contenido && fallo != std::errc::no_such_file_or_directory)) return false;
-  const std::string nuevo = PonIni(contenido.value_or(""), seccion, clave, valor);
+  std::string nuevo = contenido.value_or("");
+  for (const EntradaIni& e : valores) nuevo = PonIni(nuevo, e.seccion, e.clave, e.valor);
   if (contenido == nuevo) return true;
   if (HazCarpeta(std::filesystem::path(estado.sRutaPropia).parent_path()) != 0) return false;
   return static_cast<bool>(EscribeFichero(estado.sRutaPropia, nuevo));

@@ -14,7 +14,6 @@ namespace duktores {
 namespace {
 
 constexpr std::size_t kIdiomas = 7;
-constexpr int kPasoIdioma = 10000;  // from one language base to the next
 
 struct FilaTexto {
   int numero;

@@ -9,6 +9,7 @@
 
 namespace duktores {
 
+inline constexpr int kPasoIdioma = 10000;  ///< from one language base to the next
 inline constexpr double kChino = 60000.0;  ///< language base of Chinese
 
 /// Text of an id, whatever the configured language. An id without a text is an error of the run: std::out_of_range.

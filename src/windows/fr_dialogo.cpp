@@ -7,9 +7,11 @@
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/campo_texto.h"
+#include "windows/fr_ajustes.h"
 #include "windows/frm_view_unfold.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
@@ -17,13 +19,14 @@ namespace {
 
 constexpr int kMargen = 12, kAltoFila = 31, kAltoControl = 26;
 constexpr int kAnchoRotulo = 186, kAnchoControl = 96, kAnchoColumna = kAnchoRotulo + kAnchoControl + 24;
-constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46;
+constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46, kAltoAjustes = 34;
 constexpr int kFilasPorColumna = 11;
 
 int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
 
 QSize Diseno(const DefDialogo& def) {
-  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna, kMargen + kAltoImagen + kMargen + kAltoPie};
+  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna,
+          kMargen + kAltoImagen + kMargen + kAltoAjustes + kAltoPie};
 }
 
 QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
@@ -37,12 +40,13 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
       proporcion_(*this, Diseno(fila.dialogo)) {
   const DefDialogo& def = fila.dialogo;
   setObjectName(Q(def.nombre));
-  setWindowTitle(dialogo_.Titulo() ? Q(*dialogo_.Titulo()) : Q("duktores"));
+  textos_.Pon([this] { setWindowTitle(dialogo_.Titulo() ? Q(*dialogo_.Titulo()) : Q("duktores")); });
   auto* image1 = new Imagen(this);
   image1->setObjectName("Image1");
   image1->Carga(fila.imagen);
   proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
   Campos();
+  Ajustes(Diseno(def).height() - kAltoPie - kAltoAjustes);
   Pie(Diseno(def).height() - kAltoPie);
 }
 
@@ -51,7 +55,8 @@ void FrDialogo::Campos() {
   const int filas = (cuenta + columnas_ - 1) / columnas_;
   for (int i = 0; i < cuenta; ++i) {
     const int x = 2 * kMargen + kAnchoImagen + i / filas * kAnchoColumna, y = kMargen + i % filas * kAltoFila;
-    auto* rotulo = new QLabel(Q(dialogo_.TextoRotulo(i)), this);
+    auto* rotulo = new QLabel(this);
+    textos_.Pon([=, this] { rotulo->setText(Q(dialogo_.TextoRotulo(i))); });
     proporcion_.Coloca(*rotulo, {x, y, kAnchoRotulo, kAltoControl});
     controles_.push_back(ControlDe(i));
     proporcion_.Coloca(*controles_.back(), {x + kAnchoRotulo, y, kAnchoControl, kAltoControl});
@@ -59,8 +64,12 @@ void FrDialogo::Campos() {
   }
   if (!dialogo_.Definicion().opcionPiezas) return;
   const int x = 2 * kMargen + kAnchoImagen, y = kMargen + filas * kAltoFila;
-  auto* una = new QRadioButton(Q(Texto(texto::kUnaPieza)), this);
-  auto* dos = new QRadioButton(Q(Texto(texto::kDosPiezas)), this);
+  auto* una = new QRadioButton(this);
+  auto* dos = new QRadioButton(this);
+  textos_.Pon([=] {
+    una->setText(Q(Texto(texto::kUnaPieza)));
+    dos->setText(Q(Texto(texto::kDosPiezas)));
+  });
   una->setObjectName("OpUnapieza");
   dos->setObjectName("OpDosPiezas");
   dos->setChecked(dialogo_.dosPiezas);
@@ -89,6 +98,21 @@ QWidget* FrDialogo::ControlDe(int campo) {
   return lista;
 }
 
+// Under the fields: what isn't typed here but by the settings.
+void FrDialogo::Ajustes(int y) {
+  auto* ajustes = new QPushButton(this);
+  ajustes->setFlat(true);
+  ajustes->setStyleSheet("text-align: left");
+  ajustes->setCursor(Qt::PointingHandCursor);
+  textos_.Pon([ajustes] {
+    ajustes->setText(ResumenAjustes());
+    PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + " (Ctrl+,)");
+  });
+  ConectaAjustes(*ajustes);
+  const int x = 2 * kMargen + kAnchoImagen;
+  proporcion_.Coloca(*ajustes, {x, y, Diseno(dialogo_.Definicion()).width() - kMargen - x, kAltoAjustes - 4});
+}
+
 void FrDialogo::Pie(int y) {
   constexpr int kAnchoBoton = 130, kAltoBoton = 34;
   lblerror_ = new QLabel(this);
@@ -98,11 +122,16 @@ void FrDialogo::Pie(int y) {
   lblerror_->hide();
   proporcion_.Coloca(*lblerror_, {kMargen, y, kAnchoImagen, kAltoBoton});
 
-  const bool chino = estado.dIdioma == kChino;
-  auto* aceptar = new QPushButton(Q(Texto(texto::kAceptar)), this);
-  auto* cancelar = new QPushButton(Q(Texto(texto::kCancelar)), this);
-  PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
-  PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
+  auto* aceptar = new QPushButton(this);
+  auto* cancelar = new QPushButton(this);
+  textos_.Pon([=, this] {
+    const bool chino = estado.dIdioma == kChino;
+    aceptar->setText(Q(Texto(texto::kAceptar)));
+    cancelar->setText(Q(Texto(texto::kCancelar)));
+    PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
+    PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
+    if (!dialogo_.lblerror().empty()) lblerror_->setText(Q(Texto(dialogo_.Definicion().textoError)));
+  });
   aceptar->setDefault(true);
   const int derecha = Diseno(dialogo_.Definicion()).width() - kMargen;
   proporcion_.Coloca(*aceptar, {derecha - 2 * kAnchoBoton - kMargen, y, kAnchoBoton, kAltoBoton});
@@ -123,6 +152,11 @@ void FrDialogo::showEvent(QShowEvent* suceso) {
 }
 
 void FrDialogo::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
+
+// What is typed stays as it is, under new labels.
+void FrDialogo::customEvent(QEvent* suceso) {
+  if (suceso->type() == ConfiguracionLeida::Tipo()) textos_.Renueva();
+}
 
 void FrDialogo::CmdAceptar() {
   const Respuesta respuesta = dialogo_.CmdAceptar();

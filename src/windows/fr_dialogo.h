@@ -1,6 +1,6 @@
 #pragma once
-// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the error label and two
-// buttons. What the fields are and take is the dialog object's.
+// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, what a piece is made of
+// by the settings, the error label and two buttons. What the fields are and take is the dialog object's.
 
 #include <QDialog>
 #include <QLabel>
@@ -8,6 +8,7 @@
 
 #include "shell/lista.h"
 #include "windows/proporcion.h"
+#include "windows/textos_vivos.h"
 
 namespace duktores {
 
@@ -21,10 +22,12 @@ class FrDialogo : public QDialog {
  protected:
   void showEvent(QShowEvent* suceso) override;
   void resizeEvent(QResizeEvent* suceso) override;
+  void customEvent(QEvent* suceso) override;
 
  private:
   void Campos();
   QWidget* ControlDe(int campo);
+  void Ajustes(int y);
   void Pie(int y);
   void Activa();
   void CmdAceptar();
@@ -34,6 +37,7 @@ class FrDialogo : public QDialog {
   Proporcion proporcion_;
   std::vector<QWidget*> controles_;  // of the fields, in their order
   QLabel* lblerror_ = nullptr;
+  TextosVivos textos_;
 };
 
 }  // namespace duktores

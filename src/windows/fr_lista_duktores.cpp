@@ -6,6 +6,7 @@
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/fr_ajustes.h"
 #include "windows/fr_dialogo.h"
 #include "windows/iconos.h"
 #include "windows/ventanas.h"
@@ -23,17 +24,29 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
     : proporcion_(*this, kDiseno),
       LstDuktores_(new QListWidget(this)),
       LblGeneral_(new QLabel(this)),
+      LblAviso_(new QLabel(this)),
       PicDuktores_(new Imagen(this)) {
   setObjectName("FrListaDuktores");
   LstDuktores_->setObjectName("LstDuktores");
   LblGeneral_->setObjectName("LblGeneral");
   PicDuktores_->setObjectName("PicDuktores");
-  auto* continuar = new QPushButton(QString::fromStdString(Texto(texto::kContinuar)), this);
-  auto* salir = new QPushButton(QString::fromStdString(Texto(texto::kSalir)), this);
-  const bool chino = estado.dIdioma == kChino;
-  PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
-  PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
-  setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
+  LblAviso_->setObjectName("LblAviso");
+  LblAviso_->setTextFormat(Qt::PlainText);
+  LblAviso_->setWordWrap(true);
+  LblAviso_->setCursor(Qt::PointingHandCursor);
+  auto* continuar = new QPushButton(this);
+  auto* salir = new QPushButton(this);
+  auto* ajustes = new QPushButton(this);
+  textos_.Pon([=, this] {
+    const bool chino = estado.dIdioma == kChino;
+    continuar->setText(QString::fromStdString(Texto(texto::kContinuar)));
+    salir->setText(QString::fromStdString(Texto(texto::kSalir)));
+    PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
+    PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
+    PonBoton(*ajustes, "CmdAjustes", QString::fromStdString(Texto(texto::kAjustes)) + " (Ctrl+,)");
+    setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
+  });
+  ConectaAjustes(*ajustes);
 
   QFont negrita = font();
   negrita.setBold(true);
@@ -45,10 +58,19 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   proporcion_.Coloca(*PicDuktores_, {358, 66, 420, 340});
   proporcion_.Coloca(*continuar, {508, 430, 130, 34});
   proporcion_.Coloca(*salir, {648, 430, 130, 34});
+  proporcion_.Coloca(*ajustes, {12, 430, 38, 34});
+  proporcion_.Coloca(*LblAviso_, {58, 424, 438, 46});
 
   AnadeLista();
-  if (!avisos.empty()) AnadeAvisos(avisos);
+  textos_.Pon([this] {
+    for (std::size_t i = 0; i < FilasCatalogo().size(); ++i) {
+      LstDuktores_->item(static_cast<int>(i))->setText(QString::fromStdString(TextoFila(FilasCatalogo()[i])));
+    }
+    EligeFila();
+  });
+  PonAvisos(avisos);
   LstDuktores_->installEventFilter(this);
+  LblAviso_->installEventFilter(this);
   connect(LstDuktores_, &QListWidget::currentRowChanged, this, &FrListaDuktores::EligeFila);
   connect(LstDuktores_, &QListWidget::itemDoubleClicked, this, &FrListaDuktores::CmdContinuar);
   connect(continuar, &QPushButton::clicked, this, &FrListaDuktores::CmdContinuar);
@@ -60,7 +82,7 @@ void FrListaDuktores::AnadeLista() {
   letra.setPointSize(10);
   LstDuktores_->setFont(letra);
   for (const FilaCatalogo& fila : FilasCatalogo()) {
-    auto* renglon = new QListWidgetItem(QString::fromStdString(TextoFila(fila)), LstDuktores_);
+    auto* renglon = new QListWidgetItem(LstDuktores_);
     QFont propia = letra;
     propia.setBold(fila.clase == ClaseFila::categoria);
     renglon->setFont(propia);
@@ -69,17 +91,14 @@ void FrListaDuktores::AnadeLista() {
   LstDuktores_->setCurrentRow(0);
 }
 
-void FrListaDuktores::AnadeAvisos(const std::vector<std::string>& avisos) {
-  auto* LblAviso = new QLabel(this);
-  LblAviso->setObjectName("LblAviso");
-  LblAviso->setTextFormat(Qt::PlainText);
-  LblAviso->setWordWrap(true);
+void FrListaDuktores::PonAvisos(const std::vector<std::string>& avisos) {
+  LblAviso_->setVisible(!avisos.empty());
+  if (avisos.empty()) return;
   const QString mas = avisos.size() > 1 ? QString(" (1/%1)").arg(avisos.size()) : QString();
-  LblAviso->setText(QString::fromStdString(avisos.front()) + mas);
+  LblAviso_->setText(QString::fromStdString(avisos.front()) + mas);
   QStringList todos;
   for (const std::string& aviso : avisos) todos += QString::fromStdString(aviso).toHtmlEscaped();
-  LblAviso->setToolTip("<p>" + todos.join("</p><p>") + "</p>");
-  proporcion_.Coloca(*LblAviso, {12, 424, 484, 46});
+  LblAviso_->setToolTip("<p>" + todos.join("</p><p>") + "</p>");
 }
 
 void FrListaDuktores::EligeFila() {
@@ -112,7 +131,14 @@ void FrListaDuktores::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
 void FrListaDuktores::closeEvent(QCloseEvent*) { Termina(); }
 
+void FrListaDuktores::customEvent(QEvent* suceso) {
+  if (suceso->type() != ConfiguracionLeida::Tipo()) return;
+  textos_.Renueva();
+  PonAvisos(static_cast<ConfiguracionLeida*>(suceso)->avisos);
+}
+
 bool FrListaDuktores::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (objeto == LblAviso_ && suceso->type() == QEvent::MouseButtonRelease) AbreAjustes(*this);
   if (objeto == LstDuktores_ && suceso->type() == QEvent::KeyPress) {
     const int tecla = static_cast<QKeyEvent*>(suceso)->key();
     if (tecla == Qt::Key_Return || tecla == Qt::Key_Enter) {

@@ -50,6 +50,9 @@ constexpr std::array kDibujos{
     Dibujo{"CmdExit",       kPuerta,                                             ""},
     Dibujo{"CmdSalir",      kPuerta,                                             ""},
     Dibujo{"CmdAceptar",    "M4 13L9 18L20 6",                                   ""},
+    Dibujo{"CmdAjustes",    "M3 6H21M3 12H21M3 18H21",
+           "M8 3.5A2.5 2.5 0 1 0 8 8.5A2.5 2.5 0 1 0 8 3.5ZM16 9.5A2.5 2.5 0 1 0 16 14.5A2.5 2.5 0 1 0 16 9.5Z"
+           "M8 15.5A2.5 2.5 0 1 0 8 20.5A2.5 2.5 0 1 0 8 15.5Z"},
     Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
 };
 // clang-format on

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "piece/numeros_texto.h"
+#include "state/ajustes.h"
 #include "state/arranque.h"
 #include "state/estado.h"
 #include "state/textos.h"
@@ -47,11 +48,10 @@ int main(int argc, char** argv) {
   estado.plataforma = &plataforma;
   estado.sRutaPropia =
       QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString() + "/duktores.ini";
-  LecturaConfiguracion lectura = Arranca(RutaEjecutable());
+  const LecturaConfiguracion lectura = Arranca(RutaEjecutable());
   const bool falta = lectura.fallo == std::errc::no_such_file_or_directory;
-  if (lectura.fallo) lectura.avisos = {Texto(texto::kConfiguracion) + " " + estado.sRutaIni};
   CursorEspera(true);
-  FrListaDuktores lista(lectura.avisos);
+  FrListaDuktores lista(AvisosDe(lectura));
   plataforma.PonPrincipal(&lista);
   plataforma.HabilitaVentana(estado.hVentanaHost, false);
   lista.show();

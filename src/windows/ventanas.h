@@ -1,9 +1,25 @@
 #pragma once
 // What all windows of the program need.
 
+#include <QEvent>
+#include <string>
+#include <utility>
+#include <vector>
+
 class QWidget;
 
 namespace duktores {
+
+/// Goes to every window when the configuration has been read again: texts, unit and all else may have changed.
+struct ConfiguracionLeida : QEvent {
+  explicit ConfiguracionLeida(std::vector<std::string> lineas) : QEvent(Tipo()), avisos(std::move(lineas)) {}
+  static Type Tipo() {
+    static const Type tipo = static_cast<Type>(registerEventType());
+    return tipo;
+  }
+
+  std::vector<std::string> avisos;  ///< what is wrong with it, a line a key
+};
 
 /// Brings a window in front of all others without keeping it there.
 void TraeAlFrente(QWidget& ventana);

@@ -11,6 +11,7 @@
 #include <thread>
 #include <tuple>
 
+#include "state/ajustes.h"
 #include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/fichero.h"
@@ -192,6 +193,40 @@ TEST(Ini, Values) {
   const std::string casi(126, 'a');  // one character short of the longest value
   for (const char* cola : {"", "b"}) EXPECT_EQ(Valor("[s]\nk=" + casi + "é" + cola), casi + "é");
   EXPECT_EQ(Valor("[s]\nk=" + casi + "𝄞"), casi);
+}
+
+TEST_F(Arranque, SettingsGoToTheInstallationElseToTheUsersOwnFileWhichWins) {
+  const std::string propia = estado.sRutaPropia = (raiz_ / "home/duktores.ini").string();
+  Lanza("; host's\r\n[duct]\r\nFIBER = 2\r\nHost=\xF1\r\nNDivi=16");
+  estado.iDivisiones = 24;
+  EXPECT_EQ(RutaAjustes(), ini_);
+  EXPECT_TRUE(GuardaAjustes({{"DUCT", "Fiber", "3"}, {"LANGUAGE", "Language", "GERMAN"}, {"DUCT", "Box", "1"}}));
+  EXPECT_EQ(LeeFichero(ini_),
+            "; host's\r\n[duct]\r\nFiber=3\r\nHost=\xF1\r\nNDivi=16\r\nBox=1\r\n[LANGUAGE]\r\n"
+            "Language=GERMAN\r\n");
+  EXPECT_FALSE(fs::exists(propia));
+  EXPECT_EQ(AvisosDe(ReleeConfiguracion(false)), std::vector<std::string>());
+  EXPECT_TRUE(estado.dIdioma == 20000 && estado.iFibra == 3 && estado.iDivisiones == 24);
+  ReleeConfiguracion(true);
+  EXPECT_EQ(estado.iDivisiones, 16);
+
+  fs::remove_all(raiz_ / "Config");
+  EXPECT_EQ(AvisosDe(ReleeConfiguracion(true)),
+            std::vector{"No hay configuración. Pulse aquí para ajustarla: " + ini_});
+  EXPECT_EQ(RutaAjustes(), propia);
+  EXPECT_TRUE(GuardaAjustes({{"DUCT", "Fiber", "1"}, {"DUCT", "NDivi", "18"}, {"SAVE", "Fibr", "x"}}));
+  EXPECT_EQ(AvisosDe(ReleeConfiguracion(true)), std::vector<std::string>{"DUCT NDivi=18: valor no válido, se usa: 18"});
+
+  fs::create_directories(raiz_ / "Config");
+  EXPECT_TRUE(Lanza("[DUCT]\nFiber=2\nBox=1\n").ends_with(" 1 0 0 0 18 1 0"));
+  // What the user's own file hides there is changed in both.
+  EXPECT_TRUE(GuardaAjustes({{"DUCT", "Fiber", "3"}, {"DUCT", "Box", "0"}}));
+  EXPECT_EQ(*LeeFichero(ini_) + *LeeFichero(propia),
+            "[DUCT]\nFiber=3\nBox=0\n[DUCT]\nFiber=3\nNDivi=18\n[SAVE]\nFibr=x\n");
+  estado.sRutaPropia.clear();  // as in the batch program
+  EXPECT_TRUE(Lanza().ends_with(" 3 0 0 0 0 0 0"));
+  fs::remove_all(raiz_ / "Config");
+  EXPECT_FALSE(GuardaAjustes({{"DUCT", "Fiber", "1"}}));
 }
 
 TEST_F(Arranque, TheUsersOwnFileKeepsValuesAndAllThatStandsBesideThem) {
