@@ -51,8 +51,7 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
       ->check(
           [](const std::string& ruta) -> std::string { return EsInforme(ruta) ? "" : "must end in .csv or .json"; });
   app.add_flag("--comma", coma, "tables with a decimal comma, and semicolons between fields");
-  app.add_flag("--check", opciones.soloComprueba, "only check the jobs, with --strict their patterns; write nothing")
-      ->excludes("--cut", "--bends", "--report");
+  app.add_flag("--check", opciones.soloComprueba, "only check the jobs, with --strict their patterns; write nothing");
   app.add_flag("--strict", opciones.estricto,
                "refuse a piece whose pattern isn't true to its solid, and a configuration with a faulty key");
   app.add_flag("--exact", ordenes.exacto, "develop exactly, whatever the configuration says");
@@ -71,10 +70,13 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
       ->transform(CLI::AsSizeValue(false));
   try {
     app.parse(argc, argv);
+    opciones.informe = !ordenes.informe.empty();
+    if (opciones.soloComprueba && opciones.QuierePartes()) {
+      throw CLI::ExcludesError("--check", "--cut, --bends and --report");
+    }
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
   }
-  opciones.informe = !ordenes.informe.empty();
   if (coma) opciones.habito = kConComa;
   if (png) opciones.imagenes.push_back(Formato::png);
   if (svg) opciones.imagenes.push_back(Formato::svg);

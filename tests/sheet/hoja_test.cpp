@@ -171,7 +171,7 @@ void ExpectAparte(const EWdraw& axew, const Mesa& mesa) {
       EXPECT_FALSE(bloque) << i;
       EXPECT_NEAR(caja.minimo.x, cajas.front().minimo.x, margen);
       porFila = 1;
-    } else if (i > 1) {
+    } else if (i > 1 && !cajas.empty()) {
       EXPECT_NEAR(caja.minimo.y, cajas.back().minimo.y, margen + kPanel);
     }
     masPorFila = std::max(masPorFila, porFila);
