@@ -63,12 +63,11 @@ class Cadena {
   bool EsArco(std::size_t desde, std::size_t hasta) const {
     const auto circulo = PorTres(En(desde), En(Medio(desde, hasta)), En(hasta));
     if (!circulo) return false;
-    const auto cerca = [&](Punto2 p) {
-      return std::abs(Distancia(p, circulo->centro) - circulo->radio) <= afinado_.tolerancia;
-    };
+    const auto cerca = [&](double alCentro) { return std::abs(alCentro - circulo->radio) <= afinado_.tolerancia; };
     double vuelta = 0;
     for (std::size_t i = desde; i < hasta; ++i) {
-      if (!cerca(En(i)) || !cerca(PuntoMedio(En(i), En(i + 1)))) return false;
+      if (!cerca(Distancia(En(i), circulo->centro))) return false;
+      if (!cerca(DistanciaASegmento(circulo->centro, En(i), En(i + 1)))) return false;
       const Punto2 u = En(i) - circulo->centro, v = En(i + 1) - circulo->centro;
       const double giro = Vectorial2(u, v);
       if (vuelta * giro < 0) return false;
