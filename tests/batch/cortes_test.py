@@ -162,6 +162,52 @@ class Cuts(Batch):
         arcs = [sum(e.dxftype() == "ARC" for e in ezdxf.readfile(f).modelspace()) for f in self.folder.glob("*[0-9]of[0-9].dxf")]
         self.assertGreater(sum(arcs), 50)
 
+    def batch(self, jobs, *options, machine=""):
+        (self.folder / "jobs").write_text(json.dumps(jobs))
+        (self.folder / "ini").write_text(CONFIG % ("ENGLISH", 0, 0) + "[MACHINE]\n" + machine)
+        run = subprocess.run([PROGRAM, "jobs", "--config", "ini", "--out", "out", *options], cwd=self.folder,
+                             capture_output=True, text=True, timeout=60)
+        files = {f.name for f in self.folder.glob("out/*")}
+        return run.returncode, run.stdout.splitlines(), files
+
+    def test_bends_known_in_closed_form(self):
+        """A square tube with rounded corners, four strips to each: a fold every 22.5 degrees, as long as it is high."""
+        tube = {f"r{mouth}{corner}": 50 for mouth in (1, 2) for corner in (1, 2, 3, 4)}
+        sides = dict.fromkeys(("LX1", "LY1", "LX2", "LY2"), 300)
+        job = {"name": "tube", "piece": "TransEsp1", "H": 250, **tube, **sides, "AX": 0, "AY": 0, "Alfa": 0, "Beta": 0,
+               "Divisions": 16}
+        self.assertEqual(self.batch([job], "--exact", "--bends", "--comma")[0], 0)
+        lines = (self.folder / "out/tube-bends.csv").read_text("utf-8-sig").splitlines()
+        self.assertEqual(lines[0], "file;shape;number;length;angle;direction;x1;y1;x2;y2")
+        self.assertEqual(len(lines), 1 + 4 * 3)
+        for line in lines[1:]:
+            self.assertEqual(line.split(";")[3:6], ["250", "22,5", "down"], line)
+
+    def test_names(self):
+        """Portable ones in the cut files, and no two files of one name."""
+        def job(name):
+            return {**JOBS[0], "name": name}
+        status, answers, files = self.batch([job("H\u00f6he & so"), job("con"), job("tail."), job("=1")], "--cut", "--bends")
+        self.assertEqual(status, 0)
+        self.assertEqual(["system can store" in a for a in answers], [False, True, True, False])
+        self.assertLessEqual({"Hohe___so-1of2.dxf", "_con-2of2.dxf", "tail.-1of2.dxf", "_1-bends.csv"}, files)
+        clashes = [job("x"), job("X-1of2"), job("a b"), job("a_b"), job("y-cut"), job("z-3of2")]
+        status, answers, _ = self.batch(clashes, "--cut")
+        self.assertEqual([": refused name: " in a for a in answers], [False, True, True, True, False, False])
+        self.assertEqual(self.batch(clashes)[0], 0)
+
+    def test_false_patterns_and_parts_together(self):
+        false = next(job for job in JOBS if job["piece"] == "TransEsp3")
+        status, answers, files = self.batch([false], "--cut", "--report", "report.csv")
+        self.assertTrue(status == 1 and files == {false["name"] + ".dxf"} and "No cut file" in answers[0])
+        self.assertIn("WARNING", (self.folder / "report.csv").read_text("utf-8-sig"))
+        status, answers, files = self.batch([false, JOBS[0]], "--cut", "--force", machine="Together=1\n")
+        cut = JOBS[0]["name"] + "-cut.dxf"
+        self.assertLessEqual({cut, false["name"] + "-cut.dxf"}, files)
+        self.assertEqual(status, 0)
+        rings, _, _, _ = self.parts(self.folder / "out" / cut, 0)
+        self.assertGreater(min(p[0] for p in rings[1]), max(p[0] for p in rings[0]) + 9)
+
 
 if __name__ == "__main__":
     unittest.main(argv=sys.argv[:1])
