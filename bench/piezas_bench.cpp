@@ -118,19 +118,15 @@ void Cotejo(benchmark::State& s, TipoPieza tipo) {
 BENCHMARK_CAPTURE(Cotejo, CR, TipoPieza::cr)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(Cotejo, Esp1, TipoPieza::esp1)->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
-void Cortes_(benchmark::State& s, TipoPieza tipo) {
+void Partes(benchmark::State& s, TipoPieza tipo) {
   PonPieza(tipo, static_cast<int>(s.range(0)));
   estado.pieza->regla = Regla::exacta;
   const Solido solido = SolidoDe(*estado.pieza);
   const Patron patron = DesarrolloDe(*estado.pieza, solido).patron;
   for (auto _ : s) benchmark::DoNotOptimize(CortesDe("bench", solido, patron).partes.data());
 }
-BENCHMARK_CAPTURE(Cortes_, CR, TipoPieza::cr)->Name("Cortes/CR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(Cortes_, Esp1, TipoPieza::esp1)
-    ->Name("Cortes/Esp1")
-    ->Arg(16)
-    ->Arg(908)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Partes, CR, TipoPieza::cr)->Name("Cortes/CR")->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(Partes, Esp1, TipoPieza::esp1)->Name("Cortes/Esp1")->Arg(16)->Arg(908)->Unit(benchmark::kMicrosecond);
 
 // What is written of a pattern: the drawing, with its unfolding; the files for machine and press brake, with theirs;
 // the drawing on paper.

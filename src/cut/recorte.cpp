@@ -92,8 +92,10 @@ std::vector<Tramo> Contorno(const std::vector<Punto2>& puntos, const std::vector
 
 // A fold ends on vertices that stay, and isn't one if it runs along the outline. Two between the same vertices are one.
 std::vector<DoblezRecorte> Dobleces(const std::vector<Candidato>& candidatos, const std::vector<Punto2>& puntos,
-                                    const std::vector<Tramo>& contorno) {
+                                    const std::vector<Queda>& quedan, const std::vector<Tramo>& contorno) {
   const auto vertice = [&](std::size_t i) {
+    const auto suyo = std::ranges::lower_bound(quedan, i, {}, &Queda::vertice);
+    if (suyo != quedan.end() && suyo->vertice == i) return static_cast<std::size_t>(suyo - quedan.begin());
     const auto lejos = [&](const Tramo& t) { return Distancia(t.p, puntos[i]); };
     return static_cast<std::size_t>(std::ranges::min_element(contorno, {}, lejos) - contorno.begin());
   };
@@ -142,8 +144,9 @@ Recorte RecorteDe(const Solido& solido, const FormaPatron& forma, const Maquina&
   for (const int v : {forma.antes[0], forma.antes[1], forma.despues[0], forma.despues[1]}) fijo[rodeo.En(v)] = true;
   Gira(rodeo, candidatos, fijo);
   const Afinado afinado{maquina.tolerancia * milimetro, kPasoMinimo * milimetro, maquina.arcos};
-  recorte.contorno = Contorno(rodeo.puntos, Adelgaza(rodeo.puntos, fijo, afinado));
-  recorte.dobleces = Dobleces(candidatos, rodeo.puntos, recorte.contorno);
+  const std::vector<Queda> quedan = Adelgaza(rodeo.puntos, fijo, afinado);
+  recorte.contorno = Contorno(rodeo.puntos, quedan);
+  recorte.dobleces = Dobleces(candidatos, rodeo.puntos, quedan, recorte.contorno);
   Mide(recorte);
   for (const Punto2 p : rodeo.puntos)
     recorte.tamano = {std::max(recorte.tamano.x, p.x), std::max(recorte.tamano.y, p.y)};
