@@ -27,6 +27,12 @@ caras() {
     Samples/pieces.json none
 }
 
+# ventanas PRESET SECONDS: a storm over the windows.
+ventanas() {
+  echo "A storm of $2 seconds over the windows"
+  DUKTORES_TORMENTA=$2 timeout $((2 * $2)) "build/$1/tests/test_windows" --gtest_filter='Tormenta.*' --gtest_brief=1
+}
+
 # fuzz SECONDS: runs each target that long from its seeds and from what earlier runs have added to build/fuzz/finds,
 # where an input that fails stays too.
 fuzz() {

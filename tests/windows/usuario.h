@@ -53,6 +53,8 @@ class Usuario : public QObject {
     pasos_.emplace_back(ventana, std::move(hace));
     reloj_.start();
   }
+  /// Looks no more at what comes.
+  void Calla() { callado_ = true; }
   void CierraMensaje(const std::string& texto) {
     Cuando("QMessageBox", [texto](QWidget& caja) {
       EXPECT_EQ(dynamic_cast<QMessageBox&>(caja).text().toStdString(), texto);
@@ -70,6 +72,7 @@ class Usuario : public QObject {
 
   void Mira() {
     constexpr int kPaciencia = 5000;
+    if (callado_) return;
     QTimer::singleShot(2, this, &Usuario::Mira);
     QWidget* ventana = QApplication::activeModalWidget();
     if (!ventana || !ventana->isVisible()) return reloj_.start(), void();
@@ -87,6 +90,7 @@ class Usuario : public QObject {
 
   std::deque<std::pair<std::string, std::function<void(QWidget&)>>> pasos_;
   QElapsedTimer reloj_;
+  bool callado_ = false;
 };
 
 class ConVentanas : public testing::Test {

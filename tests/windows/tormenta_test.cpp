@@ -1,0 +1,179 @@
+// A storm over all windows: random keys, clicks, drags, wheels, drops, resizes and closings, for as many seconds as
+// DUKTORES_TORMENTA says. Nothing may crash, hang or leave half a file.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QDirIterator>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QTest>
+#include <QTimer>
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <random>
+
+#include "state/textos.h"
+#include "windows/fr_lista_duktores.h"
+#include "windows/usuario.h"
+
+namespace duktores {
+namespace {
+
+constexpr std::array kTeclas{Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Escape, Qt::Key_Tab,   Qt::Key_Backspace,
+                             Qt::Key_Delete, Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Left,  Qt::Key_Right,
+                             Qt::Key_Home,   Qt::Key_Space,  Qt::Key_Plus,   Qt::Key_Minus, Qt::Key_Comma,
+                             Qt::Key_PageUp, Qt::Key_Insert, Qt::Key_F1,     Qt::Key_F7,    Qt::Key_F11,
+                             Qt::Key_F12,    Qt::Key_Period};
+
+class Tormenta : public ConVentanas {
+ protected:
+  int Al(int n) { return static_cast<int>(azar_() % static_cast<unsigned>(n)); }
+  QPoint EnAlguna(const QWidget& w) { return {Al(std::max(1, w.width())), Al(std::max(1, w.height()))}; }
+
+  /// The window that the user can reach.
+  static QWidget* Alcanzable() {
+    if (QWidget* menu = QApplication::activePopupWidget()) return menu;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+      if (w->isVisible()) return w;
+    }
+    return nullptr;
+  }
+  QWidget* Hijo(QWidget& ventana) {
+    QList<QWidget*> hijos{&ventana};
+    for (QWidget* hijo : ventana.findChildren<QWidget*>()) {
+      if (hijo->isVisible() && hijo->isEnabled()) hijos += hijo;
+    }
+    return hijos[Al(static_cast<int>(hijos.size()))];
+  }
+
+  void Tecla(QWidget& sobre) {
+    constexpr std::array kConCtrl{Qt::Key_V, Qt::Key_Z, Qt::Key_Y, Qt::Key_L, Qt::Key_S, Qt::Key_Comma, Qt::Key_A};
+    constexpr std::string_view kLetras = "0123456789123456789.,-EeUuWwBbNnSs?e";
+    switch (Al(8)) {
+      case 0:
+        return QTest::keyClick(&sobre, kConCtrl.at(static_cast<std::size_t>(Al(kConCtrl.size()))), Qt::ControlModifier);
+      case 1:
+      case 2:
+      case 3:
+        return QTest::keyClick(&sobre, kTeclas.at(static_cast<std::size_t>(Al(kTeclas.size()))));
+      default:
+        return QTest::keyClick(&sobre, kLetras[static_cast<std::size_t>(Al(static_cast<int>(kLetras.size())))]);
+    }
+  }
+
+  /// Nobody gets through a dialog by chance.
+  void Llena(QWidget& ventana) {
+    if (auto* filas = ventana.findChild<QListWidget*>("LstDuktores")) {
+      filas->setCurrentRow(Al(filas->count()));
+      return QTest::mouseClick(ventana.findChild<QPushButton*>("CmdContinuar"), Qt::LeftButton);
+    }
+    for (auto* lista : ventana.findChildren<QComboBox*>()) lista->setCurrentIndex(Al(std::max(1, lista->count())));
+    const auto campos = ventana.findChildren<QLineEdit*>();
+    for (auto* campo : campos) campo->setText(QString::number(campo == campos.first() ? 300 : 4 * Al(30)));
+    if (auto* aceptar = ventana.findChild<QPushButton*>("CmdAceptar")) QTest::mouseClick(aceptar, Qt::LeftButton);
+  }
+
+  void Suelta(QWidget& sobre) {
+    QMimeData datos;
+    Al(2) == 0 ? datos.setText("12.5") : datos.setUrls({QUrl::fromLocalFile(carpeta_.filePath("pieces.json"))});
+    QDropEvent suelta(EnAlguna(sobre), Qt::CopyAction, &datos, Qt::LeftButton, {});
+    QApplication::sendEvent(&sobre, &suelta);
+  }
+
+  void Raton(QWidget& sobre) {
+    const auto boton = std::array{Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}.at(
+        static_cast<std::size_t>(Al(4)));
+    switch (Al(4)) {
+      case 0:
+        return Arrastra(sobre, boton, EnAlguna(sobre), EnAlguna(sobre));
+      case 1:
+        return Rueda(sobre, EnAlguna(sobre), Al(2) == 0 ? 120 : -240);
+      case 2:
+        return QTest::mouseDClick(&sobre, boton, {}, EnAlguna(sobre));
+      default:
+        return QTest::mouseClick(&sobre, boton, {}, EnAlguna(sobre));
+    }
+  }
+
+  void Paso() {
+    if (reloj_.hasExpired(1000LL * segundos_)) return QApplication::exit();
+    QTimer::singleShot(0, qApp, [this] { Paso(); });
+    QWidget* ventana = Alcanzable();
+    if (!ventana) return QApplication::exit();
+    ++pasos_;
+    ++hondo_;
+    ++vistas_[ventana->objectName().toStdString() + " " + ventana->metaObject()->className()];
+    constexpr int kMuyHondo = 24;
+    const int que = Al(100);
+    // A printer is somebody else's.
+    if (hondo_ > kMuyHondo || qobject_cast<QPrintDialog*>(ventana)) {
+      ventana->close();
+    } else if (que < 45) {
+      Tecla(*Hijo(*ventana));
+    } else if (que < 90) {
+      Raton(*Hijo(*ventana));
+    } else if (que < 92) {
+      Suelta(*Hijo(*ventana));
+    } else if (que < 96) {
+      Llena(*ventana);
+    } else if (que == 96) {
+      ventana->resize(200 + Al(1400), 150 + Al(1000));
+    } else if (que < 99) {
+      ventana->close();
+    } else {
+      QApplication::clipboard()->setText(Al(2) == 0 ? "300" : "300 x 400");
+    }
+    --hondo_;
+  }
+
+  int segundos_ = std::atoi(qEnvironmentVariable("DUKTORES_TORMENTA", "60").toUtf8());
+  unsigned semilla_ = std::random_device{}();
+  std::mt19937 azar_{semilla_};
+  QElapsedTimer reloj_;
+  int pasos_ = 0, hondo_ = 0;
+  std::map<std::string, int> vistas_;  // steps in each window
+};
+
+TEST_F(Tormenta, NothingCrashesHangsOrIsLeftHalf) {
+  SCOPED_TRACE("seed " + std::to_string(semilla_));
+  usuario_.Calla();
+  QDir().mkpath(carpeta_.filePath("home"));
+  QDir::setCurrent(carpeta_.path());
+  estado.sRutaPropia = Ruta("home/duktores.ini");
+  estado.sRutaDuct = carpeta_.path().toStdString();
+  QFile::copy(DUKTORES_RAIZ "/Samples/pieces.json", carpeta_.filePath("pieces.json"));
+  reloj_.start();
+  while (!reloj_.hasExpired(1000LL * segundos_)) {
+    FrListaDuktores lista;
+    plataforma_.PonPrincipal(&lista);
+    lista.show();
+    QTimer::singleShot(0, qApp, [this] { Paso(); });
+    QApplication::exec();
+    plataforma_.PonPrincipal(nullptr);
+    CursorEspera(false);
+  }
+  EXPECT_GT(pasos_, 20 * segundos_);
+  for (QDirIterator i(carpeta_.path(), {"*.dxf", "*.tmp"}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+       i.hasNext();) {
+    QFile fichero(i.next());
+    EXPECT_TRUE(fichero.open(QIODevice::ReadOnly) && fichero.readAll().trimmed().endsWith("EOF"))
+        << fichero.fileName().toStdString();
+  }
+  for (const auto& [ventana, pasos] : vistas_) std::printf("%7d steps in %s\n", pasos, ventana.c_str());
+  QDir::setCurrent("/");
+}
+
+}  // namespace
+}  // namespace duktores
