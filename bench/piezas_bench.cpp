@@ -141,7 +141,7 @@ void Escribe(benchmark::State& s, TipoPieza tipo, Que que) {
   const std::string carpeta = std::filesystem::temp_directory_path().string(), nombre = "duktores_bench";
   const std::string base = carpeta + "/" + nombre;
   const Solido solido = SolidoDe(*estado.pieza);
-  std::vector<std::string> escritos{nombre + ".dxf", nombre + ".pdf", FicheroDobleces(nombre)};
+  const Cortes todos = CortesDe(nombre, solido, DesarrolloDe(*estado.pieza, solido).patron);
   std::string ruta;
   for (auto _ : s) {
     Guardado guardado;
@@ -152,12 +152,15 @@ void Escribe(benchmark::State& s, TipoPieza tipo, Que que) {
     } else if (que == Que::papel) {
       guardado = GuardaImagen(axew, base + ".pdf", Formato::pdf, Escala::milimetros);
     } else {
-      Cortes cortes = CortesDe(nombre, solido, DesarrolloDe(*estado.pieza, solido).patron);
-      guardado = GuardaCortes(cortes, {}, Cuales::todas, carpeta, escritos, ruta);
-      if (guardado) guardado = EscribeFichero(carpeta + "/" + escritos[2], ListaDobleces(cortes, kConPunto));
+      const Cortes cortes = CortesDe(nombre, solido, DesarrolloDe(*estado.pieza, solido).patron);
+      guardado = GuardaCortes(cortes, carpeta, ruta);
+      if (guardado)
+        guardado = EscribeFichero(carpeta + "/" + FicheroDobleces(nombre), ListaDobleces(cortes, kConPunto));
     }
     if (!guardado) s.SkipWithError("not saved");
   }
+  std::vector<std::string> escritos = Ficheros(todos);
+  escritos.insert(escritos.end(), {nombre + ".dxf", nombre + ".pdf", FicheroDobleces(nombre)});
   for (const std::string& fichero : escritos) std::filesystem::remove(carpeta + "/" + fichero);
 }
 BENCHMARK_CAPTURE(Escribe, DibujoCR, TipoPieza::cr, Que::dibujo)->Arg(12)->Arg(120)->Unit(benchmark::kMicrosecond);

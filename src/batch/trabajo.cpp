@@ -141,17 +141,17 @@ class Salida {
     return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
   bool Maquina(Cortes& cortes, const Veredicto& veredicto) {
-    std::string ruta;
-    std::vector<std::string> escritos;
-    const Cuales cuales = opciones_.fuerza ? Cuales::todas : Cuales::sanas;
-    if (opciones_.cortes) {
-      const Guardado guardado = GuardaCortes(cortes, veredicto, cuales, opciones_.carpeta, escritos, ruta);
-      if (!Anota(ruta, guardado)) return false;
-    }
     const std::string faltas = TextoSinCorte(cortes, veredicto);
     resultado_.sinCorte = opciones_.cortes && !opciones_.fuerza && !faltas.empty();
     if (resultado_.sinCorte) Avisa(faltas);
-    if (!opciones_.cortes) cortes.ficheros.assign(cortes.ficheros.size(), "");
+    if (opciones_.cortes) {
+      Deja(cortes, veredicto, opciones_.fuerza ? Cuales::todas : Cuales::sanas);
+      std::string ruta;
+      const Guardado guardado = GuardaCortes(cortes, opciones_.carpeta, ruta);
+      if (!Anota(ruta, guardado)) return false;
+    } else {
+      cortes.ficheros.assign(cortes.ficheros.size(), "");
+    }
     if (!opciones_.dobleces) return true;
     const std::string lista = std::filesystem::path(opciones_.carpeta) / FicheroDobleces(nombre_);
     return Anota(lista, EscribeFichero(lista, ListaDobleces(cortes, opciones_.habito)));

@@ -17,7 +17,7 @@ bool Milimetros() { return estado.iUnidad == 1; }
 
 double Milimetro() { return Milimetros() ? 1 : 1 / 25.4; }
 
-bool SeEscribe(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) {
+bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) {
   constexpr std::size_t kTriangulo = 3;
   if (cuales == Cuales::todas) return recorte.contorno.size() >= kTriangulo;
   return veredicto.Cierto() && !recorte.falta;
@@ -66,28 +66,29 @@ std::string TextoSinCorte(const Cortes& cortes, const Veredicto& veredicto) {
   return faltas;
 }
 
-Guardado GuardaCortes(Cortes& cortes, const Veredicto& veredicto, Cuales cuales, const std::string& carpeta,
-                      std::vector<std::string>& escritos, std::string& ruta) {
-  std::vector<ParteCorte> juntas;
-  const auto guarda = [&](const std::string& fichero, std::span<const ParteCorte> partes) {
-    ruta = std::filesystem::path(carpeta) / fichero;
-    Guardado guardado = GuardaCorte(ruta, partes, estado.maquina, Milimetros());
-    if (guardado) escritos.push_back(fichero);
-    return guardado;
-  };
-  std::string comun;
+void Deja(Cortes& cortes, const Veredicto& veredicto, Cuales cuales) {
   for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
-    const ParteCorte& parte = cortes.partes[i];
-    if (!SeEscribe(parte.recorte, veredicto, cuales)) {
-      cortes.ficheros[i].clear();
-    } else if (estado.maquina.juntas) {
-      comun = cortes.ficheros[i];
-      juntas.push_back(parte);
-    } else if (Guardado guardado = guarda(cortes.ficheros[i], {&parte, 1}); !guardado) {
-      return guardado;
-    }
+    if (!SeCorta(cortes.partes[i].recorte, veredicto, cuales)) cortes.ficheros[i].clear();
   }
-  return juntas.empty() ? Guardado{} : guarda(comun, juntas);
+}
+
+std::vector<std::string> Ficheros(const Cortes& cortes) {
+  std::vector<std::string> ficheros = cortes.ficheros;
+  std::erase(ficheros, "");
+  ficheros.erase(std::unique(ficheros.begin(), ficheros.end()), ficheros.end());
+  return ficheros;
+}
+
+Guardado GuardaCortes(const Cortes& cortes, const std::string& carpeta, std::string& ruta) {
+  for (const std::string& fichero : Ficheros(cortes)) {
+    std::vector<ParteCorte> partes;
+    for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
+      if (cortes.ficheros[i] == fichero) partes.push_back(cortes.partes[i]);
+    }
+    ruta = std::filesystem::path(carpeta) / fichero;
+    if (Guardado guardado = GuardaCorte(ruta, partes, estado.maquina, Milimetros()); !guardado) return guardado;
+  }
+  return {};
 }
 
 std::string ListaDobleces(const Cortes& cortes, HabitoCsv habito) {

@@ -11,8 +11,8 @@
 
 namespace duktores {
 
-/// The parts of a piece. `ficheros` are the names of their files, without folder, in their order; all the same one
-/// where the machine wants them together.
+/// The parts of a piece. `ficheros` are the names of their files, without folder, in their order: all the same one
+/// where the machine wants them together, empty for a part that isn't cut.
 struct Cortes {
   std::vector<ParteCorte> partes;
   std::vector<std::string> ficheros;
@@ -25,13 +25,16 @@ Cortes CortesDe(const std::string& nombre, const Solido& solido, const Patron& p
 /// Empty if nothing does.
 std::string TextoSinCorte(const Cortes& cortes, const Veredicto& veredicto);
 
-/// Which parts are written: those that are sound of a pattern that is true, or all that have an outline.
+/// Which parts are cut: those that are sound of a pattern that is true, or all that have an outline.
 enum class Cuales { sanas, todas };
+/// Takes the files from all other parts.
+void Deja(Cortes& cortes, const Veredicto& veredicto, Cuales cuales);
 
-/// Writes the files of a piece into a folder and adds their names to `escritos`. Those of parts that aren't written are
-/// taken out of `cortes`. The first file that can't be written ends it; `ruta` is that one.
-Guardado GuardaCortes(Cortes& cortes, const Veredicto& veredicto, Cuales cuales, const std::string& carpeta,
-                      std::vector<std::string>& escritos, std::string& ruta);
+/// The names of the files, each once.
+std::vector<std::string> Ficheros(const Cortes& cortes);
+
+/// Writes the files into a folder. The first that can't be written ends it; `ruta` is that one.
+Guardado GuardaCortes(const Cortes& cortes, const std::string& carpeta, std::string& ruta);
 
 /// The folds of all parts, in the order of the shapes and of their numbers, with a head and the coordinates of the
 /// files.

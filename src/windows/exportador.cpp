@@ -75,12 +75,14 @@ class Entrega {
         elegidas_(std::move(elegidas)) {
     const Patron patron = DesarrolloDe(*estado.pieza, que.solido).patron;
     if (elegidas_[kDeCorte] || elegidas_[kDeDobleces]) cortes_ = CortesDe(nombre_, que.solido, patron);
+    if (!elegidas_[kDeCorte]) cortes_.ficheros.assign(cortes_.partes.size(), "");
   }
 
   /// Asks what has to be asked; false if the user would rather not.
   bool Pregunta(QWidget* padre) {
     const std::string faltas = elegidas_[kDeCorte] ? TextoSinCorte(cortes_, que_.veredicto) : "";
-    if (!faltas.empty() && Si(padre, Q(faltas) + "\n\n" + Q(Texto(texto::kCortarIgual)))) cuales_ = Cuales::todas;
+    const bool todas = !faltas.empty() && Si(padre, Q(faltas) + "\n\n" + Q(Texto(texto::kCortarIgual)));
+    Deja(cortes_, que_.veredicto, todas ? Cuales::todas : Cuales::sanas);
     QStringList estan;
     for (const std::string& nombre : Nombres()) {
       if (QFileInfo::exists(Q(Ruta(nombre)))) estan += Q(nombre);
@@ -96,13 +98,9 @@ class Entrega {
       return static_cast<bool>(guardado);
     };
     std::string ruta;
-    bool bien = true;
-    if (elegidas_[kDeCorte]) {
-      const Guardado guardado = GuardaCortes(cortes_, que_.veredicto, cuales_, carpeta_, escritos, ruta);
-      bien = guarda(ruta, guardado);
-    } else {
-      cortes_.ficheros.assign(cortes_.ficheros.size(), "");
-    }
+    const Guardado cortados = GuardaCortes(cortes_, carpeta_, ruta);
+    bool bien = guarda(ruta, cortados);
+    if (bien) escritos = Ficheros(cortes_);
     const auto anade = [&](const std::string& fichero, const auto& escribe) {
       bien = bien && guarda(Ruta(fichero), escribe(Ruta(fichero)));
       if (bien) escritos.push_back(fichero);
@@ -127,13 +125,14 @@ class Entrega {
 
  private:
   static bool Si(QWidget* padre, const QString& pregunta) {
-    return QMessageBox::question(padre, {}, pregunta) == QMessageBox::Yes;
+    QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
+    caja.setTextFormat(Qt::PlainText);  // names of files
+    caja.setText(pregunta);
+    return caja.exec() == QMessageBox::Yes;
   }
   std::string Ruta(const std::string& fichero) const { return std::filesystem::path(carpeta_) / fichero; }
   std::vector<std::string> Nombres() const {
-    std::vector<std::string> nombres;
-    if (elegidas_[kDeCorte]) nombres = cortes_.ficheros;
-    nombres.erase(std::unique(nombres.begin(), nombres.end()), nombres.end());
+    std::vector<std::string> nombres = Ficheros(cortes_);
     if (elegidas_[kDeDobleces]) nombres.push_back(FicheroDobleces(nombre_));
     for (std::size_t i = 0; i < kClases.size(); ++i) {
       if (elegidas_[i] && kClases[i].imagen) nombres.push_back(nombre_ + Sufijo(*kClases[i].imagen));
@@ -145,7 +144,6 @@ class Entrega {
   std::string carpeta_, nombre_;
   std::vector<bool> elegidas_;
   Cortes cortes_;
-  Cuales cuales_ = Cuales::sanas;
 };
 
 }  // namespace
