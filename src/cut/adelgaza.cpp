@@ -11,9 +11,9 @@ namespace {
 
 constexpr std::size_t kPasosDeArco = 4;  // fewer are no curve
 
-class Cadena {
+class Adelgazador {
  public:
-  Cadena(const std::vector<Punto2>& contorno, const Afinado& afinado) : contorno_(contorno), afinado_(afinado) {}
+  Adelgazador(const std::vector<Punto2>& contorno, const Afinado& afinado) : contorno_(contorno), afinado_(afinado) {}
 
   // Appends what stays of the vertices from `desde` up to and without `hasta`.
   void Recorre(std::size_t desde, std::size_t hasta, std::vector<Queda>& quedan) const {
@@ -80,6 +80,24 @@ class Cadena {
   const Afinado& afinado_;
 };
 
+// Of two vertices that are too near that one goes which isn't fixed, else that which is missed least.
+void Aparta(const std::vector<Punto2>& contorno, const std::vector<bool>& fijo, double paso,
+            std::vector<Queda>& quedan) {
+  const auto en = [&](std::size_t i) { return contorno[quedan[i % quedan.size()].vertice]; };
+  const auto error = [&](std::size_t i) { return DistanciaASegmento(en(i), en(i + quedan.size() - 1), en(i + 1)); };
+  for (std::size_t i = 0; i < quedan.size() && quedan.size() > 3;) {
+    const std::size_t otro = (i + 1) % quedan.size();
+    if (Distancia(en(i), en(otro)) >= paso) {
+      ++i;
+      continue;
+    }
+    const bool fijoEste = fijo[quedan[i].vertice], fijoOtro = fijo[quedan[otro].vertice];
+    const bool vaEste = fijoEste == fijoOtro ? error(i) < error(otro) : fijoOtro;
+    quedan.erase(quedan.begin() + static_cast<std::ptrdiff_t>(vaEste ? i : otro));
+    i = i > 0 ? i - 1 : 0;
+  }
+}
+
 }  // namespace
 
 std::optional<Circunferencia> PorTres(Punto2 a, Punto2 b, Punto2 c) {
@@ -93,31 +111,16 @@ std::optional<Circunferencia> PorTres(Punto2 a, Punto2 b, Punto2 c) {
 
 std::vector<Queda> Adelgaza(const std::vector<Punto2>& contorno, const std::vector<bool>& fijo,
                             const Afinado& afinado) {
-  const Cadena cadena(contorno, afinado);
+  const Adelgazador adelgazador(contorno, afinado);
   std::vector<Queda> quedan;
   std::size_t desde = 0;
   for (std::size_t i = 1; i <= contorno.size(); ++i) {
     if (i < contorno.size() && !fijo[i]) continue;
-    cadena.Recorre(desde, i, quedan);
+    adelgazador.Recorre(desde, i, quedan);
     desde = i;
   }
-  const auto cerca = [&](const Queda& a, const Queda& b) {
-    return Distancia(contorno[a.vertice], contorno[b.vertice]) < afinado.paso;
-  };
-  std::vector<Queda> apartados;
-  for (const Queda& queda : quedan) {
-    while (apartados.size() > 1 && fijo[queda.vertice] && !fijo[apartados.back().vertice] &&
-           cerca(apartados.back(), queda)) {
-      apartados.pop_back();
-    }
-    if (apartados.empty() || !cerca(apartados.back(), queda)) {
-      apartados.push_back(queda);
-    } else {
-      apartados.back().medio = queda.medio;
-    }
-  }
-  while (apartados.size() > 1 && cerca(apartados.back(), apartados.front())) apartados.pop_back();
-  return apartados;
+  Aparta(contorno, fijo, afinado.paso, quedan);
+  return quedan;
 }
 
 }  // namespace duktores

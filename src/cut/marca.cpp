@@ -28,9 +28,9 @@ struct Canto {
 
 class Sitios {
  public:
-  explicit Sitios(const Recorte& recorte) {
-    const std::size_t n = recorte.contorno.size();
-    for (std::size_t i = 0; i < n; ++i) cantos_.push_back({recorte.En(i), recorte.En((i + 1) % n), true});
+  Sitios(const Recorte& recorte, double fino) {
+    const std::vector<Punto2> borde = Poligono(recorte, fino);
+    for (std::size_t i = 0; i < borde.size(); ++i) cantos_.push_back({borde[i], borde[(i + 1) % borde.size()], true});
     for (const DoblezRecorte& d : recorte.dobleces) cantos_.push_back({recorte.En(d.enP), recorte.En(d.enQ), false});
     Rumbos(recorte);
   }
@@ -136,8 +136,8 @@ std::vector<Trazo> Escribe(std::string_view nombre, const Hueco& hueco, double u
 
 std::vector<Trazo> MarcaDe(const Recorte& recorte, std::string_view nombre, double milimetro) {
   if (recorte.falta || nombre.empty()) return {};
-  Sitios sitios(recorte);
   const double margen = kMargen * milimetro;
+  Sitios sitios(recorte, margen / 20);
   const auto ancho = [](std::size_t letras, double unidad) {
     return unidad * (kPasoLetra * static_cast<double>(letras) - (kPasoLetra - kAnchoLetra));
   };

@@ -18,6 +18,8 @@ namespace {
 constexpr int kDecimales = 6;
 constexpr double kHueco = 1e-5;  // edges that come nearer touch
 
+Punto2 Redondeado(Punto2 p) { return {Redondea(p.x, kDecimales), Redondea(p.y, kDecimales)}; }
+
 // The outline of the shape in the frame of the part, counter-clockwise, without its last vertex, and where the vertices
 // of the shape are in it.
 struct Rodeo {
@@ -35,8 +37,7 @@ struct Rodeo {
       doble += Vectorial2(p - contorno[0].p, contorno[i + 1].p - contorno[0].p);
     }
     for (std::size_t i = 0; i + 1 < contorno.size(); ++i) {
-      const Punto2 p = contorno[i].p - minimo;
-      puntos.push_back({Redondea(p.x, kDecimales), Redondea(p.y, kDecimales)});
+      puntos.push_back(Redondeado(contorno[i].p - minimo));
     }
     vuelto = doble < 0;
     if (vuelto) std::reverse(puntos.begin(), puntos.end());
@@ -47,20 +48,31 @@ struct Rodeo {
   }
 };
 
+double ConSigno(Doblez doblez) { return doblez.haciaArriba ? doblez.grados : -doblez.grados; }
+Doblez SinSigno(double grados) { return {std::abs(grados), grados > 0}; }
+
 struct Candidato {
   int numero;
   std::size_t p, q;  // in the whole outline
   Doblez doblez;
 };
 
+// Lines of too small an angle are left out and their angle goes to the next one, so that nothing of the bending is
+// lost; but a shape that has no others is rolled rather than folded.
 std::vector<Candidato> Candidatos(const Solido& solido, const FormaPatron& forma, const Rodeo& rodeo, double minimo) {
   std::vector<Candidato> candidatos;
+  double suma = 0, mayor = 0;
   for (std::size_t i = 0; i < forma.lineas.size(); ++i) {
     const Linea& linea = forma.lineas[i];
     const auto doblez = DoblezDe(solido, linea);
-    if (!doblez || !(doblez->grados >= minimo) || linea.enP < 0 || linea.enQ < 0) continue;
-    candidatos.push_back({static_cast<int>(i) + 1, rodeo.En(linea.enP), rodeo.En(linea.enQ), *doblez});
+    if (!doblez || linea.enP < 0 || linea.enQ < 0) continue;
+    mayor = std::max(mayor, doblez->grados);
+    suma += ConSigno(*doblez);
+    if (std::abs(suma) < minimo) continue;
+    candidatos.push_back({static_cast<int>(i) + 1, rodeo.En(linea.enP), rodeo.En(linea.enQ), SinSigno(suma)});
+    suma = 0;
   }
+  if (mayor < minimo) candidatos.clear();
   return candidatos;
 }
 
@@ -78,35 +90,59 @@ void Gira(Rodeo& rodeo, std::vector<Candidato>& candidatos, std::vector<bool>& f
   }
 }
 
-std::vector<Tramo> Contorno(const std::vector<Punto2>& puntos, const std::vector<Queda>& quedan) {
-  std::vector<Tramo> contorno;
+std::vector<Trecho> Contorno(const std::vector<Punto2>& puntos, const std::vector<Queda>& quedan) {
+  std::vector<Trecho> contorno;
   for (std::size_t i = 0; i < quedan.size(); ++i) {
-    Tramo& tramo = contorno.emplace_back(Tramo{puntos[quedan[i].vertice]});
+    Trecho& trecho = contorno.emplace_back(Trecho{puntos[quedan[i].vertice]});
     if (!quedan[i].medio) continue;
     const Punto2 medio = puntos[*quedan[i].medio], fin = puntos[quedan[(i + 1) % quedan.size()].vertice];
-    const auto circulo = PorTres(tramo.p, medio, fin);
-    if (circulo) tramo.arco = {circulo->centro, circulo->radio, Vectorial2(medio - tramo.p, fin - medio) > 0};
+    const auto circulo = PorTres(trecho.p, medio, fin);
+    if (circulo) trecho.arco = {circulo->centro, circulo->radio, Vectorial2(medio - trecho.p, fin - medio) > 0};
   }
   return contorno;
 }
 
-// A fold ends on vertices that stay, and isn't one if it runs along the outline. Two between the same vertices are one.
+// A fold ends on vertices that stay. Two between the same vertices are one, and what would run along the outline goes
+// to the next one.
 std::vector<DoblezRecorte> Dobleces(const std::vector<Candidato>& candidatos, const std::vector<Punto2>& puntos,
-                                    const std::vector<Queda>& quedan, const std::vector<Tramo>& contorno) {
+                                    const std::vector<Queda>& quedan, const std::vector<Trecho>& contorno) {
   const auto vertice = [&](std::size_t i) {
     const auto suyo = std::ranges::lower_bound(quedan, i, {}, &Queda::vertice);
     if (suyo != quedan.end() && suyo->vertice == i) return static_cast<std::size_t>(suyo - quedan.begin());
-    const auto lejos = [&](const Tramo& t) { return Distancia(t.p, puntos[i]); };
+    const auto lejos = [&](const Trecho& t) { return Distancia(t.p, puntos[i]); };
     return static_cast<std::size_t>(std::ranges::min_element(contorno, {}, lejos) - contorno.begin());
   };
   std::vector<DoblezRecorte> dobleces;
+  double suma = 0;
   for (const Candidato& c : candidatos) {
     const std::size_t p = vertice(c.p), q = vertice(c.q), n = contorno.size();
+    suma += ConSigno(c.doblez);
     if (p == q || (p + 1) % n == q || (q + 1) % n == p) continue;
     const auto igual = [p, q](const DoblezRecorte& d) { return std::minmax(d.enP, d.enQ) == std::minmax(p, q); };
-    if (std::ranges::none_of(dobleces, igual)) dobleces.push_back({c.numero, p, q, c.doblez});
+    const auto otro = std::ranges::find_if(dobleces, igual);
+    if (otro == dobleces.end()) {
+      dobleces.push_back({c.numero, p, q, SinSigno(suma)});
+    } else {
+      otro->doblez = SinSigno(ConSigno(otro->doblez) + suma);
+    }
+    suma = 0;
   }
   return dobleces;
+}
+
+// What thinning has taken away at the rim of the box is taken up again.
+void Asienta(Recorte& recorte, double fino) {
+  constexpr double kMitad = 0.5;
+  Punto2 minimo = recorte.En(0), maximo = minimo;
+  for (const Punto2 p : Poligono(recorte, kMitad * fino)) {
+    minimo = {std::min(minimo.x, p.x), std::min(minimo.y, p.y)};
+    maximo = {std::max(maximo.x, p.x), std::max(maximo.y, p.y)};
+  }
+  for (auto& [p, arco] : recorte.contorno) {
+    p = Redondeado(p - minimo);
+    if (arco) arco->centro = arco->centro - minimo;
+  }
+  recorte.tamano = Redondeado(maximo - minimo);
 }
 
 void Mide(Recorte& recorte) {
@@ -129,6 +165,24 @@ void Mide(Recorte& recorte) {
 
 }  // namespace
 
+std::vector<Punto2> Poligono(const Recorte& recorte, double flecha) {
+  std::vector<Punto2> poligono;
+  for (std::size_t i = 0; i < recorte.contorno.size(); ++i) {
+    const auto& [p, arco] = recorte.contorno[i];
+    poligono.push_back(p);
+    if (!arco) continue;
+    const Punto2 u = p - arco->centro, v = recorte.En((i + 1) % recorte.contorno.size()) - arco->centro;
+    const double vuelta = std::atan2(Vectorial2(u, v), u.x * v.x + u.y * v.y);
+    const double pasos =
+        std::ceil(std::abs(vuelta) / (2 * std::sqrt(2 * std::max(flecha, 1e-4 * arco->radio) / arco->radio)));
+    for (int k = 1; k < pasos; ++k) {
+      const double c = std::cos(vuelta * k / pasos), s = std::sin(vuelta * k / pasos);
+      poligono.push_back(arco->centro + Punto2{c * u.x - s * u.y, s * u.x + c * u.y});
+    }
+  }
+  return poligono;
+}
+
 Recorte RecorteDe(const Solido& solido, const FormaPatron& forma, const Maquina& maquina, double milimetro) {
   Recorte recorte;
   recorte.forma = forma.nombre;
@@ -142,20 +196,23 @@ Recorte RecorteDe(const Solido& solido, const FormaPatron& forma, const Maquina&
   std::vector<bool> fijo(rodeo.puntos.size());
   for (const Candidato& c : candidatos) fijo[c.p] = fijo[c.q] = true;
   for (const int v : {forma.antes[0], forma.antes[1], forma.despues[0], forma.despues[1]}) fijo[rodeo.En(v)] = true;
+  // A part is as large as the pattern has it.
+  const auto [izquierda, derecha] = std::ranges::minmax_element(rodeo.puntos, {}, &Punto2::x);
+  const auto [abajo, arriba] = std::ranges::minmax_element(rodeo.puntos, {}, &Punto2::y);
+  for (const auto p : {izquierda, derecha, abajo, arriba})
+    fijo[static_cast<std::size_t>(p - rodeo.puntos.begin())] = true;
   Gira(rodeo, candidatos, fijo);
   const Afinado afinado{maquina.tolerancia * milimetro, kPasoMinimo * milimetro, maquina.arcos};
   const std::vector<Queda> quedan = Adelgaza(rodeo.puntos, fijo, afinado);
   recorte.contorno = Contorno(rodeo.puntos, quedan);
   recorte.dobleces = Dobleces(candidatos, rodeo.puntos, quedan, recorte.contorno);
+  Asienta(recorte, kPasoMinimo * milimetro);
   Mide(recorte);
-  for (const Punto2 p : rodeo.puntos)
-    recorte.tamano = {std::max(recorte.tamano.x, p.x), std::max(recorte.tamano.y, p.y)};
   recorte.caja = CajaMinima(rodeo.puntos);
-  std::vector<Punto2> esquinas;
-  for (const Tramo& tramo : recorte.contorno) esquinas.push_back(tramo.p);
-  if (!(AnchoDe(esquinas) > kPasoMinimo * milimetro)) {
+  const std::vector<Punto2> poligono = Poligono(recorte, maquina.tolerancia * milimetro);
+  if (!(AnchoDe(poligono) > kPasoMinimo * milimetro)) {
     recorte.falta = FaltaRecorte::sinArea;
-  } else if (!EsSimple(esquinas, kHueco * milimetro)) {
+  } else if (!EsSimple(poligono, kHueco * milimetro)) {
     recorte.falta = FaltaRecorte::cruce;
   }
   return recorte;

@@ -20,12 +20,12 @@ struct Arco {
 };
 
 /// A step of an outline, from `p` to the `p` of the next one: straight, or along an arc.
-struct Tramo {
+struct Trecho {
   Punto2 p;
   std::optional<Arco> arco{};
 };
 
-/// A fold, from one vertex of the outline to another.
+/// A fold, from one vertex of the outline to another. Its angle is that of all lines since the fold before it.
 struct DoblezRecorte {
   int numero;  ///< of the line on the drawing
   std::size_t enP, enQ;
@@ -37,7 +37,7 @@ enum class FaltaRecorte : std::uint8_t { cruce, sinArea };
 
 struct Recorte {
   NombreForma forma;
-  std::vector<Tramo> contorno;  ///< closed, counter-clockwise
+  std::vector<Trecho> contorno;  ///< closed, counter-clockwise
   std::vector<DoblezRecorte> dobleces;
   double area = 0, largo = 0;  ///< of the outline as it stands here
   Punto2 tamano;               ///< of the box around it
@@ -49,6 +49,9 @@ struct Recorte {
 
 /// No step of an outline is shorter, unless it has no other, and ends of folds that are nearer share a vertex.
 inline constexpr double kPasoMinimo = 0.05;  // millimetres
+
+/// The outline as a polygon, an arc as chords that lie off it by no more than `flecha`.
+std::vector<Punto2> Poligono(const Recorte& recorte, double flecha);
 
 /// A shape that has an outline. No point of that lies further from the outline here than the machine's tolerance, but
 /// where that is less than what the least step asks for. `milimetro` is a millimetre in the configured unit. Never

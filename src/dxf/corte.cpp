@@ -91,7 +91,7 @@ class Entidades {
       Par(90, std::to_string(n));
       Par(70, "1");
       Numero(43, 0, 1);
-      for (const Tramo& tramo : recorte.contorno) PonPunto(10, tramo.p);
+      for (const Trecho& trecho : recorte.contorno) PonPunto(10, trecho.p);
       return;
     }
     for (std::size_t i = 0; i < n; ++i) {
