@@ -12,6 +12,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
+constexpr int kSumas = 6;                    // decimals
 constexpr double kCentimetroCuadrado = 100;  // in square millimetres
 
 std::string Texto(const ordered_json& json) {
@@ -88,8 +89,12 @@ std::string Informe::Json() const {
   const ordered_json unidades{{"length", milimetros_ ? "mm" : "in"},
                               {"area", milimetros_ ? "cm2" : "in2"},
                               {"weight", milimetros_ ? "g" : "oz"}};
-  const ordered_json sumas{{"shapes", formas_}, {"refused", rechazadas_}, {"area", area_},
-                           {"weight", peso_},   {"cut_length", largo_},   {"folds", dobleces_}};
+  const ordered_json sumas{{"shapes", formas_},
+                           {"refused", rechazadas_},
+                           {"area", Redondea(area_, kSumas)},
+                           {"weight", Redondea(peso_, kSumas)},
+                           {"cut_length", Redondea(largo_, kSumas)},
+                           {"folds", dobleces_}};
   return "{\"units\": " + Texto(unidades) + ",\n\"shapes\": [" + filas_ + "\n],\n\"sums\": " + Texto(sumas) + "}\n";
 }
 

@@ -244,7 +244,7 @@ void Nombres::Anota(const Trabajo& trabajo) {
     if (!anotado.second) anotado.first->second = true;
   };
   anota(repetidos_, SinCaja(trabajo.nombre));
-  if (adjuntos_.cortes) anota(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)));
+  if (adjuntos_.cortes || adjuntos_.dobleces) anota(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)));
 }
 
 // NAME-1of2 or NAME-cut.
@@ -272,8 +272,8 @@ void Nombres::Revisa(Trabajo& trabajo) const {
     motivo = "the name stands on another job too";
   } else if (deSolido) {
     motivo = "the picture of another job's solid has that name";
-  } else if (adjuntos_.cortes && esta(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)))) {
-    motivo = "the cut files of another job would have the same names";
+  } else if (esta(portatiles_, SinCaja(NombrePortatil(trabajo.nombre)))) {
+    motivo = "the cut files or bends of another job would have the same names";
   } else if (adjuntos_.cortes && EsDeCorte(nombre)) {
     motivo = "a cut file of another job has that name";
   }

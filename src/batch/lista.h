@@ -36,8 +36,9 @@ void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& tom
 
 /// Which files are made of a job beside its drawing: no job may have their names.
 struct Adjuntos {
-  bool solidos = false;  ///< pictures of the solids
-  bool cortes = false;   ///< cut files and lists of bends
+  bool solidos = false;   ///< pictures of the solids
+  bool cortes = false;    ///< cut files
+  bool dobleces = false;  ///< lists of bends
 };
 
 /// The names of a list. Nobody can tell which of two pieces the drawing of one name should be, and many disks don't
@@ -54,7 +55,7 @@ class Nombres {
 
   using Repetidos = std::unordered_map<std::string, bool>;  // by name without case: whether it is there twice
   Adjuntos adjuntos_;
-  Repetidos repetidos_, portatiles_;  // the latter as cut files have them
+  Repetidos repetidos_, portatiles_;  // the latter as cut files and lists of bends have them
 };
 
 /// Behind the name of a job it makes that of the picture of its solid.

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <new>
@@ -89,7 +90,23 @@ void Configura(const Ordenes& ordenes) {
   if (ordenes.opciones.estricto && !lectura.avisos.empty()) throw NadaHecho("the configuration has faulty keys");
 }
 
-void PreparaSalida(const Opciones& opciones) {
+/// It would be a pity to learn it when all is done.
+void RevisaInforme(const Ordenes& ordenes) {
+  namespace fs = std::filesystem;
+  if (ordenes.informe.empty()) return;
+  const fs::path ruta = fs::absolute(ordenes.informe);
+  std::error_code error;
+  if (!fs::is_directory(ruta.parent_path(), error))
+    throw NadaHecho("there is no folder for the report " + ordenes.informe);
+  if (fs::is_directory(ruta, error)) throw NadaHecho("the report " + ordenes.informe + " is a folder");
+  const bool deDobleces = ordenes.opciones.dobleces && ruta.filename().string().ends_with("-bends.csv") &&
+                          fs::equivalent(ruta.parent_path(), ordenes.opciones.carpeta, error);
+  if (deDobleces) throw NadaHecho("the report would have the name of a list of bends: " + ordenes.informe);
+  if (fs::equivalent(ruta, ordenes.lista, error)) throw NadaHecho("the report would replace the job list");
+}
+
+void PreparaSalida(const Ordenes& ordenes) {
+  const Opciones& opciones = ordenes.opciones;
   if (opciones.soloComprueba) return;
   std::vector<PlantillaDxf> plantillas{kPlantillaDibujo};
   if (opciones.cortes) plantillas.push_back(kPlantillaCorte);
@@ -100,6 +117,7 @@ void PreparaSalida(const Opciones& opciones) {
   if (const int error = HazCarpeta(opciones.carpeta)) {
     throw NadaHecho("can't make the output folder " + opciones.carpeta + ": " + std::strerror(error));
   }
+  RevisaInforme(ordenes);
 }
 
 /// Works the jobs of the list's part on several threads, each with its own program state.
@@ -143,14 +161,15 @@ int Ejecuta(const Ordenes& ordenes) {
   Configura(ordenes);
   try {
     FuenteLista fuente(ordenes.lista, ordenes.maximoLista);
-    Nombres nombres({.solidos = ordenes.opciones.solido, .cortes = ordenes.opciones.cortes});
+    const Opciones& opciones = ordenes.opciones;
+    Nombres nombres({.solidos = opciones.solido, .cortes = opciones.cortes, .dobleces = opciones.dobleces});
     std::size_t cuantos = 0;
     RecorreLista(fuente.DesdeElPrincipio(), [&](Trabajo&& trabajo) {
       nombres.Anota(trabajo);
       cuantos += ordenes.parte.Tiene(trabajo.numero) ? 1 : 0;
     });
     fuente.ExigeIgual();
-    PreparaSalida(ordenes.opciones);
+    PreparaSalida(ordenes);
     return TrabajaTodos(fuente, ordenes, nombres, cuantos);
   } catch (const ErrorLista& motivo) {
     throw NadaHecho(ordenes.lista + " is no job list: " + motivo.what());

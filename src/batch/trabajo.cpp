@@ -114,6 +114,27 @@ std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Sol
   return Rechazo{"piece", plataforma.mensaje.empty() ? Texto(texto::kIncompleto) : plataforma.mensaje};
 }
 
+std::vector<FilaInforme> FilasInforme(const Cortes& cortes, const Veredicto& veredicto) {
+  const FormatoHoja formato = FormatoDeEstado();
+  std::vector<FilaInforme> filas;
+  for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
+    const Recorte& recorte = cortes.partes[i].recorte;
+    FilaInforme& fila = filas.emplace_back();
+    fila.forma = TextoForma(recorte.forma);
+    fila.fichero = cortes.ficheros[i];
+    fila.espesor = formato.espesor;
+    fila.caja = recorte.caja;
+    fila.area = recorte.area;
+    fila.peso = Peso(recorte.area, formato);
+    fila.largo = recorte.largo;
+    fila.dobleces = static_cast<int>(recorte.dobleces.size());
+    fila.desviacion = veredicto.desviacion;
+    fila.veredicto = veredicto.Cierto() ? TextoFalta(recorte) : TextoVeredicto(veredicto);
+    if (fila.veredicto.empty()) fila.veredicto = "ok";
+  }
+  return filas;
+}
+
 // The files of one piece; what isn't written is told by its place, and that the drawing stands if it does.
 class Salida {
  public:
@@ -140,18 +161,21 @@ class Salida {
     vista.EwViewDirection(1, -1, 1);
     return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
-  bool Maquina(Cortes& cortes, const Veredicto& veredicto) {
-    const std::string faltas = TextoSinCorte(cortes, veredicto);
-    resultado_.sinCorte = opciones_.cortes && !opciones_.fuerza && !faltas.empty();
-    if (resultado_.sinCorte) Avisa(faltas);
+  bool Maquina(Cortes cortes, const Veredicto& veredicto) {
     if (opciones_.cortes) {
+      const std::string faltas = TextoSinCorte(cortes, veredicto);
+      resultado_.sinCorte = !opciones_.fuerza && !faltas.empty();
+      if (resultado_.sinCorte) Avisa(faltas);
+      const Cortes todos = cortes;
       Deja(cortes, veredicto, opciones_.fuerza ? Cuales::todas : Cuales::sanas);
-      std::string ruta;
-      const Guardado guardado = GuardaCortes(cortes, opciones_.carpeta, ruta);
-      if (!Anota(ruta, guardado)) return false;
+      const std::string viejos = TextoViejos(todos, cortes, opciones_.carpeta);
+      if (!viejos.empty()) Avisa(viejos);
     } else {
       cortes.ficheros.assign(cortes.ficheros.size(), "");
     }
+    if (opciones_.informe) resultado_.filas = FilasInforme(cortes, veredicto);
+    std::string ruta;
+    if (const Guardado guardado = GuardaCortes(cortes, opciones_.carpeta, ruta); !Anota(ruta, guardado)) return false;
     if (!opciones_.dobleces) return true;
     const std::string lista = std::filesystem::path(opciones_.carpeta) / FicheroDobleces(nombre_);
     return Anota(lista, EscribeFichero(lista, ListaDobleces(cortes, opciones_.habito)));
@@ -159,7 +183,10 @@ class Salida {
   std::string Dxf() const { return base_ + ".dxf"; }
 
  private:
-  void Avisa(const std::string& texto) { resultado_.aviso += (resultado_.aviso.empty() ? "" : ". ") + texto; }
+  void Avisa(const std::string& texto) {
+    std::string& aviso = resultado_.aviso;
+    aviso += (aviso.empty() ? "" : aviso.ends_with('.') ? " " : ". ") + texto;
+  }
   bool Anota(const std::string& ruta, const Guardado& guardado) {
     if (const std::string restos = TextoRestos(guardado); !restos.empty()) Avisa(restos);
     if (guardado) return true;
@@ -174,26 +201,6 @@ class Salida {
   Resultado& resultado_;
 };
 
-std::vector<FilaInforme> FilasInforme(const Cortes& cortes, const Veredicto& veredicto) {
-  const FormatoHoja formato = FormatoDeEstado();
-  std::vector<FilaInforme> filas;
-  for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
-    const Recorte& recorte = cortes.partes[i].recorte;
-    FilaInforme& fila = filas.emplace_back();
-    fila.forma = TextoForma(recorte.forma);
-    fila.fichero = cortes.ficheros[i];
-    fila.espesor = formato.espesor;
-    fila.caja = recorte.caja;
-    fila.area = recorte.area;
-    fila.peso = Peso(recorte.area, formato);
-    fila.largo = recorte.largo;
-    fila.dobleces = static_cast<int>(recorte.dobleces.size());
-    fila.desviacion = veredicto.desviacion;
-    fila.veredicto = veredicto.Cierto() ? "ok" : TextoVeredicto(veredicto);
-  }
-  return filas;
-}
-
 // What is written of a piece that lies on the control; `patron` is its pattern as it was made.
 void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, const Veredicto& veredicto,
             const Trabajo& trabajo, const Opciones& opciones, Resultado& resultado) {
@@ -202,8 +209,7 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   if (!salida.Dibujo() || !salida.Imagenes(axew, escala)) return;
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
-  Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
-  if (salida.Maquina(cortes, veredicto) && opciones.informe) resultado.filas = FilasInforme(cortes, veredicto);
+  salida.Maquina(CortesDe(trabajo.nombre, solido, patron), veredicto);
 }
 
 }  // namespace

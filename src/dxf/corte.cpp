@@ -9,12 +9,12 @@
 #include "dxf/numero_dxf.h"
 #include "geometry/planas.h"
 #include "state/caracteres.h"
+#include "state/numeros.h"
 
 namespace duktores {
 
 namespace {
 
-constexpr double kPulgada = 25.4;
 constexpr double kMarca = 10;  // length of a tick, in millimetres
 
 class Entidades {
@@ -37,14 +37,7 @@ class Entidades {
     texto_.append(codigo < 10 ? 2 : codigo < 100 ? 1 : 0, ' ').append(std::to_string(codigo)).append("\r\n");
     texto_.append(valor).append("\r\n");
   }
-  void Numero(int codigo, double v, int decimales) {
-    std::array<char, 400> cifras;
-    const auto fin =
-        std::to_chars(cifras.data(), cifras.data() + cifras.size(), v, std::chars_format::fixed, decimales);
-    const std::string_view texto(cifras.data(), static_cast<std::size_t>(fin.ptr - cifras.data()));
-    const bool cero = texto.find_first_not_of("-0.") == std::string_view::npos;
-    Par(codigo, cero && texto.front() == '-' ? texto.substr(1) : texto);
-  }
+  void Numero(int codigo, double v, int decimales) { Par(codigo, TextoFijo(v, decimales)); }
   void PonPunto(int codigo, Punto2 p, int decimales = 6) {
     Numero(codigo, p.x + sitio_.x, decimales);
     Numero(codigo + 10, p.y + sitio_.y, decimales);
@@ -129,7 +122,7 @@ std::vector<Reemplazo> Reemplazos(Punto2 tamano, const Maquina& maquina, bool mi
           {"$LIMMAX", hasta},
           {"$PLIMMIN", cero},  // by which a program chooses its paper
           {"$PLIMMAX", hasta},
-          {"$LTSCALE", {{1, n(milimetros ? 1 : 1 / kPulgada)}}},
+          {"$LTSCALE", {{1, n(milimetros ? 1 : kPulgadaPorMilimetro)}}},
           {"$INSUNITS", {{1, milimetros ? "4" : "1"}}},
           {"$MEASUREMENT", {{1, milimetros ? "1" : "0"}}},
           {"*ACTIVE", {{11, n(tamano.x / 2)}, {1, n(tamano.y / 2)}, {25, n(altura)}}},
@@ -143,7 +136,7 @@ std::vector<Reemplazo> Reemplazos(Punto2 tamano, const Maquina& maquina, bool mi
 
 Guardado GuardaCorte(const std::string& ruta, std::span<const ParteCorte> partes, const Maquina& maquina,
                      bool milimetros) {
-  Entidades entidades(maquina, milimetros ? 1 : 1 / kPulgada);
+  Entidades entidades(maquina, milimetros ? 1 : kPulgadaPorMilimetro);
   Punto2 tamano;
   for (const ParteCorte& parte : partes) {
     entidades.Pon(parte);

@@ -114,10 +114,12 @@ bool Svg(QBuffer& salida, const Lamina& lamina, const QString& titulo) {
   if (!PintaEn(svg, lamina, lamina.porPulgada)) return false;
   // Qt knows a size in whole pixels only.
   const QSizeF lados = lamina.medida * lamina.tamano;
+  constexpr int kCifras = 9;
   const QString cabeza = QStringLiteral("<svg width=\"%1%3\" height=\"%2%3\"\n");
   const qsizetype desde = salida.data().indexOf("<svg"), hasta = salida.data().indexOf(" viewBox", desde);
-  salida.buffer().replace(desde, hasta - desde,
-                          cabeza.arg(lados.width()).arg(lados.height()).arg(lamina.unidad).toUtf8());
+  salida.buffer().replace(
+      desde, hasta - desde,
+      cabeza.arg(lados.width(), 0, 'g', kCifras).arg(lados.height(), 0, 'g', kCifras).arg(lamina.unidad).toUtf8());
   return true;
 }
 

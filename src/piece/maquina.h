@@ -9,6 +9,8 @@ namespace duktores {
 /// How folds stand in a cut file: not at all, from end to end, or as a tick at each end.
 enum class TrazoDoblez : std::int16_t { ninguno, entero, marcas };
 
+inline constexpr double kPulgadaPorMilimetro = 1 / 25.4;
+
 struct Maquina {
   std::string capaCorte = "CUT", capaArriba = "BEND_UP", capaAbajo = "BEND_DOWN", capaMarca = "MARK";
   TrazoDoblez dobleces = TrazoDoblez::entero;

@@ -76,6 +76,7 @@ inline constexpr int kExporta = 174, kCortes = 175, kListaDobleces = 176, kPdf =
 inline constexpr int kEscrito = 179;         ///< names and folder follow
 inline constexpr int kCortarIgual = 180;     ///< a question
 inline constexpr int kReemplazarEsos = 181;  ///< likewise; names follow
+inline constexpr int kCorteViejo = 182;      ///< names follow
 // The settings: what the window says, its rows and what they mean, choices, limits.
 inline constexpr int kNombreIdioma = 240;  ///< each language's own name
 inline constexpr int kAjustes = 241, kPiezasYDibujos = 242, kMaquina = 243;

@@ -15,7 +15,7 @@ namespace {
 
 bool Milimetros() { return estado.iUnidad == 1; }
 
-double Milimetro() { return Milimetros() ? 1 : 1 / 25.4; }
+double Milimetro() { return Milimetros() ? 1 : kPulgadaPorMilimetro; }
 
 bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) {
   constexpr std::size_t kTriangulo = 3;
@@ -24,7 +24,7 @@ bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) 
 }
 
 // One beside the other.
-void Reparte(std::vector<ParteCorte>& partes) {
+void PonAlLado(std::vector<ParteCorte>& partes) {
   constexpr double kHueco = 10;
   double x = 0;
   for (ParteCorte& parte : partes) {
@@ -49,7 +49,7 @@ Cortes CortesDe(const std::string& nombre, const Solido& solido, const Patron& p
     if (maquina.marcas) parte.marca = MarcaDe(parte.recorte, suyo, Milimetro());
     cortes.ficheros.push_back((maquina.juntas ? portatil + "-cut" : suyo) + ".dxf");
   }
-  if (maquina.juntas) Reparte(cortes.partes);
+  if (maquina.juntas) PonAlLado(cortes.partes);
   return cortes;
 }
 
@@ -58,12 +58,27 @@ std::string TextoSinCorte(const Cortes& cortes, const Veredicto& veredicto) {
   if (!veredicto.Cierto()) return inicio + Texto(texto::kCorteFalso);
   std::string faltas;
   for (const auto& [recorte, marca, sitio] : cortes.partes) {
-    if (!recorte.falta) continue;
-    const bool cruza = *recorte.falta == FaltaRecorte::cruce;
-    faltas += (faltas.empty() ? inicio : "; ") + TextoForma(recorte.forma) + ": " +
-              Texto(cruza ? texto::kCruce : texto::kSinArea);
+    if (recorte.falta) faltas += (faltas.empty() ? inicio : "; ") + TextoFalta(recorte);
   }
   return faltas;
+}
+
+std::string TextoFalta(const Recorte& recorte) {
+  if (!recorte.falta) return {};
+  const bool cruza = *recorte.falta == FaltaRecorte::cruce;
+  return TextoForma(recorte.forma) + ": " + Texto(cruza ? texto::kCruce : texto::kSinArea);
+}
+
+std::string TextoViejos(const Cortes& antes, const Cortes& cortes, const std::string& carpeta) {
+  const std::vector<std::string> nuevos = Ficheros(cortes);
+  std::string viejos;
+  for (const std::string& fichero : Ficheros(antes)) {
+    std::error_code error;
+    if (std::ranges::find(nuevos, fichero) != nuevos.end()) continue;
+    if (!std::filesystem::exists(std::filesystem::path(carpeta) / fichero, error)) continue;
+    viejos += (viejos.empty() ? Texto(texto::kCorteViejo) + " " : ", ") + fichero;
+  }
+  return viejos;
 }
 
 void Deja(Cortes& cortes, const Veredicto& veredicto, Cuales cuales) {
@@ -94,9 +109,9 @@ Guardado GuardaCortes(const Cortes& cortes, const std::string& carpeta, std::str
 std::string ListaDobleces(const Cortes& cortes, HabitoCsv habito) {
   constexpr int kCoordenada = 6, kAngulo = 3;
   FilaCsv cabeza(habito);
-  for (const char* columna : {"file", "shape", "number", "length", "angle", "direction", "x1", "y1", "x2", "y2"}) {
-    cabeza.Texto(columna);
-  }
+  const std::string unidad = Milimetros() ? " mm" : " in";
+  cabeza.Texto("file").Texto("shape").Texto("number").Texto("length" + unidad).Texto("angle").Texto("direction");
+  for (const char* columna : {"x1", "y1", "x2", "y2"}) cabeza.Texto(columna + unidad);
   std::string lista = std::string(kMarcaUtf8) + cabeza.Linea();
   for (std::size_t i = 0; i < cortes.partes.size(); ++i) {
     const auto& [recorte, marca, sitio] = cortes.partes[i];

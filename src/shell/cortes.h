@@ -30,6 +30,12 @@ enum class Cuales { sanas, todas };
 /// Takes the files from all other parts.
 void Deja(Cortes& cortes, const Veredicto& veredicto, Cuales cuales);
 
+/// Cut files of an earlier time that stand in a folder where no new one will, in words; empty if there are none.
+std::string TextoViejos(const Cortes& antes, const Cortes& cortes, const std::string& carpeta);
+
+/// What is wrong with a part, in words; empty if it is sound.
+std::string TextoFalta(const Recorte& recorte);
+
 /// The names of the files, each once.
 std::vector<std::string> Ficheros(const Cortes& cortes);
 

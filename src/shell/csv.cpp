@@ -1,9 +1,9 @@
 #include "shell/csv.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
+
+#include "state/numeros.h"
 
 namespace duktores {
 
@@ -29,15 +29,13 @@ FilaCsv& FilaCsv::Texto(std::string_view texto) {
 FilaCsv& FilaCsv::Numero(double v, int decimales) {
   Separa();
   if (!std::isfinite(v)) return *this;
-  std::array<char, 400> cifras;
-  char* fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), v, std::chars_format::fixed, decimales).ptr;
+  std::string texto = TextoFijo(v, decimales);
   if (decimales > 0) {
-    while (fin[-1] == '0') --fin;
-    if (fin[-1] == '.') --fin;
+    while (texto.back() == '0') texto.pop_back();
+    if (texto.back() == '.') texto.pop_back();
   }
-  std::replace(cifras.data(), fin, '.', habito_.decimal);
-  const std::string_view texto(cifras.data(), static_cast<std::size_t>(fin - cifras.data()));
-  linea_ += texto == "-0" ? "0" : texto;
+  std::ranges::replace(texto, '.', habito_.decimal);
+  linea_ += texto;
   return *this;
 }
 

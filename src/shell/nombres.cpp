@@ -58,6 +58,8 @@ std::string NombrePortatil(std::string_view nombre) {
                                   std::to_chars(cifras.data(), cifras.data() + cifras.size(), unsigned{c}, 16).ptr);
     }
   }
+  constexpr std::size_t kLargo = 160;  // a disk takes 255 with all that comes behind
+  portatil.resize(std::min(portatil.size(), kLargo));
   const bool empieza = !portatil.empty() && portatil.front() != '-' && portatil.front() != '.';
   return empieza && !EsReservado(portatil) ? portatil : '_' + portatil;
 }

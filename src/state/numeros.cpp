@@ -54,6 +54,14 @@ std::string TextoDeNumero(double v) {
   return texto;
 }
 
+std::string TextoFijo(double v, int decimales) {
+  std::array<char, 400> cifras;
+  const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), v, std::chars_format::fixed, decimales);
+  std::string texto(cifras.data(), fin.ptr);
+  if (texto.find_first_not_of("-0.") == std::string::npos && texto.starts_with('-')) texto.erase(0, 1);
+  return texto;
+}
+
 double NumeroIzquierda(std::string_view texto) {
   texto = Recorta(texto);
   const bool negativo = QuitaSigno(texto, "+-");

@@ -13,6 +13,9 @@ namespace duktores {
 /// E+15; decimal mark of the system. Zero has no sign; what is not finite gives "inf", "-inf" or "nan".
 std::string TextoDeNumero(double v);
 
+/// With so many decimals behind a point, whatever the system's mark. Zero has no sign.
+std::string TextoFijo(double v, int decimales);
+
 /// The number at the left of a text, after blanks: sign, digits, point, decimals, exponent; 0 if there is none or if it
 /// is beyond the range of a double. Always a finite number.
 double NumeroIzquierda(std::string_view texto);

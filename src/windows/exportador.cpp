@@ -66,9 +66,9 @@ class MenuElige : public QMenu {
 };
 
 /// What is to be written, and under which names.
-class Entrega {
+class Exportacion {
  public:
-  Entrega(const Exportable& que, const QFileInfo& base, std::vector<bool> elegidas)
+  Exportacion(const Exportable& que, const QFileInfo& base, std::vector<bool> elegidas)
       : que_(que),
         carpeta_(base.absolutePath().toStdString()),
         nombre_(base.fileName().toStdString()),
@@ -191,10 +191,10 @@ void Exportador::Exporta() {
     if (accion->isCheckable()) elegidas.push_back(accion->isChecked());
   }
   const Exportable que = que_();
-  Entrega entrega(que, elegido, std::move(elegidas));
-  if (!entrega.Pregunta(window())) return;
+  Exportacion exportacion(que, elegido, std::move(elegidas));
+  if (!exportacion.Pregunta(window())) return;
   CursorEspera(true);
-  const QString linea = entrega.Escribe();
+  const QString linea = exportacion.Escribe();
   CursorEspera(false);
   if (!linea.isEmpty()) emit escrito(linea);
 }

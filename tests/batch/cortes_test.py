@@ -92,7 +92,7 @@ class Cuts(Batch):
         return rings + ([joined(steps)] if steps else []), folds, marks, document
 
     def check(self, file, true, row, bends, unit, polyline=True):
-        millimetre = 1 / 25.4 if unit else 1
+        millimetre, self.unit = (1 / 25.4, " in") if unit else (1, " mm")
         (ring,), folds, marks, document = self.parts(file, unit)
         polygon = ogr.CreateGeometryFromWkt("POLYGON((" + ",".join(f"{x} {y}" for x, y in ring + ring[:1]) + "))")
         self.assertTrue(polygon.IsValid(), file)
@@ -117,10 +117,10 @@ class Cuts(Batch):
                 self.assertTrue(p in ring and q in ring and p != q, file)
             self.assertEqual(len({frozenset(f[:2]) for f in folds}), len(folds), file)
             for (p, q, layer), line in zip(folds, bends, strict=True):
-                numbers = [float(line[c]) for c in ("x1", "y1", "x2", "y2")]
+                numbers = [float(line[c + self.unit]) for c in ("x1", "y1", "x2", "y2")]
                 self.assertEqual([*p, *q], numbers)
                 self.assertEqual(layer, "BEND_" + line["direction"].upper())
-                self.assertAlmostEqual(float(line["length"]), math.dist(p, q), places=5)
+                self.assertAlmostEqual(float(line["length" + self.unit]), math.dist(p, q), places=5)
         if marks:
             mark, fold = (ogr.CreateGeometryFromWkt("MULTILINESTRING(" + ",".join(
                 f"({p[0]} {p[1]},{q[0]} {q[1]})" for p, q, _ in lines or [ring[:2] + [0]]) + ")") for lines in (marks, folds))
@@ -179,7 +179,7 @@ class Cuts(Batch):
                "Divisions": 16}
         self.assertEqual(self.batch([job], "--exact", "--bends", "--comma")[0], 0)
         lines = (self.folder / "out/tube-bends.csv").read_text("utf-8-sig").splitlines()
-        self.assertEqual(lines[0], "file;shape;number;length;angle;direction;x1;y1;x2;y2")
+        self.assertEqual(lines[0], "file;shape;number;length mm;angle;direction;x1 mm;y1 mm;x2 mm;y2 mm")
         self.assertEqual(len(lines), 1 + 4 * 3)
         for line in lines[1:]:
             self.assertEqual(line.split(";")[3:6], ["250", "22,5", "down"], line)

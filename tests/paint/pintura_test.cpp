@@ -187,7 +187,7 @@ TEST(GuardaImagen, SvgIsSoundXmlAndPdfIsWhole) {
   Llena(axew, 1000, 800);
   axew.EwAddText("tiny", "", {5, 5, 0}, 0.01, 0);
   axew.EwAddLine({qQNaN(), 0, 0}, {1, 1, 0});
-  const std::tuple<Escala, QString, QString> casos[] = {{Escala::ajustada, "423.333mm", "tiny"},
+  const std::tuple<Escala, QString, QString> casos[] = {{Escala::ajustada, "423.333333mm", "tiny"},
                                                         {Escala::milimetros, "1016mm", "100 mm"},
                                                         {Escala::pulgadas, "1000.6in", "4 in"}};
   for (const auto& [escala, ancho, dicho] : casos) {
