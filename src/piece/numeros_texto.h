@@ -67,4 +67,7 @@ inline constexpr int kSeEncuentra = 156, kReglasUsuales = 157, kCuraExacta = 158
 inline constexpr int kNota = 159, kDelgada = 160, kOtroExtremo = 161;
 inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
 
+// What is wrong with a text that was to go into a field.
+inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322, kSignoDelante = 323;
+
 }  // namespace duktores::texto

@@ -28,12 +28,15 @@ class FrDialogo : public QDialog {
   void Pie(int y);
   void Activa();
   void CmdAceptar();
+  void MuestraError(int campo, const QString& texto);
+  void OlvidaError(int campo);
 
   Dialogo dialogo_;
   int columnas_;
   Proporcion proporcion_;
   std::vector<QWidget*> controles_;  // of the fields, in their order
   QLabel* lblerror_ = nullptr;
+  int campoError_ = 0;  // the field that it names
 };
 
 }  // namespace duktores
