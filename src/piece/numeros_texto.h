@@ -70,4 +70,8 @@ inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
 // What is wrong with a text that was to go into a field.
 inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322, kSignoDelante = 323;
 
+// The page of the keys: its title, its headings, and what no button's text says.
+inline constexpr int kAyuda = 324, kCatalogo = 325, kMedidas = 326, kVisor = 327, kTodas = 328;
+inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, kVistasFijas = 332, kPulsaBoton = 333;
+
 }  // namespace duktores::texto

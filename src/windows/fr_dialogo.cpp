@@ -10,6 +10,7 @@
 #include "windows/frm_view_unfold.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
+#include "windows/teclas.h"
 
 namespace duktores {
 
@@ -44,6 +45,7 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
   Campos();
   Pie(Diseno(def).height() - kAltoPie);
+  PonAyuda(*this);
 }
 
 void FrDialogo::Campos() {

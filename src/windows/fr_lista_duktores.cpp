@@ -8,6 +8,7 @@
 #include "state/textos.h"
 #include "windows/fr_dialogo.h"
 #include "windows/iconos.h"
+#include "windows/teclas.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -49,6 +50,7 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   AnadeLista();
   if (!avisos.empty()) AnadeAvisos(avisos);
   LstDuktores_->installEventFilter(this);
+  PonAyuda(*this);
   connect(LstDuktores_, &QListWidget::currentRowChanged, this, &FrListaDuktores::EligeFila);
   connect(LstDuktores_, &QListWidget::itemDoubleClicked, this, &FrListaDuktores::CmdContinuar);
   connect(continuar, &QPushButton::clicked, this, &FrListaDuktores::CmdContinuar);
@@ -111,6 +113,10 @@ void FrListaDuktores::showEvent(QShowEvent* suceso) {
 void FrListaDuktores::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
 void FrListaDuktores::closeEvent(QCloseEvent*) { Termina(); }
+
+void FrListaDuktores::keyPressEvent(QKeyEvent* suceso) {
+  if (!PulsaConEnter(*this, *suceso)) QWidget::keyPressEvent(suceso);
+}
 
 bool FrListaDuktores::eventFilter(QObject* objeto, QEvent* suceso) {
   if (objeto == LstDuktores_ && suceso->type() == QEvent::KeyPress) {

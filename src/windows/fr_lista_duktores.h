@@ -24,6 +24,7 @@ class FrListaDuktores : public QWidget {
   void showEvent(QShowEvent* suceso) override;
   void resizeEvent(QResizeEvent* suceso) override;
   void closeEvent(QCloseEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:

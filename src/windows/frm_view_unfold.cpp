@@ -17,6 +17,7 @@
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/iconos.h"
+#include "windows/teclas.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -57,6 +58,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   FrmZoom_->setObjectName("FrmZoom");
   LblEstado_->setObjectName("LblEstado");
   Botones();
+  Teclas();
   proporcion_.Coloca(*lienzo_, {kMargen, 70, kDiseno.width() - 2 * kMargen, 612});
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
@@ -67,6 +69,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   solido_ = Dibuja3D(EWdraw_);
   CmdSave_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
+  CmdDesplegado_->setFocus();
 }
 
 QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar) {
@@ -114,14 +117,26 @@ void FrmViewUnfold::Botones() {
   CmdExacto_ = suelto("CmdExacto", texto::kExacto);
   CmdExacto_->setCheckable(true);
   CmdExacto_->setChecked(estado.pieza->regla == Regla::exacta);
-  CmdExacto_->setShortcut(Qt::Key_E);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
+  for (QPushButton* boton : {CmdExacto_, CmdDesplegado_, CmdSave_}) PonTeclas(*boton);
   connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
   connect(suelto("CmdExit", texto::kSalir), &QPushButton::clicked, this, [] { Termina(); });
+}
+
+// These go on while a shape is being placed, when the buttons rest.
+void FrmViewUnfold::Teclas() {
+  constexpr double kPaso = 1.25;
+  constexpr int kTrecho = 60;
+  constexpr QPoint kSentidos[]{{kTrecho, 0}, {-kTrecho, 0}, {0, kTrecho}, {0, -kTrecho}};  // of the keys' row
+  const auto boton = [this](const char* nombre) -> QPushButton& { return *FrmZoom_->findChild<QPushButton*>(nombre); };
+  PonTeclas(boton("CmdZoomAll"), [this](int) { EWdraw_.EwZoomAll(); });
+  PonTeclas(boton("CmdZoom"), [this](int i) { lienzo_->Amplia(i == 0 ? kPaso : 1 / kPaso, lienzo_->rect().center()); });
+  PonTeclas(boton("cmdmove"), [this, kSentidos](int i) { lienzo_->Desplaza(kSentidos[i]); });
+  PonAyuda(*this);
 }
 
 // The drawing widget looks at the control, which would go before it.
@@ -157,7 +172,7 @@ void FrmViewUnfold::CmdExacto() {
 }
 
 void FrmViewUnfold::CmdSave() {
-  QFileDialog dialogo(this, CmdSave_->toolTip(), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
+  QFileDialog dialogo(this, Q(Texto(texto::kGuarda)), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("dxf");
   while (dialogo.exec() == QDialog::Accepted) {
@@ -224,7 +239,7 @@ void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {
   if (suceso->key() == Qt::Key_Escape && lienzo_->Eligiendo()) {
     lienzo_->CancelaEleccion();
-  } else if (suceso->key() != Qt::Key_Escape || !lienzo_->TerminaMando()) {
+  } else if (suceso->key() == Qt::Key_Escape ? !lienzo_->TerminaMando() : !PulsaConEnter(*this, *suceso)) {
     QDialog::keyPressEvent(suceso);
   }
 }

@@ -30,6 +30,7 @@ class FrmViewUnfold : public QDialog {
 
  private:
   void Botones();
+  void Teclas();
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
   void CmdSave();

@@ -98,7 +98,8 @@ TEST_F(Lista, EachRowShowsAndOpensItsOwn) {
   QTest::mouseDClick(filas_->viewport(), Qt::LeftButton, {}, segunda);
   EXPECT_EQ(estado.sTipoPieza, Texto(11));
   usuario_.Cuando("FrTransfCR", cierra);
-  Pulsa(lista_, "CmdContinuar");
+  Hijo(lista_, "CmdContinuar").setFocus();
+  QTest::keyClick(&Hijo(lista_, "CmdContinuar"), Qt::Key_Return);
 }
 
 TEST_F(Lista, FaultyKeysAreToldAtTheFoot) {

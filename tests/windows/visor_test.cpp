@@ -86,6 +86,43 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
   EXPECT_FALSE(visor_.isVisible());
 }
 
+// Also while a shape hangs on the pointer, when the buttons rest.
+TEST_F(Visor, KeysDoWhatTheButtonsDo) {
+  const auto activa = [this] {  // as a window manager does when a box on top has gone
+    visor_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&visor_));
+  };
+  const auto mueven = [&] {
+    activa();
+    const QImage entera = Imagen();
+    for (const Qt::Key tecla : {Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Left, Qt::Key_Up}) {
+      const QImage antes = Imagen();
+      QTest::keyClick(&visor_, tecla);
+      EXPECT_NE(Imagen(), antes) << tecla;
+    }
+    QTest::keyClick(&visor_, Qt::Key_0);
+    EXPECT_EQ(Imagen(), entera);
+  };
+  usuario_.Cuando("FrAyuda", [](QWidget& pagina) { QTest::keyClick(&pagina, Qt::Key_Escape); });
+  Responde(63, [&] {
+    mueven();
+    QTest::keyClick(&visor_, Qt::Key_Escape);
+  });
+  AlAbrir([&] {
+    mueven();
+    QTest::keyClick(&visor_, Qt::Key_Question);
+    activa();
+    QTest::keyClick(&visor_, Qt::Key_E);
+    EXPECT_TRUE(Hijo<QPushButton>(visor_, "CmdExacto").isChecked() && estado.pieza->regla == Regla::exacta);
+    Hijo(visor_, "cmdTop").setFocus();
+    QTest::keyClick(&visor_, Qt::Key_Return);
+    ExpectVista({0, 0, 1}, "Enter on its button");
+    QTest::keyClick(&visor_, Qt::Key_U);
+    EXPECT_EQ(estado.oDrawing->Count(), 0);
+    visor_.close();
+  });
+}
+
 // By the usual rules a leaning ellipse is none of its solid, which nobody may overlook.
 TEST_F(Visor, AFalsePatternIsToldAndATrueOne) {
   estado.iBox = 0;
