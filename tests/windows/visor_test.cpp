@@ -104,7 +104,8 @@ TEST_F(Visor, KeysDoWhatTheButtonsDo) {
     EXPECT_EQ(Imagen(), entera);
   };
   usuario_.Cuando("FrAyuda", [](QWidget& pagina) { QTest::keyClick(&pagina, Qt::Key_Escape); });
-  Responde(63, [&] {
+  Elige(63, {310, 200});
+  Responde(65, [&] {
     mueven();
     QTest::keyClick(&visor_, Qt::Key_Escape);
   });
@@ -118,7 +119,7 @@ TEST_F(Visor, KeysDoWhatTheButtonsDo) {
     QTest::keyClick(&visor_, Qt::Key_Return);
     ExpectVista({0, 0, 1}, "Enter on its button");
     QTest::keyClick(&visor_, Qt::Key_U);
-    EXPECT_EQ(estado.oDrawing->Count(), 0);
+    EXPECT_GT(estado.oDrawing->Count(), 0);
     visor_.close();
   });
 }
