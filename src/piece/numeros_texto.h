@@ -74,4 +74,6 @@ inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322
 inline constexpr int kAyuda = 324, kCatalogo = 325, kMedidas = 326, kVisor = 327, kTodas = 328;
 inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, kVistasFijas = 332, kPulsaBoton = 333;
 
+inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
+
 }  // namespace duktores::texto

@@ -24,6 +24,7 @@ struct EstadoPrograma {
   std::string sRutaBase;      ///< installation root
   std::string sRutaIni;       ///< configuration file
   std::string sRutaPropia;        ///< the user's own file; empty: nothing is kept between two runs
+  std::string sCarpetaGuardada;   ///< folder of the last save of this program run
   Ventana hVentanaHost = 0;   ///< foreground window at start
   bool bComaDecimal = false;  ///< the system's decimal separator is a comma
 

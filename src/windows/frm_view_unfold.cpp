@@ -1,9 +1,6 @@
 #include "windows/frm_view_unfold.h"
 
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
 #include <array>
@@ -16,6 +13,7 @@
 #include "shell/visor.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/guarda.h"
 #include "windows/iconos.h"
 #include "windows/teclas.h"
 #include "windows/ventanas.h"
@@ -57,6 +55,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   FrmView_->setObjectName("FrmView");
   FrmZoom_->setObjectName("FrmZoom");
   LblEstado_->setObjectName("LblEstado");
+  LblEstado_->setTextFormat(Qt::PlainText);
   Botones();
   Teclas();
   proporcion_.Coloca(*lienzo_, {kMargen, 70, kDiseno.width() - 2 * kMargen, 612});
@@ -147,6 +146,7 @@ void FrmViewUnfold::CmdDesplegado() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
+  LimpiaEstado();
   CmdSave_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   CmdExacto_->setEnabled(false);
@@ -172,26 +172,26 @@ void FrmViewUnfold::CmdExacto() {
 }
 
 void FrmViewUnfold::CmdSave() {
-  QFileDialog dialogo(this, Q(Texto(texto::kGuarda)), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setDefaultSuffix("dxf");
-  while (dialogo.exec() == QDialog::Accepted) {
-    const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
-    // The dialog has asked about the name as it was typed.
-    const bool otro = final != elegido && QFileInfo::exists(final);
-    if (otro && QMessageBox::question(this, {}, Q(Texto(texto::kReemplazar)) + " " + final) != QMessageBox::Yes)
-      continue;
-    GuardaDibujo(final.toStdString());
-    return;
-  }
+  const std::string fichero = GuardaConNombre(*this);
+  if (!fichero.empty()) PonEstado(Q(Texto(texto::kGuardadoEn) + " " + fichero) + " - " + veredicto_);
+}
+
+void FrmViewUnfold::LimpiaEstado() {
+  LblEstado_->clear();
+  LblEstado_->setToolTip({});
+  LblEstado_->setStyleSheet({});
+}
+
+// What stands there while nothing is pointed at. The tooltip has what the line has no room for.
+void FrmViewUnfold::PonEstado(const QString& linea) {
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
+  LblEstado_->setToolTip(linea);
 }
 
 void FrmViewUnfold::MuestraEleccion(bool empieza) {
   CursorEspera(!empieza);
   FrmZoom_->setEnabled(!empieza);  // the left button places the shape; wheel and middle button still move the view
-  LblEstado_->clear();
-  LblEstado_->setToolTip({});
-  LblEstado_->setStyleSheet({});
+  LimpiaEstado();
   if (empieza) lienzo_->setFocus();
 }
 
@@ -206,12 +206,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   const Veredicto veredicto = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
+  veredicto_ = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
   const bool bien = completo && veredicto.Cierto();
   LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
-  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
-  LblEstado_->setToolTip(linea);
+  PonEstado(veredicto_);
 }
 
 // What the line under the pointer is; away from all lines the verdict.

@@ -38,6 +38,8 @@ class FrmViewUnfold : public QDialog {
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
   void MuestraLinea(QPointF punto, double alcance);
+  void LimpiaEstado();
+  void PonEstado(const QString& linea);
   void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;
@@ -48,6 +50,7 @@ class FrmViewUnfold : public QDialog {
   QGroupBox *FrmView_, *FrmZoom_;
   QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
   QLabel* LblEstado_;
+  QString veredicto_;
 };
 
 }  // namespace duktores

@@ -11,6 +11,7 @@
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/fr_lista_duktores.h"
+#include "windows/idioma_qt.h"
 #include "windows/plataforma_qt.h"
 #include "windows/ventanas.h"
 
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
   LecturaConfiguracion lectura = Arranca(RutaEjecutable());
   const bool falta = lectura.fallo == std::errc::no_such_file_or_directory;
   if (lectura.fallo) lectura.avisos = {Texto(texto::kConfiguracion) + " " + estado.sRutaIni};
+  PonIdiomaQt();
   CursorEspera(true);
   FrListaDuktores lista(lectura.avisos);
   plataforma.PonPrincipal(&lista);

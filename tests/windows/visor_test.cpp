@@ -1,4 +1,6 @@
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 
 #include "dxf/dibujo.h"
@@ -84,6 +86,37 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
     QTest::keyClick(&visor_, Qt::Key_Escape);
   });
   EXPECT_FALSE(visor_.isVisible());
+}
+
+TEST_F(Visor, ASaveProposesANameAndRemembersItsFolder) {
+  const std::string propio = estado.sRutaPropia = Ruta("propio/duktores.ini");
+  estado.sRutaDuct = Ruta("Duct");
+  std::filesystem::create_directories(Ruta("otra"));
+  const auto guarda = [&](const std::string& esperada, const std::string& nombre) {
+    usuario_.Cuando("QFileDialog", [=](QWidget& dialogo) {
+      EXPECT_EQ(dynamic_cast<QFileDialog&>(dialogo).directory().path().toStdString(), esperada);
+      auto& campo = Hijo<QLineEdit>(dialogo, "fileNameEdit");
+      EXPECT_TRUE(QTest::qWaitFor([&] { return campo.hasFocus(); }));
+      EXPECT_EQ(campo.selectedText(), "TransCR_400x300_R100");
+      if (!nombre.empty()) campo.setText(QString::fromStdString(nombre));
+      QTest::keyClick(&campo, Qt::Key_Return);
+    });
+    usuario_.CierraMensaje("OK");
+    Pulsa(visor_, "CmdSave");
+    return Hijo<QLabel>(visor_, "LblEstado").text().toStdString();
+  };
+  for (const int mensaje : {63, 65, 64, 65}) Elige(mensaje, {310, 200});
+  AlAbrir([&] {
+    Pulsa(visor_, "CmdDesplegado");
+    EXPECT_TRUE(guarda(Ruta("Duct"), Ruta("otra/pieza.v2")).starts_with(Texto(334) + " " + Ruta("otra/pieza.v2.dxf")));
+    guarda(Ruta("otra"), "");
+    estado.sCarpetaGuardada.clear();  // the next program run
+    guarda(Ruta("otra"), "tercera");
+    std::filesystem::remove_all(Ruta("otra"));
+    guarda(Ruta("Duct"), "cuarta");
+    visor_.close();
+  });
+  EXPECT_TRUE(std::filesystem::exists(Ruta("Duct/cuarta.dxf")) && std::filesystem::exists(propio));
 }
 
 // Also while a shape hangs on the pointer, when the buttons rest.
