@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
 
 #include "dxf/dibujo.h"
 #include "pieza_tecleada.h"
@@ -75,6 +76,8 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
   AlAbrir([&] {
     EXPECT_TRUE(Habilitado("FrmView") && Habilitado("CmdDesplegado"));
     EXPECT_FALSE(Habilitado("CmdSave"));
+    EXPECT_LT(visor_.width(), visor_.screen()->availableSize().width()) << "it is designed for a larger screen";
+    EXPECT_LT(Hijo(visor_, "LblEstado").font().pointSizeF(), QApplication::font().pointSizeF());
     ExpectVista({0, -1, 0}, "at first");
     for (std::size_t i = 0; i < std::size(vistas); ++i) {
       Pulsa(visor_, vistas[i].boton);
