@@ -3,7 +3,7 @@
 PAQUETES_PROGRAMA=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libxcb1-dev libcli11-dev
   nlohmann-json3-dev fonts-wqy-microhei)
 PAQUETES_TESTS=(libgtest-dev libbenchmark-dev locales python3-ezdxf python3-gdal xvfb openbox xdotool acl parallel
-  binutils)
+  binutils dpkg-dev file)
 
 # prepara PACKAGE...: installs those that are missing, as root or through sudo, without a question.
 prepara() {

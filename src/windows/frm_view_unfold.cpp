@@ -8,6 +8,8 @@
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
 #include "shell/juicio.h"
+#include "shell/lista.h"
+#include "shell/nombre_pieza.h"
 #include "shell/texto_linea.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
@@ -51,7 +53,8 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
       LblEstado_(new QLabel(this)) {
   setObjectName("FrmViewUnfold");
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  setWindowTitle(padre ? padre->windowTitle() : QString("duktores"));
+  const int nombre = FilaDe(estado.pieza.value().tipo).dialogo.textoTitulo;
+  setWindowTitle(Q(Texto(nombre) + "  " + MedidasPrincipales(*estado.pieza, ' ')));
   FrmView_->setObjectName("FrmView");
   FrmZoom_->setObjectName("FrmZoom");
   LblEstado_->setObjectName("LblEstado");

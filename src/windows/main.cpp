@@ -1,6 +1,7 @@
 // duktores: the catalogue of the duct transition pieces.
 
 #include <QApplication>
+#include <QIcon>
 #include <QStandardPaths>
 #include <cstdio>
 #include <new>
@@ -52,6 +53,8 @@ int main(int argc, char** argv) {
   const bool falta = lectura.fallo == std::errc::no_such_file_or_directory;
   if (lectura.fallo) lectura.avisos = {Texto(texto::kConfiguracion) + " " + estado.sRutaIni};
   PonIdiomaQt();
+  QApplication::setWindowIcon(QIcon(QString::fromStdString(estado.sRutaPrograma + "duktores.svg")));
+  QApplication::setDesktopFileName("duktores");
   CursorEspera(true);
   FrListaDuktores lista(lectura.avisos);
   plataforma.PonPrincipal(&lista);
