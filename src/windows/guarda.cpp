@@ -11,6 +11,7 @@
 #include "state/estado.h"
 #include "state/propio.h"
 #include "state/textos.h"
+#include "windows/proporcion.h"
 
 namespace duktores {
 
@@ -33,7 +34,7 @@ void RecuerdaCarpeta(const std::string& fichero) {
   PonPropio(kSeccion, kCarpeta, estado.sCarpetaGuardada);
 }
 
-// The name as it is chosen is typed over, or accepted by Enter.
+// All of it is marked: it is typed over, or accepted by Enter.
 void Propone(QFileDialog& dialogo) {
   if (!estado.pieza) return;
   dialogo.selectFile(Q(NombrePropuesto(*estado.pieza)));
@@ -46,6 +47,7 @@ std::string GuardaConNombre(QWidget& padre) {
   QFileDialog dialogo(&padre, Q(Texto(texto::kGuarda)), Carpeta(), ".dxf Files (*.dxf)");
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("dxf");
+  dialogo.resize(dialogo.size().boundedTo(SitioLibre(padre)));
   Propone(dialogo);
   while (dialogo.exec() == QDialog::Accepted) {
     const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));

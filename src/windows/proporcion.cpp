@@ -18,8 +18,7 @@ int Porcentaje(int nuevo, int diseno) { return static_cast<int>(std::nearbyint(R
 int Parte(int largo, int porcentaje) { return static_cast<int>(std::nearbyint(largo * porcentaje / 100.0)); }
 
 void Cabe(QWidget& ventana, QSize diseno, QSize tamano) {
-  constexpr QSize kMarco{8, 36};  // of the window manager
-  const QSize libre = ventana.screen()->availableSize() - kMarco;
+  const QSize libre = SitioLibre(ventana);
   ventana.setMinimumSize(diseno.boundedTo(libre));
   ventana.resize(tamano.boundedTo(libre));
 }
@@ -45,6 +44,11 @@ class Vigia : public QObject {
 };
 
 }  // namespace
+
+QSize SitioLibre(const QWidget& ventana) {
+  constexpr QSize kMarco{8, 36};  // of the window manager
+  return ventana.screen()->availableSize() - kMarco;
+}
 
 Proporcion::Proporcion(QWidget& ventana, QSize diseno) : diseno_(diseno) {
   Cabe(ventana, diseno, diseno);

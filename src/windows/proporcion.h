@@ -12,6 +12,9 @@ class QWidget;
 
 namespace duktores {
 
+/// Room for a window on its screen, within its frame.
+QSize SitioLibre(const QWidget& ventana);
+
 class Proporcion {
  public:
   /// Gives the window its design size, as its smallest one too, or what the screen has room for: also when it moves to

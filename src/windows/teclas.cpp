@@ -4,7 +4,6 @@
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -14,6 +13,7 @@
 
 #include "piece/numeros_texto.h"
 #include "state/textos.h"
+#include "windows/proporcion.h"
 
 namespace duktores {
 
@@ -124,10 +124,10 @@ void MuestraAyuda(QWidget& padre) {
   auto* columna = new QVBoxLayout(&ventana);
   columna->addWidget(pagina);
   columna->addWidget(botones);
-  constexpr QSize kBorde{60, 70};  // of the page within its window, of the window within the screen
+  constexpr QSize kBorde{60, 70};  // round the page
   pagina->document()->adjustSize();
   const QSize toda = pagina->document()->size().toSize();
-  ventana.resize((toda + kBorde).boundedTo(padre.screen()->availableSize() - kBorde));
+  ventana.resize((toda + kBorde).boundedTo(SitioLibre(padre)));
   ventana.exec();
 }
 
