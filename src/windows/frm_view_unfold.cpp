@@ -131,12 +131,13 @@ void FrmViewUnfold::Botones() {
 
 // These go on while a shape is being placed, when the buttons rest.
 void FrmViewUnfold::Teclas() {
-  constexpr double kPaso = 1.25;
+  constexpr double kAmpliacion = 1.25;
   constexpr int kTrecho = 60;
   constexpr QPoint kSentidos[]{{kTrecho, 0}, {-kTrecho, 0}, {0, kTrecho}, {0, -kTrecho}};  // of the keys' row
   const auto boton = [this](const char* nombre) -> QPushButton& { return *FrmZoom_->findChild<QPushButton*>(nombre); };
   PonTeclas(boton("CmdZoomAll"), [this](int) { EWdraw_.EwZoomAll(); });
-  PonTeclas(boton("CmdZoom"), [this](int i) { lienzo_->Amplia(i == 0 ? kPaso : 1 / kPaso, lienzo_->rect().center()); });
+  PonTeclas(boton("CmdZoom"),
+            [this](int i) { lienzo_->Amplia(i == 0 ? kAmpliacion : 1 / kAmpliacion, lienzo_->rect().center()); });
   PonTeclas(boton("cmdmove"), [this, kSentidos](int i) { lienzo_->Desplaza(kSentidos[i]); });
   PonAyuda(*this);
 }

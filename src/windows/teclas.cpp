@@ -55,7 +55,7 @@ QList<QKeySequence> Teclas(const FilaTecla& fila) { return QKeySequence::listFro
 QString NombreTecla(const QKeySequence& tecla) {
   constexpr std::pair<Qt::Key, char16_t> kFlechas[]{
       {Qt::Key_Left, u'←'}, {Qt::Key_Up, u'↑'}, {Qt::Key_Right, u'→'}, {Qt::Key_Down, u'↓'}};
-  const QString nombre = tecla.toString(QKeySequence::NativeText);
+  QString nombre = tecla.toString(QKeySequence::NativeText);
   const auto* flecha = std::ranges::find(kFlechas, tecla[0].key(), &std::pair<Qt::Key, char16_t>::first);
   if (flecha == std::end(kFlechas)) return nombre;
   return nombre.left(nombre.lastIndexOf('+') + 1) + QChar(flecha->second);

@@ -209,7 +209,11 @@ TEST_F(Visor, EscapeEndsAPickAndKeepsWhatIsDrawn) {
     EXPECT_GT(estado.oDrawing->Count(), 0);
     EXPECT_EQ(Hijo<QLabel>(visor_, "LblEstado").text().toStdString(), Texto(120));
     EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado") && visor_.isVisible());
-    Responde(63, escape);
+    usuario_.Cuando("QMessageBox", [this](QWidget& caja) {
+      EXPECT_EQ(Hijo<QLabel>(visor_, "LblEstado").text(), "") << "what it said was of the pattern before";
+      QTest::keyClick(&caja, Qt::Key_Return);
+    });
+    usuario_.Cuando("pick", [&](QWidget&) { escape(); });
     Pulsa(visor_, "CmdDesplegado");
     EXPECT_EQ(estado.oDrawing->Count(), 0);
     EXPECT_FALSE(Habilitado("CmdSave"));
