@@ -94,4 +94,13 @@ inline constexpr int kCapaCorte = 277, kCapaArriba = 278, kCapaAbajo = 279, kCap
 inline constexpr int kDoblecesCorte = 281, kNombreMarcado = 282, kTolerancia = 283, kDoblezMinimo = 284;
 inline constexpr int kArcos = 285, kUnFichero = 286, kNinguno = 287, kLineasEnteras = 288, kTrazos = 289;
 
+// What is wrong with a text that was to go into a field.
+inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322, kSignoDelante = 323;
+
+// The page of the keys: its title, its headings, and what no button's text says.
+inline constexpr int kAyuda = 324, kCatalogo = 325, kMedidas = 326, kVisor = 327, kTodas = 328;
+inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, kVistasFijas = 332, kPulsaBoton = 333;
+
+inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
+
 }  // namespace duktores::texto

@@ -74,9 +74,13 @@ Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo) {
 }
 
 std::string NombreDxf(const std::string& elegido) {
-  const std::size_t nombre = elegido.rfind('/') + 1, punto = elegido.rfind('.');
-  if (punto == std::string::npos || punto <= nombre) return elegido + ".dxf";
-  return punto + 1 == elegido.size() ? elegido + "dxf" : elegido;
+  constexpr std::string_view kFinal = ".dxf";
+  const auto igual = [](char a, char b) { return a == b || (a >= 'A' && a <= 'Z' && a - 'A' + 'a' == b); };
+  const std::size_t nombre = elegido.size() - (elegido.rfind('/') + 1);
+  const bool lleva = nombre > kFinal.size() &&
+                     std::equal(elegido.end() - kFinal.size(), elegido.end(), kFinal.begin(), kFinal.end(), igual);
+  if (lleva) return elegido;
+  return elegido + (elegido.ends_with('.') && nombre > 1 ? "dxf" : ".dxf");
 }
 
 bool GuardaDibujo(std::string elegido) {

@@ -28,7 +28,7 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 Corrida Desplegado(EWdraw& axew);
 Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
 
-/// The name that a drawing gets: with the ending ".dxf" if it has none.
+/// The name that a drawing gets: with the ending ".dxf", which a name may have in capitals too.
 std::string NombreDxf(const std::string& elegido);
 
 /// The save command behind its dialog: writes the drawing of the last unfolding to the `NombreDxf` of `elegido`, and to

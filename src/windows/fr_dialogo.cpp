@@ -12,6 +12,7 @@
 #include "windows/iconos.h"
 #include "windows/imagen.h"
 #include "windows/ventanas.h"
+#include "windows/teclas.h"
 
 namespace duktores {
 
@@ -48,6 +49,7 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   Campos();
   Ajustes(Diseno(def).height() - kAltoPie - kAltoAjustes);
   Pie(Diseno(def).height() - kAltoPie);
+  PonAyuda(*this);
 }
 
 void FrDialogo::Campos() {
@@ -87,6 +89,9 @@ QWidget* FrDialogo::ControlDe(int campo) {
     texto->setText(Q(dialogo_.CampoDe(campo).texto));
     connect(texto, &QLineEdit::textChanged, this,
             [this, campo](const QString& nuevo) { dialogo_.CampoDe(campo).texto = nuevo.toStdString(); });
+    connect(texto, &QLineEdit::textChanged, this, [this, campo] { OlvidaError(campo); });
+    connect(texto, &TextoFiltrado::rechazado, this,
+            [this, campo](const QString& motivo) { MuestraError(campo, motivo); });
     return texto;
   }
   auto* lista = new ListaFija(this);
@@ -95,6 +100,7 @@ QWidget* FrDialogo::ControlDe(int campo) {
   lista->setCurrentIndex(-1);
   connect(lista, &QComboBox::currentTextChanged, this,
           [this, campo](const QString& nuevo) { dialogo_.Elige(campo, nuevo.toStdString()); });
+  connect(lista, &QComboBox::currentTextChanged, this, [this, campo] { OlvidaError(campo); });
   return lista;
 }
 
@@ -118,6 +124,8 @@ void FrDialogo::Pie(int y) {
   lblerror_ = new QLabel(this);
   lblerror_->setObjectName("lblerror");
   lblerror_->setAlignment(Qt::AlignCenter);
+  lblerror_->setTextFormat(Qt::PlainText);
+  lblerror_->setWordWrap(true);
   lblerror_->setStyleSheet("QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; }");
   lblerror_->hide();
   proporcion_.Coloca(*lblerror_, {kMargen, y, kAnchoImagen, kAltoBoton});
@@ -140,6 +148,17 @@ void FrDialogo::Pie(int y) {
   connect(cancelar, &QPushButton::clicked, this, &FrDialogo::reject);
 }
 
+void FrDialogo::MuestraError(int campo, const QString& texto) {
+  campoError_ = campo;
+  lblerror_->setText(texto);
+  lblerror_->setVisible(!texto.isEmpty());
+}
+
+// What it says of a field holds until that field changes.
+void FrDialogo::OlvidaError(int campo) {
+  if (campo == campoError_) lblerror_->hide();
+}
+
 void FrDialogo::Activa() {
   dialogo_.Activa();
   if (auto* dos = findChild<QRadioButton*>("OpDosPiezas"); dos && dialogo_.dosPiezas) dos->setChecked(true);
@@ -160,8 +179,7 @@ void FrDialogo::customEvent(QEvent* suceso) {
 
 void FrDialogo::CmdAceptar() {
   const Respuesta respuesta = dialogo_.CmdAceptar();
-  lblerror_->setText(Q(dialogo_.lblerror()));
-  lblerror_->setVisible(!dialogo_.lblerror().empty());
+  MuestraError(dialogo_.Foco(), Q(dialogo_.lblerror()));
   if (respuesta != Respuesta::aceptado) {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;

@@ -31,6 +31,8 @@ class FrDialogo : public QDialog {
   void Pie(int y);
   void Activa();
   void CmdAceptar();
+  void MuestraError(int campo, const QString& texto);
+  void OlvidaError(int campo);
 
   Dialogo dialogo_;
   int columnas_;
@@ -38,6 +40,7 @@ class FrDialogo : public QDialog {
   std::vector<QWidget*> controles_;  // of the fields, in their order
   QLabel* lblerror_ = nullptr;
   TextosVivos textos_;
+  int campoError_ = 0;  // the field that it names
 };
 
 }  // namespace duktores

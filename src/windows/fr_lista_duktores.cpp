@@ -9,6 +9,7 @@
 #include "windows/fr_ajustes.h"
 #include "windows/fr_dialogo.h"
 #include "windows/iconos.h"
+#include "windows/teclas.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -71,6 +72,7 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   PonAvisos(avisos);
   LstDuktores_->installEventFilter(this);
   LblAviso_->installEventFilter(this);
+  PonAyuda(*this);
   connect(LstDuktores_, &QListWidget::currentRowChanged, this, &FrListaDuktores::EligeFila);
   connect(LstDuktores_, &QListWidget::itemDoubleClicked, this, &FrListaDuktores::CmdContinuar);
   connect(continuar, &QPushButton::clicked, this, &FrListaDuktores::CmdContinuar);
@@ -135,6 +137,10 @@ void FrListaDuktores::customEvent(QEvent* suceso) {
   if (suceso->type() != ConfiguracionLeida::Tipo()) return;
   textos_.Renueva();
   PonAvisos(static_cast<ConfiguracionLeida*>(suceso)->avisos);
+}
+
+void FrListaDuktores::keyPressEvent(QKeyEvent* suceso) {
+  if (!PulsaConEnter(*this, *suceso)) QWidget::keyPressEvent(suceso);
 }
 
 bool FrListaDuktores::eventFilter(QObject* objeto, QEvent* suceso) {

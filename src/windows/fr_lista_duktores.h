@@ -27,6 +27,7 @@ class FrListaDuktores : public QWidget {
   void resizeEvent(QResizeEvent* suceso) override;
   void closeEvent(QCloseEvent* suceso) override;
   void customEvent(QEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:

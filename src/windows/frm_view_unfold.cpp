@@ -1,9 +1,6 @@
 #include "windows/frm_view_unfold.h"
 
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QPointer>
 #include <QShortcut>
 #include <array>
@@ -11,12 +8,17 @@
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
 #include "shell/juicio.h"
+#include "shell/lista.h"
+#include "shell/nombre_pieza.h"
+#include "shell/nombres.h"
 #include "shell/texto_linea.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/guarda.h"
 #include "windows/iconos.h"
+#include "windows/teclas.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -52,11 +54,14 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
       LblEstado_(new QLabel(this)) {
   setObjectName("FrmViewUnfold");
   setWindowFlag(Qt::WindowMaximizeButtonHint);
-  setWindowTitle(padre ? padre->windowTitle() : QString("duktores"));
+  const int nombre = FilaDe(estado.pieza.value().tipo).dialogo.textoTitulo;
+  setWindowTitle(Q(Texto(nombre) + "  " + MedidasPrincipales(*estado.pieza, ' ')));
   FrmView_->setObjectName("FrmView");
   FrmZoom_->setObjectName("FrmZoom");
   LblEstado_->setObjectName("LblEstado");
+  LblEstado_->setTextFormat(Qt::PlainText);
   Botones();
+  Teclas();
   proporcion_.Coloca(*lienzo_, {kMargen, 70, kDiseno.width() - 2 * kMargen, 612});
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
@@ -68,6 +73,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   CmdSave_->setEnabled(false);
   CmdExport_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
+  CmdDesplegado_->setFocus();
 }
 
 QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar) {
@@ -115,18 +121,31 @@ void FrmViewUnfold::Botones() {
   CmdExacto_ = suelto("CmdExacto", texto::kExacto);
   CmdExacto_->setCheckable(true);
   CmdExacto_->setChecked(estado.pieza->regla == Regla::exacta);
-  CmdExacto_->setShortcut(Qt::Key_E);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
   CmdExport_ = new Exportador([this] { return Exportable{EWdraw_, solido_, veredicto_}; }, this);
   proporcion_.Coloca(*CmdExport_, {x, 14, kBoton + 6, kBoton + 4});
-  connect(CmdExport_, &Exportador::escrito, this, [this](const QString& linea) { MuestraEstado(linea, true); });
+  connect(CmdExport_, &Exportador::escrito, this, &FrmViewUnfold::PonHecho);
   x += kPaso + 8;
+  for (QPushButton* boton : {CmdExacto_, CmdDesplegado_, CmdSave_}) PonTeclas(*boton);
   connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
   connect(suelto("CmdExit", texto::kSalir), &QPushButton::clicked, this, [] { Termina(); });
+}
+
+// These go on while a shape is being placed, when the buttons rest.
+void FrmViewUnfold::Teclas() {
+  constexpr double kAmpliacion = 1.25;
+  constexpr int kTrecho = 60;
+  constexpr QPoint kSentidos[]{{kTrecho, 0}, {-kTrecho, 0}, {0, kTrecho}, {0, -kTrecho}};  // of the keys' row
+  const auto boton = [this](const char* nombre) -> QPushButton& { return *FrmZoom_->findChild<QPushButton*>(nombre); };
+  PonTeclas(boton("CmdZoomAll"), [this](int) { EWdraw_.EwZoomAll(); });
+  PonTeclas(boton("CmdZoom"),
+            [this](int i) { lienzo_->Amplia(i == 0 ? kAmpliacion : 1 / kAmpliacion, lienzo_->rect().center()); });
+  PonTeclas(boton("cmdmove"), [this, kSentidos](int i) { lienzo_->Desplaza(kSentidos[i]); });
+  PonAyuda(*this);
 }
 
 // The drawing widget looks at the control, which would go before it.
@@ -137,6 +156,7 @@ void FrmViewUnfold::CmdDesplegado() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
+  LimpiaEstado();
   CmdSave_->setEnabled(false);
   CmdExport_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
@@ -164,26 +184,30 @@ void FrmViewUnfold::CmdExacto() {
 }
 
 void FrmViewUnfold::CmdSave() {
-  QFileDialog dialogo(this, CmdSave_->toolTip(), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setDefaultSuffix("dxf");
-  while (dialogo.exec() == QDialog::Accepted) {
-    const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
-    // The dialog has asked about the name as it was typed.
-    const bool otro = final != elegido && QFileInfo::exists(final);
-    if (otro && QMessageBox::question(this, {}, Q(Texto(texto::kReemplazar)) + " " + final) != QMessageBox::Yes)
-      continue;
-    GuardaDibujo(final.toStdString());
-    return;
-  }
+  const std::string fichero = GuardaConNombre(*this);
+  if (fichero.empty()) return;
+  const bool portatil = EsNombrePortatil(fichero.substr(fichero.rfind('/') + 1));
+  PonHecho(Q(Texto(texto::kGuardadoEn) + " " + fichero + (portatil ? "" : " - " + Texto(texto::kNombreAjeno))));
+}
+
+void FrmViewUnfold::PonHecho(const QString& hecho) { PonEstado(hecho + " - " + lineaVeredicto_); }
+
+void FrmViewUnfold::LimpiaEstado() {
+  LblEstado_->clear();
+  LblEstado_->setToolTip({});
+  LblEstado_->setStyleSheet({});
+}
+
+// What stands there while nothing is pointed at. The tooltip has what the line has no room for.
+void FrmViewUnfold::PonEstado(const QString& linea) {
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
+  LblEstado_->setToolTip(linea);
 }
 
 void FrmViewUnfold::MuestraEleccion(bool empieza) {
   CursorEspera(!empieza);
   FrmZoom_->setEnabled(!empieza);  // the left button places the shape; wheel and middle button still move the view
-  LblEstado_->clear();
-  LblEstado_->setToolTip({});
-  LblEstado_->setStyleSheet({});
+  LimpiaEstado();
   if (empieza) lienzo_->setFocus();
 }
 
@@ -198,14 +222,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   veredicto_ = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  MuestraEstado(Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto)), completo && veredicto_.Cierto());
-}
-
-void FrmViewUnfold::MuestraEstado(const QString& linea, bool bien) {
+  lineaVeredicto_ = Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
+  const bool bien = completo && veredicto_.Cierto();
   LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
   LblEstado_->ensurePolished();  // bold letters are wider
-  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
-  LblEstado_->setToolTip(linea);
+  PonEstado(lineaVeredicto_);
 }
 
 // What the line under the pointer is; away from all lines the verdict.
@@ -233,7 +254,7 @@ void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {
   if (suceso->key() == Qt::Key_Escape && lienzo_->Eligiendo()) {
     lienzo_->CancelaEleccion();
-  } else if (suceso->key() != Qt::Key_Escape || !lienzo_->TerminaMando()) {
+  } else if (suceso->key() == Qt::Key_Escape ? !lienzo_->TerminaMando() : !PulsaConEnter(*this, *suceso)) {
     QDialog::keyPressEvent(suceso);
   }
 }

@@ -31,6 +31,7 @@ class FrmViewUnfold : public QDialog {
 
  private:
   void Botones();
+  void Teclas();
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
   void CmdSave();
@@ -38,8 +39,10 @@ class FrmViewUnfold : public QDialog {
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
   void MuestraLinea(QPointF punto, double alcance);
+  void LimpiaEstado();
+  void PonEstado(const QString& linea);
+  void PonHecho(const QString& hecho);
   void MuestraVeredicto(const Corrida& corrida);
-  void MuestraEstado(const QString& linea, bool bien);
 
   Proporcion proporcion_;
   Solido solido_;
@@ -51,6 +54,7 @@ class FrmViewUnfold : public QDialog {
   QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
   Exportador* CmdExport_;
   QLabel* LblEstado_;
+  QString lineaVeredicto_;
 };
 
 }  // namespace duktores

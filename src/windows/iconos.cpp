@@ -20,7 +20,6 @@ struct Dibujo {
 
 constexpr std::string_view kCubo = "M3 9H15V21H3ZM3 9L9 3H21L15 9M21 3V15L15 21";
 constexpr std::string_view kPlanta = "M7 7H17V17H7ZM7 7L17 17M17 7L7 17";
-constexpr std::string_view kLupa = "M10 4A6 6 0 1 0 10 16A6 6 0 1 0 10 4M14.5 14.5L21 21";
 constexpr std::string_view kVuelve = "M20 19V13A4 4 0 0 0 16 9H5M10 4L5 9L10 14";
 constexpr std::string_view kPuerta = "M13 4H5V20H13M10 12H21M17 8L21 12L17 16";
 
@@ -39,9 +38,11 @@ constexpr std::array kDibujos{
     Dibujo{"cmdisoleft",    kPlanta,                                             "M6 12L1 16V8Z"},
     Dibujo{"cmdmove",       "M12 3V21M3 12H21M9 6L12 3L15 6M9 18L12 21L15 18M6 9L3 12L6 15M18 9L21 12L18 15", ""},
     Dibujo{"cmdorbit",      "M4 12A8 3.5 0 1 0 12 8.5H8M11 5.5L8 8.5L11 11.5M12 2V22", ""},
-    Dibujo{"CmdZoom",       "M10 4A6 6 0 1 0 10 16A6 6 0 1 0 10 4M14.5 14.5L21 21M10 7.5V12.5M7.5 10H12.5", ""},
+    Dibujo{"CmdZoom",       "M8 5A5.5 5.5 0 1 0 8 16A5.5 5.5 0 1 0 8 5M12 14.5L17 20M8 8V13M5.5 10.5H10.5"
+                            "M20 15V3M17.5 5.5L20 3L22.5 5.5M17.5 12.5L20 15L22.5 12.5",                     ""},
     Dibujo{"CmdZoomAll",    "M3 8V3H8M16 3H21V8M21 16V21H16M8 21H3V16M8 8H16V16H8Z", ""},
-    Dibujo{"CmdZoomwindow", kLupa,                                               "M7 8H13V12H7Z"},
+    Dibujo{"CmdZoomwindow", "M2 6V3H5M9 3H12M16 3H19V6M2 10V12M2 16V19H5"
+                            "M15 10A4.5 4.5 0 1 0 15 19A4.5 4.5 0 1 0 15 10M18.3 17.8L22.5 22",              ""},
     Dibujo{"CmdDesplegado", "M2 12L8 5L9.5 7.5Q12 10 14.5 7.5L16 5L22 12L17 19H7ZM9.5 7.5L7 19M14.5 7.5L17 19", ""},
     Dibujo{"CmdExacto",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M12 1V7M12 17V23M1 12H7M17 12H23",         ""},
     Dibujo{"CmdSave",       "M4 4H17L20 7V20H4ZM8 4V9H15V4M7 20V13H17V20",       ""},

@@ -28,6 +28,9 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void CancelaEleccion();
   /// Ends the command of the left button; false if there was none.
   bool TerminaMando();
+  /// Moves what is seen by so many points, or zooms it about a place of the widget.
+  void Desplaza(QPointF paso);
+  void Amplia(double factor, QPointF sobre);
   /// A flat pattern keeps its view from above.
   void PermiteOrbitar(bool permite);
 
@@ -55,8 +58,6 @@ class Lienzo : public QWidget, public VistaEWdraw {
   QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
   void Encuadra(QRectF plano);
   void EncuadraEleccion();
-  void Desplaza(QPointF paso);
-  void Amplia(double factor, QPointF sobre);
   void Orbita(QPointF paso);
   void PonMando(std::optional<MandoVista> mando);
   void PonPuntero();

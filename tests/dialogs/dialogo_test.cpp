@@ -36,6 +36,24 @@ TEST(Campo, KeepsOnlyWellFormedNumbers) {
   }
 }
 
+TEST(Campo, ACopiedTextIsTakenWholeOrNotAtAll) {
+  const struct {
+    Filtro filtro;
+    std::u32string_view texto;
+    int falta;
+  } casos[]{{FiltraNumero, U"12,34", 0},      {FiltraNumero, U"300 x 400", 320}, {FiltraNumero, U"1e3", 320},
+            {FiltraNumero, U"1.234,5", 320},  {FiltraNumero, U"12.345", 322},    {FiltraNumero, U"-1", 320},
+            {FiltraNumero, U"3\b4", 320},     {FiltraNumeroSigno, U"-12.5", 0},  {FiltraEntero, U"1.5", 321},
+            {FiltraNumeroSigno, U"1-2", 323}, {FiltraNumeroSigno, U"-1.234", 322},  {FiltraEntero, U"36", 0}};
+  estado.iUnidad = 1;
+  for (const auto& caso : casos) {
+    Campo campo{"7"};
+    SeleccionaTodo(campo);
+    EXPECT_EQ(TecleaTodo(caso.texto, campo, caso.filtro), caso.falta);
+    EXPECT_EQ(campo.texto == "7" && campo.TodoSeleccionado(), caso.falta != 0);
+  }
+}
+
 TEST(Campo, ASelectedTextIsReplaced) {
   estado.iUnidad = 1;
   Campo campo{"12.34"};

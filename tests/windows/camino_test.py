@@ -20,6 +20,7 @@ CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickn
           "BendColour=3\nDimensions=1\nDensity=7.85\nBox=1\n")
 # Places in the windows at their design sizes.
 UNFOLD, SAVE, LEAVE = (770, 35), (818, 35), (962, 35)
+DIALOG, VIEWER = "Rect. Circ. Transf.", "Rect. Circ. Transf. 400x300 R95.5"
 MESSAGE = "duktores"  # what window managers show for an empty title
 PICKS = (300, 400), (500, 150), (700, 430), (800, 200)  # each piece and its title block
 
@@ -133,9 +134,9 @@ def above_host(screen, program):
 def road(screen, program, file):
     process, host = above_host(screen, str(program))
     screen.xdotool("key", "Down", "Down", "Return")
-    dialog = screen.window("Rect. Circ. Transf.")
+    screen.window(DIALOG)
     fill(screen)
-    viewer = screen.window("Rect. Circ. Transf.", but=dialog)
+    viewer = screen.window(VIEWER)
     screen.click(viewer, UNFOLD)
     for place in PICKS[:-1]:
         screen.answer(MESSAGE)

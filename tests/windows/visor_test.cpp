@@ -1,5 +1,8 @@
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
 
 #include "dxf/dibujo.h"
 #include "pieza_tecleada.h"
@@ -73,6 +76,8 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
   AlAbrir([&] {
     EXPECT_TRUE(Habilitado("FrmView") && Habilitado("CmdDesplegado"));
     EXPECT_FALSE(Habilitado("CmdSave"));
+    EXPECT_LT(visor_.width(), visor_.screen()->availableSize().width()) << "it is designed for a larger screen";
+    EXPECT_LT(Hijo(visor_, "LblEstado").font().pointSizeF(), QApplication::font().pointSizeF());
     ExpectVista({0, -1, 0}, "at first");
     for (std::size_t i = 0; i < std::size(vistas); ++i) {
       Pulsa(visor_, vistas[i].boton);
@@ -84,6 +89,75 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
     QTest::keyClick(&visor_, Qt::Key_Escape);
   });
   EXPECT_FALSE(visor_.isVisible());
+}
+
+TEST_F(Visor, ASaveProposesANameAndRemembersItsFolder) {
+  const std::string propio = estado.sRutaPropia = Ruta("propio/duktores.ini");
+  estado.sRutaDuct = Ruta("Duct");
+  std::filesystem::create_directories(Ruta("otra"));
+  const auto guarda = [&](const std::string& esperada, const std::string& nombre) {
+    usuario_.Cuando("QFileDialog", [=](QWidget& dialogo) {
+      EXPECT_EQ(dynamic_cast<QFileDialog&>(dialogo).directory().path().toStdString(), esperada);
+      auto& campo = Hijo<QLineEdit>(dialogo, "fileNameEdit");
+      EXPECT_TRUE(QTest::qWaitFor([&] { return campo.hasFocus(); }));
+      EXPECT_EQ(campo.selectedText(), "TransCR_400x300_R100");
+      if (!nombre.empty()) campo.setText(QString::fromStdString(nombre));
+      QTest::keyClick(&campo, Qt::Key_Return);
+    });
+    usuario_.CierraMensaje("OK");
+    Pulsa(visor_, "CmdSave");
+    return Hijo<QLabel>(visor_, "LblEstado").text().toStdString();
+  };
+  for (const int mensaje : {63, 65, 64, 65}) Elige(mensaje, {310, 200});
+  AlAbrir([&] {
+    Pulsa(visor_, "CmdDesplegado");
+    EXPECT_TRUE(guarda(Ruta("Duct"), Ruta("otra/pieza.v2")).starts_with(Texto(334) + " " + Ruta("otra/pieza.v2.dxf")));
+    guarda(Ruta("otra"), "");
+    estado.sCarpetaGuardada.clear();  // the next program run
+    guarda(Ruta("otra"), "tercera");
+    std::filesystem::remove_all(Ruta("otra"));
+    guarda(Ruta("Duct"), "cuarta");
+    visor_.close();
+  });
+  EXPECT_TRUE(std::filesystem::exists(Ruta("Duct/cuarta.dxf")) && std::filesystem::exists(propio));
+}
+
+// Also while a shape hangs on the pointer, when the buttons rest.
+TEST_F(Visor, KeysDoWhatTheButtonsDo) {
+  const auto activa = [this] {  // as a window manager does when a box on top has gone
+    visor_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&visor_));
+  };
+  const auto mueven = [&] {
+    activa();
+    const QImage entera = Imagen();
+    for (const Qt::Key tecla : {Qt::Key_Plus, Qt::Key_Minus, Qt::Key_Left, Qt::Key_Up}) {
+      const QImage antes = Imagen();
+      QTest::keyClick(&visor_, tecla);
+      EXPECT_NE(Imagen(), antes) << tecla;
+    }
+    QTest::keyClick(&visor_, Qt::Key_0);
+    EXPECT_EQ(Imagen(), entera);
+  };
+  usuario_.Cuando("FrAyuda", [](QWidget& pagina) { QTest::keyClick(&pagina, Qt::Key_Escape); });
+  Elige(63, {310, 200});
+  Responde(65, [&] {
+    mueven();
+    QTest::keyClick(&visor_, Qt::Key_Escape);
+  });
+  AlAbrir([&] {
+    mueven();
+    QTest::keyClick(&visor_, Qt::Key_Question);
+    activa();
+    QTest::keyClick(&visor_, Qt::Key_E);
+    EXPECT_TRUE(Hijo<QPushButton>(visor_, "CmdExacto").isChecked() && estado.pieza->regla == Regla::exacta);
+    Hijo(visor_, "cmdTop").setFocus();
+    QTest::keyClick(&visor_, Qt::Key_Return);
+    ExpectVista({0, 0, 1}, "Enter on its button");
+    QTest::keyClick(&visor_, Qt::Key_U);
+    EXPECT_GT(estado.oDrawing->Count(), 0);
+    visor_.close();
+  });
 }
 
 // By the usual rules a leaning ellipse is none of its solid, which nobody may overlook.
@@ -135,7 +209,11 @@ TEST_F(Visor, EscapeEndsAPickAndKeepsWhatIsDrawn) {
     EXPECT_GT(estado.oDrawing->Count(), 0);
     EXPECT_EQ(Hijo<QLabel>(visor_, "LblEstado").text().toStdString(), Texto(120));
     EXPECT_TRUE(Habilitado("CmdSave") && Habilitado("CmdDesplegado") && visor_.isVisible());
-    Responde(63, escape);
+    usuario_.Cuando("QMessageBox", [this](QWidget& caja) {
+      EXPECT_EQ(Hijo<QLabel>(visor_, "LblEstado").text(), "") << "what it said was of the pattern before";
+      QTest::keyClick(&caja, Qt::Key_Return);
+    });
+    usuario_.Cuando("pick", [&](QWidget&) { escape(); });
     Pulsa(visor_, "CmdDesplegado");
     EXPECT_EQ(estado.oDrawing->Count(), 0);
     EXPECT_FALSE(Habilitado("CmdSave"));
