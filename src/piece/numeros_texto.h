@@ -67,4 +67,13 @@ inline constexpr int kSeEncuentra = 156, kReglasUsuales = 157, kCuraExacta = 158
 inline constexpr int kNota = 159, kDelgada = 160, kOtroExtremo = 161;
 inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
 
+// What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
+inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
+inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;
+inline constexpr int kSumaHasta = 227, kHastaMitad = 228, kHasta = 229, kMitadHasta = 230, kMultiplo = 231;
+inline constexpr int kBajoBase = 232;
+
+// The solid as it is looked at.
+inline constexpr int kDesdeEsquina = 233, kAlambre = 234, kSolidoODesarrollo = 235, kBoca = 236, kBase = 237;
+
 }  // namespace duktores::texto

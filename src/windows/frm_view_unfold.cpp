@@ -24,7 +24,7 @@ namespace duktores {
 namespace {
 
 constexpr QSize kDiseno{1000, 720};
-constexpr int kMargen = 12, kBoton = 38, kPaso = kBoton + 2, kAltoGrupo = kBoton + 12;
+constexpr int kMargen = 12, kBoton = 36, kPaso = kBoton + 2, kAltoGrupo = kBoton + 12;
 
 struct BotonZoom {
   const char* nombre;
@@ -62,11 +62,14 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
   connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
+  connect(lienzo_, &Lienzo::girado, this, &FrmViewUnfold::MarcaVista);
 
   EWdraw_.EwInicia(true);
   solido_ = Dibuja3D(EWdraw_);
   CmdSave_->setEnabled(false);
+  CmdSolido_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
+  MuestraSolido(true);
 }
 
 QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar) {
@@ -80,10 +83,14 @@ QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int t
 void FrmViewUnfold::Botones() {
   int x = 6;
   for (const VistaFija& vista : VistasFijas()) {
-    const auto mira = [this, &vista] { ComandoVista(EWdraw_, vista.clave, false); };
+    const auto mira = [this, &vista] {
+      ComandoVista(EWdraw_, vista.clave, false);
+      MarcaVista();
+    };
     QPushButton* boton = Boton(FrmView_, vista.boton, vista.texto, {x, 6, kBoton, kBoton});
     const QString clave = QString::fromUtf8(vista.clave.data(), static_cast<qsizetype>(vista.clave.size()));
     boton->setToolTip(boton->toolTip() + " (" + clave + ")");
+    boton->setCheckable(true);
     connect(boton, &QPushButton::clicked, this, mira);
     auto* tecla = new QShortcut(QKeySequence(clave), this);
     connect(tecla, &QShortcut::activated, this, [this, mira] {
@@ -91,6 +98,10 @@ void FrmViewUnfold::Botones() {
     });
     x += kPaso;
   }
+  cmdAlambre_ = Boton(FrmView_, "cmdAlambre", texto::kAlambre, {x, 6, kBoton, kBoton});
+  cmdAlambre_->setCheckable(true);
+  connect(cmdAlambre_, &QPushButton::clicked, this, [this] { MuestraSolido(true); });
+  x += kPaso;
   proporcion_.Coloca(*FrmView_, {kMargen, 10, x + 4, kAltoGrupo});
 
   const int inicioZoom = FrmView_->geometry().right() + kMargen;
@@ -105,7 +116,7 @@ void FrmViewUnfold::Botones() {
   }
   proporcion_.Coloca(*FrmZoom_, {inicioZoom, 10, x + 4, kAltoGrupo});
 
-  x = kDiseno.width() - kMargen - 5 * (kPaso + 8);
+  x = kDiseno.width() - kMargen - 6 * (kPaso + 8);
   const auto suelto = [&](std::string_view nombre, int texto) {
     QPushButton* boton = Boton(this, nombre, texto, {x, 14, kBoton + 6, kBoton + 4});
     x += kPaso + 8;
@@ -115,9 +126,15 @@ void FrmViewUnfold::Botones() {
   CmdExacto_->setCheckable(true);
   CmdExacto_->setChecked(estado.pieza->regla == Regla::exacta);
   CmdExacto_->setShortcut(Qt::Key_E);
+  CmdSolido_ = suelto("CmdSolido", texto::kSolidoODesarrollo);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
   connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
+  connect(CmdSolido_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSolido);
+  // A button's own key would press it a tenth of a second later.
+  for (const auto& [tecla, boton] : {std::pair{Qt::Key_W, cmdAlambre_}, std::pair{Qt::Key_B, CmdSolido_}}) {
+    connect(new QShortcut(QKeySequence(tecla), this), &QShortcut::activated, boton, &QPushButton::click);
+  }
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
@@ -135,15 +152,16 @@ void FrmViewUnfold::CmdDesplegado() {
   CmdSave_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   CmdExacto_->setEnabled(false);
-  FrmView_->setEnabled(false);
-  FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
-  lienzo_->PermiteOrbitar(false);
+  CmdSolido_->setEnabled(false);
+  if (FrmView_->isEnabled()) EWdraw_.CambiaModelo(otra_);
+  MuestraSolido(false);
   Corrida corrida = Desplegado(EWdraw_);
   if (!vivo) return;
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
   CmdDesplegado_->setEnabled(true);
   CmdExacto_->setEnabled(true);
+  CmdSolido_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
 }
 
@@ -151,9 +169,31 @@ void FrmViewUnfold::CmdDesplegado() {
 void FrmViewUnfold::CmdExacto() {
   CambiaRegla();
   solido_ = SolidoDe(*estado.pieza);
-  if (!FrmView_->isEnabled()) return CmdDesplegado();
-  DibujaSolido(EWdraw_, solido_);
+  DibujaSolido(FrmView_->isEnabled() ? EWdraw_ : otra_, solido_);
+  if (CmdSolido_->isEnabled()) return CmdDesplegado();
   EWdraw_.EwRegen();
+}
+
+void FrmViewUnfold::CmdSolido() {
+  lienzo_->setFocus();
+  EWdraw_.CambiaModelo(otra_);
+  MuestraSolido(!FrmView_->isEnabled());
+  EWdraw_.EwRegen();
+}
+
+void FrmViewUnfold::MuestraSolido(bool solido) {
+  FrmView_->setEnabled(solido);
+  FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(solido);
+  lienzo_->PermiteOrbitar(solido);
+  lienzo_->PonSolido(solido && !cmdAlambre_->isChecked() ? &solido_ : nullptr);
+  MarcaVista();
+}
+
+void FrmViewUnfold::MarcaVista() {
+  for (const VistaFija& vista : VistasFijas()) {
+    const bool suya = FrmView_->isEnabled() && EWdraw_.DireccionVista() == vista.direccion;
+    FrmView_->findChild<QPushButton*>(QString::fromUtf8(vista.boton.data()))->setChecked(suya);
+  }
 }
 
 void FrmViewUnfold::CmdSave() {
@@ -201,7 +241,7 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
 
 // What the line under the pointer is; away from all lines the verdict.
 void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
-  if (hoja_.formas.empty()) return;
+  if (hoja_.formas.empty() || FrmView_->isEnabled()) return;
   const auto cercana = LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
   LblEstado_->setText(
       cercana ? Q(TextoLinea(*cercana, solido_))
