@@ -197,7 +197,7 @@ Trazo TrazoDe(const AristaVista& arista, double fuerza) {
 
 // Qt shares out a long translucent line to other threads, which takes a hundred times as long as to paint it.
 void AnadeTramos(std::vector<QLineF>& lineas, const QLineF& linea) {
-  constexpr double kLargo = 48;
+  constexpr double kLargo = 16;
   const int n = std::max(1, static_cast<int>(std::ceil(linea.length() / kLargo)));
   for (int i = 0; i < n; ++i) lineas.emplace_back(linea.pointAt(1.0 * i / n), linea.pointAt((i + 1.0) / n));
 }

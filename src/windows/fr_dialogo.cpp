@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
@@ -10,6 +11,8 @@
 #include "windows/frm_view_unfold.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
+#include "windows/registros.h"
+#include "windows/solido_vivo.h"
 
 namespace duktores {
 
@@ -22,8 +25,19 @@ constexpr int kFilasPorColumna = 11;
 
 int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
 
+int Filas(const DefDialogo& def) { return (static_cast<int>(def.campos.size()) + Columnas(def) - 1) / Columnas(def); }
+
+// The solid stands beside one column of fields and below two.
+QRect LugarVivo(const DefDialogo& def) {
+  constexpr int kAnchoVivo = 260, kAltoVivo = 212;
+  const int x = 2 * kMargen + kAnchoImagen, bajo = 2 * kMargen + Filas(def) * kAltoFila;
+  if (Columnas(def) == 1) return {x + kAnchoColumna, kMargen, kAnchoVivo, kAltoImagen};
+  return {x, bajo, 2 * kAnchoColumna - kMargen, std::max(kAltoVivo, kMargen + kAltoImagen - bajo)};
+}
+
 QSize Diseno(const DefDialogo& def) {
-  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna, kMargen + kAltoImagen + kMargen + kAltoPie};
+  const QRect vivo = LugarVivo(def);
+  return {vivo.x() + vivo.width() + kMargen, vivo.y() + vivo.height() + kMargen + kAltoPie};
 }
 
 QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
@@ -41,14 +55,17 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   auto* image1 = new Imagen(this);
   image1->setObjectName("Image1");
   image1->Carga(fila.imagen);
-  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
+  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, Diseno(def).height() - kAltoPie - 2 * kMargen});
   Campos();
+  vivo_ = new SolidoVivo(this);
+  proporcion_.Coloca(*vivo_, LugarVivo(def));
+  Vivo();
   Pie(Diseno(def).height() - kAltoPie);
 }
 
 void FrDialogo::Campos() {
   const int cuenta = static_cast<int>(dialogo_.Definicion().campos.size());
-  const int filas = (cuenta + columnas_ - 1) / columnas_;
+  const int filas = Filas(dialogo_.Definicion());
   for (int i = 0; i < cuenta; ++i) {
     const int x = 2 * kMargen + kAnchoImagen + i / filas * kAnchoColumna, y = kMargen + i % filas * kAltoFila;
     auto* rotulo = new QLabel(Q(dialogo_.TextoRotulo(i)), this);
@@ -64,7 +81,10 @@ void FrDialogo::Campos() {
   una->setObjectName("OpUnapieza");
   dos->setObjectName("OpDosPiezas");
   dos->setChecked(dialogo_.dosPiezas);
-  connect(dos, &QRadioButton::toggled, this, [this](bool elegido) { dialogo_.dosPiezas = elegido; });
+  connect(dos, &QRadioButton::toggled, this, [this](bool elegido) {
+    dialogo_.dosPiezas = elegido;
+    Vivo();
+  });
   proporcion_.Coloca(*una, {x, y, kAnchoColumna / 2, kAltoControl});
   proporcion_.Coloca(*dos, {x + kAnchoColumna / 2, y, kAnchoColumna / 2 - kMargen, kAltoControl});
 }
@@ -76,17 +96,26 @@ QWidget* FrDialogo::ControlDe(int campo) {
     auto* texto = new TextoFiltrado(def.filtro, this);
     texto->setObjectName(Q(def.nombre));
     texto->setText(Q(dialogo_.CampoDe(campo).texto));
-    connect(texto, &QLineEdit::textChanged, this,
-            [this, campo](const QString& nuevo) { dialogo_.CampoDe(campo).texto = nuevo.toStdString(); });
+    connect(texto, &QLineEdit::textChanged, this, [this, campo](const QString& nuevo) {
+      dialogo_.CampoDe(campo).texto = nuevo.toStdString();
+      Vivo();
+    });
     return texto;
   }
   auto* lista = new ListaFija(this);
   lista->setObjectName(Q(def.nombre));
   for (const std::string_view valor : def.valores) lista->addItem(Q(valor));
   lista->setCurrentIndex(-1);
-  connect(lista, &QComboBox::currentTextChanged, this,
-          [this, campo](const QString& nuevo) { dialogo_.Elige(campo, nuevo.toStdString()); });
+  connect(lista, &QComboBox::currentTextChanged, this, [this, campo](const QString& nuevo) {
+    dialogo_.Elige(campo, nuevo.toStdString());
+    Vivo();
+  });
   return lista;
+}
+
+void FrDialogo::Vivo() {
+  LimpiaRegistros();
+  vivo_->Muestra(dialogo_.Lee());
 }
 
 void FrDialogo::Pie(int y) {
@@ -128,6 +157,7 @@ void FrDialogo::CmdAceptar() {
   const Respuesta respuesta = dialogo_.CmdAceptar();
   lblerror_->setText(Q(dialogo_.lblerror()));
   lblerror_->setVisible(!dialogo_.lblerror().empty());
+  lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
   if (respuesta != Respuesta::aceptado) {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;

@@ -1,6 +1,6 @@
 #pragma once
-// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the error label and two
-// buttons. What the fields are and take is the dialog object's.
+// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the solid of what is
+// typed so far, the error label and two buttons. What the fields are and take is the dialog object's.
 
 #include <QDialog>
 #include <QLabel>
@@ -12,6 +12,7 @@
 namespace duktores {
 
 class Imagen;
+class SolidoVivo;
 
 class FrDialogo : public QDialog {
   Q_OBJECT
@@ -25,6 +26,7 @@ class FrDialogo : public QDialog {
  private:
   void Campos();
   QWidget* ControlDe(int campo);
+  void Vivo();
   void Pie(int y);
   void Activa();
   void CmdAceptar();
@@ -33,6 +35,7 @@ class FrDialogo : public QDialog {
   int columnas_;
   Proporcion proporcion_;
   std::vector<QWidget*> controles_;  // of the fields, in their order
+  SolidoVivo* vivo_ = nullptr;
   QLabel* lblerror_ = nullptr;
 };
 
