@@ -39,8 +39,8 @@ constexpr std::array kComprobaciones{
     Comprobacion{L2,       [](const Valores& v) { return v[L2] == 0; }, texto::kNoCero},
     Comprobacion{EjeMayor, [](const Valores& v) { return v[EjeMayor] < v[EjeMenor]; }, texto::kDesde, {EjeMenor},
                  [](const Valores& v) { return v[EjeMenor]; }},
-    Comprobacion{Alfa,     [](const Valores& v) { return std::abs(v[Alfa]) > AnguloMayor(v); }, texto::kEntreAngulos, {},
-                 AnguloMayor},
+    Comprobacion{Alfa,     [](const Valores& v) { return std::abs(v[Alfa]) > AnguloMayor(v); },
+                 texto::kEntreAngulos, {}, AnguloMayor},
 };
 // clang-format on
 

@@ -241,8 +241,9 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
 
 // What the line under the pointer is; away from all lines the verdict.
 void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
-  if (hoja_.formas.empty() || FrmView_->isEnabled()) return;
-  const auto cercana = LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
+  if (hoja_.formas.empty()) return;
+  const auto cercana =
+      FrmView_->isEnabled() ? std::nullopt : LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
   LblEstado_->setText(
       cercana ? Q(TextoLinea(*cercana, solido_))
               : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));
