@@ -56,7 +56,8 @@ class Mirada {
     alto_ = baseAbajo ? ClaseArista::boca : ClaseArista::base;
     std::size_t pasos = 0;
     for (const Cara& cara : solido.caras) pasos += std::max(cara.bajo.size(), std::size_t{1}) - 1;
-    pasos_ = std::max(pasos / static_cast<std::size_t>(std::max(trozos, 1)), std::size_t{1});
+    const auto cuantos = static_cast<std::size_t>(std::max(trozos, 1));
+    pasos_ = std::max((pasos + cuantos - 1) / cuantos, std::size_t{1});
   }
 
   SolidoVisto Mira() && {
@@ -195,10 +196,11 @@ Trazo TrazoDe(const AristaVista& arista, double fuerza) {
   return {kLinea, 0.9, 1};
 }
 
-// Qt shares out a long translucent line to other threads, which takes a hundred times as long as to paint it.
-void AnadeTramos(std::vector<QLineF>& lineas, const QLineF& linea) {
+// In pieces of this length, if it is translucent: Qt shares out a longer one to other threads, which takes a hundred
+// times as long as to paint it.
+void AnadeTramos(std::vector<QLineF>& lineas, const QLineF& linea, bool opaca) {
   constexpr double kLargo = 16;
-  const int n = std::max(1, static_cast<int>(std::ceil(linea.length() / kLargo)));
+  const int n = opaca ? 1 : std::max(1, static_cast<int>(std::ceil(linea.length() / kLargo)));
   for (int i = 0; i < n; ++i) lineas.emplace_back(linea.pointAt(1.0 * i / n), linea.pointAt((i + 1.0) / n));
 }
 
@@ -237,16 +239,17 @@ class Trazador {
     std::vector<QLineF> lineas;
     const Trazo trazo = TrazoDe({{}, clase, delante, silueta}, fuerza_);
     if (trazo.alfa <= 0) return;
+    const bool opaca = trazo.alfa * alfa >= 1;
     for (const AristaVista& arista : visto_.aristas) {
       if (arista.clase != clase || arista.delante != delante || arista.silueta != silueta) continue;
       const QLineF linea(En(arista.plano.p1()), En(arista.plano.p2()));
       if (const auto visible = Recorta(linea, QRectF(QPointF(), lienzo_).adjusted(-8, -8, 8, 8))) {
-        AnadeTramos(lineas, *visible);
+        AnadeTramos(lineas, *visible, opaca);
       }
     }
     QColor color(trazo.color);
     color.setAlphaF(static_cast<float>(trazo.alfa * alfa));
-    pintor_.setPen(QPen(color, trazo.ancho, Qt::SolidLine, trazo.alfa * alfa < 1 ? Qt::FlatCap : Qt::SquareCap));
+    pintor_.setPen(QPen(color, trazo.ancho, Qt::SolidLine, opaca ? Qt::SquareCap : Qt::FlatCap));
     pintor_.drawLines(lineas.data(), static_cast<int>(lineas.size()));
   }
 

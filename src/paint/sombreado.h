@@ -35,9 +35,9 @@ struct SolidoVisto {
   std::vector<AristaVista> aristas;
 };
 
-/// The solid seen from `direccion`. Round facets become as many strips as make some `trozos` round the piece, if they
-/// have the points for it. What has coordinates that are no numbers is left out.
-SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos = 480);
+/// The solid seen from `direccion`. Round facets become strips, some `trozos` round the piece, but one of each at
+/// least. What has coordinates that are no numbers is left out.
+SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos = 300);
 
 /// Fills `lienzo` with the dark background and paints the solid.
 void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo);

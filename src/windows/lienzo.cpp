@@ -185,8 +185,10 @@ void Lienzo::Orbita(QPointF paso) {
   const QRectF zona = ExtensionPintada(axew_);
   QSizeF sobra;
   if (orbitado_.entero) {
+    constexpr double kBorde = 0.03;
+    const double borde = kBorde * std::min(width(), height());
     encuadre_.escala = std::min(encuadre_.escala, Ajusta(zona, size()).escala);
-    sobra = (QSizeF(size()) / encuadre_.escala - zona.size()) / 2;
+    sobra = ((QSizeF(size()) / 2 - QSizeF(borde, borde)) / encuadre_.escala) - zona.size() / 2;
   } else {
     sobra = zona.size() / 2;
   }
