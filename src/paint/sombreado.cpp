@@ -32,17 +32,17 @@ std::vector<Trozo> TrozosDe(const Cara& cara, std::size_t pasos) {
   return trozos;
 }
 
-// Whether the lower rims on the sheet are those of the base in space.
+// Whether the lower rims on the sheet are those of the base, which lies in the plane z = 0.
 bool BaseAbajo(const Solido& solido) {
-  double altura = 0;
+  double lejos = 0;  // the upper rims from that plane more than the lower ones
   for (const Cara& cara : solido.caras) {
     if (cara.bajo.empty() || cara.alto.empty()) continue;
     const auto z = [&](const std::vector<int>& orilla) {
-      return solido.puntos[static_cast<std::size_t>(orilla.front())].z;
+      return std::abs(solido.puntos[static_cast<std::size_t>(orilla.front())].z);
     };
-    altura += z(cara.alto) - z(cara.bajo);
+    lejos += z(cara.alto) - z(cara.bajo);
   }
-  return altura >= 0;
+  return lejos >= 0;
 }
 
 class Mirada {
