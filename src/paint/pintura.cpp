@@ -58,21 +58,6 @@ bool Dibujable(QPointF p) { return std::abs(p.x()) < 1e100 && std::abs(p.y()) < 
 
 bool EsVueltaEntera(const Entidad& curva) { return curva.fin - curva.inicio > 2 * dPi - 1e-9; }
 
-/// The part of a line inside a rectangle.
-std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja) {
-  double desde = 0, hasta = 1;
-  const auto dentro = [&](double paso, double sitio) {
-    if (paso == 0) return sitio >= 0;
-    (paso < 0 ? desde : hasta) = paso < 0 ? std::max(desde, sitio / paso) : std::min(hasta, sitio / paso);
-    return desde <= hasta;
-  };
-  if (!dentro(-linea.dx(), linea.x1() - caja.left()) || !dentro(linea.dx(), caja.right() - linea.x1()) ||
-      !dentro(-linea.dy(), linea.y1() - caja.top()) || !dentro(linea.dy(), caja.bottom() - linea.y1())) {
-    return std::nullopt;
-  }
-  return QLineF(linea.pointAt(desde), linea.pointAt(hasta));
-}
-
 class Pincel {
  public:
   Pincel(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada)

@@ -103,4 +103,13 @@ inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, 
 
 inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
 
+// What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
+inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
+inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;
+inline constexpr int kSumaHasta = 227, kHastaMitad = 228, kHasta = 229, kMitadHasta = 230, kMultiploDe4 = 231;
+inline constexpr int kBajoBase = 232;
+
+// The solid as it is looked at.
+inline constexpr int kDesdeEsquina = 233, kAlambre = 234, kSolidoODesarrollo = 235, kBoca = 236, kBase = 237;
+
 }  // namespace duktores::texto

@@ -29,6 +29,7 @@ constexpr std::array kVistas{
     VistaFija{"cmdisoright", "F8",  texto::kIsoDerecha,     { 1,  0,  1}},
     VistaFija{"CmdIsoclear", "F9",  texto::kIsoDetras,      { 0,  1,  1}},
     VistaFija{"cmdisoleft",  "F10", texto::kIsoIzquierda,   {-1,  0,  1}},
+    VistaFija{"cmdCorner",   "F11", texto::kDesdeEsquina,   { 1, -1,  0.8}},
 };
 // clang-format on
 

@@ -128,6 +128,8 @@ class EWdraw {
   const std::vector<Punto2>& Fantasma() const { return fantasma_; }
   const std::string& RotuloFantasma() const { return rotuloFantasma_; }
   Punto3 DireccionVista() const { return direccionVista_; }
+  /// Exchanges the entities and the view direction with another control's; who looks at either stays.
+  void CambiaModelo(EWdraw& otro);
   void PonVista(VistaEWdraw* vista) { vista_ = vista; }  ///< not owned; null takes it away
 
  private:

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
@@ -11,8 +12,10 @@
 #include "windows/frm_view_unfold.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
-#include "windows/ventanas.h"
+#include "windows/registros.h"
+#include "windows/solido_vivo.h"
 #include "windows/teclas.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
@@ -25,9 +28,19 @@ constexpr int kFilasPorColumna = 11;
 
 int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
 
+int Filas(const DefDialogo& def) { return (static_cast<int>(def.campos.size()) + Columnas(def) - 1) / Columnas(def); }
+
+// The solid stands beside one column of fields and below two.
+QRect LugarVivo(const DefDialogo& def) {
+  constexpr int kAnchoVivo = 260, kAltoVivo = 212;
+  const int x = 2 * kMargen + kAnchoImagen, bajo = 2 * kMargen + Filas(def) * kAltoFila;
+  if (Columnas(def) == 1) return {x + kAnchoColumna, kMargen, kAnchoVivo, kAltoImagen};
+  return {x, bajo, 2 * kAnchoColumna - kMargen, std::max(kAltoVivo, kMargen + kAltoImagen - bajo)};
+}
+
 QSize Diseno(const DefDialogo& def) {
-  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna,
-          kMargen + kAltoImagen + kMargen + kAltoAjustes + kAltoPie};
+  const QRect vivo = LugarVivo(def);
+  return {vivo.x() + vivo.width() + kMargen, vivo.y() + vivo.height() + kMargen + kAltoAjustes + kAltoPie};
 }
 
 QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
@@ -45,8 +58,11 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   auto* image1 = new Imagen(this);
   image1->setObjectName("Image1");
   image1->Carga(fila.imagen);
-  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
+  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, Diseno(def).height() - kAltoPie - 2 * kMargen});
   Campos();
+  vivo_ = new SolidoVivo(this);
+  proporcion_.Coloca(*vivo_, LugarVivo(def));
+  Vivo();
   Ajustes(Diseno(def).height() - kAltoPie - kAltoAjustes);
   Pie(Diseno(def).height() - kAltoPie);
   PonAyuda(*this);
@@ -54,7 +70,7 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
 
 void FrDialogo::Campos() {
   const int cuenta = static_cast<int>(dialogo_.Definicion().campos.size());
-  const int filas = (cuenta + columnas_ - 1) / columnas_;
+  const int filas = Filas(dialogo_.Definicion());
   for (int i = 0; i < cuenta; ++i) {
     const int x = 2 * kMargen + kAnchoImagen + i / filas * kAnchoColumna, y = kMargen + i % filas * kAltoFila;
     auto* rotulo = new QLabel(this);
@@ -75,7 +91,10 @@ void FrDialogo::Campos() {
   una->setObjectName("OpUnapieza");
   dos->setObjectName("OpDosPiezas");
   dos->setChecked(dialogo_.dosPiezas);
-  connect(dos, &QRadioButton::toggled, this, [this](bool elegido) { dialogo_.dosPiezas = elegido; });
+  connect(dos, &QRadioButton::toggled, this, [this](bool elegido) {
+    dialogo_.dosPiezas = elegido;
+    Vivo();
+  });
   proporcion_.Coloca(*una, {x, y, kAnchoColumna / 2, kAltoControl});
   proporcion_.Coloca(*dos, {x + kAnchoColumna / 2, y, kAnchoColumna / 2 - kMargen, kAltoControl});
 }
@@ -87,9 +106,11 @@ QWidget* FrDialogo::ControlDe(int campo) {
     auto* texto = new TextoFiltrado(def.filtro, this);
     texto->setObjectName(Q(def.nombre));
     texto->setText(Q(dialogo_.CampoDe(campo).texto));
-    connect(texto, &QLineEdit::textChanged, this,
-            [this, campo](const QString& nuevo) { dialogo_.CampoDe(campo).texto = nuevo.toStdString(); });
-    connect(texto, &QLineEdit::textChanged, this, [this, campo] { OlvidaError(campo); });
+    connect(texto, &QLineEdit::textChanged, this, [this, campo](const QString& nuevo) {
+      dialogo_.CampoDe(campo).texto = nuevo.toStdString();
+      OlvidaError(campo);
+      Vivo();
+    });
     connect(texto, &TextoFiltrado::rechazado, this,
             [this, campo](const QString& motivo) { MuestraError(campo, motivo); });
     return texto;
@@ -98,10 +119,17 @@ QWidget* FrDialogo::ControlDe(int campo) {
   lista->setObjectName(Q(def.nombre));
   for (const std::string_view valor : def.valores) lista->addItem(Q(valor));
   lista->setCurrentIndex(-1);
-  connect(lista, &QComboBox::currentTextChanged, this,
-          [this, campo](const QString& nuevo) { dialogo_.Elige(campo, nuevo.toStdString()); });
-  connect(lista, &QComboBox::currentTextChanged, this, [this, campo] { OlvidaError(campo); });
+  connect(lista, &QComboBox::currentTextChanged, this, [this, campo](const QString& nuevo) {
+    dialogo_.Elige(campo, nuevo.toStdString());
+    OlvidaError(campo);
+    Vivo();
+  });
   return lista;
+}
+
+void FrDialogo::Vivo() {
+  LimpiaRegistros();
+  vivo_->Muestra(dialogo_.Lee());
 }
 
 // Under the fields: what isn't typed here but by the settings.
@@ -151,6 +179,7 @@ void FrDialogo::Pie(int y) {
 void FrDialogo::MuestraError(int campo, const QString& texto) {
   campoError_ = campo;
   lblerror_->setText(texto);
+  lblerror_->setToolTip({});
   lblerror_->setVisible(!texto.isEmpty());
 }
 
@@ -174,12 +203,15 @@ void FrDialogo::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
 // What is typed stays as it is, under new labels.
 void FrDialogo::customEvent(QEvent* suceso) {
-  if (suceso->type() == ConfiguracionLeida::Tipo()) textos_.Renueva();
+  if (suceso->type() != ConfiguracionLeida::Tipo()) return;
+  textos_.Renueva();
+  Vivo();
 }
 
 void FrDialogo::CmdAceptar() {
   const Respuesta respuesta = dialogo_.CmdAceptar();
   MuestraError(dialogo_.Foco(), Q(dialogo_.lblerror()));
+  lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
   if (respuesta != Respuesta::aceptado) {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;

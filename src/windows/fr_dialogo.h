@@ -1,6 +1,7 @@
 #pragma once
-// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, what a piece is made of
-// by the settings, the error label and two buttons. What the fields are and take is the dialog object's.
+// The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the solid of what is
+// typed so far, what a piece is made of by the settings, the error label and two buttons. What the fields are and take
+// is the dialog object's.
 
 #include <QDialog>
 #include <QLabel>
@@ -13,6 +14,7 @@
 namespace duktores {
 
 class Imagen;
+class SolidoVivo;
 
 class FrDialogo : public QDialog {
   Q_OBJECT
@@ -27,6 +29,7 @@ class FrDialogo : public QDialog {
  private:
   void Campos();
   QWidget* ControlDe(int campo);
+  void Vivo();
   void Ajustes(int y);
   void Pie(int y);
   void Activa();
@@ -38,6 +41,7 @@ class FrDialogo : public QDialog {
   int columnas_;
   Proporcion proporcion_;
   std::vector<QWidget*> controles_;  // of the fields, in their order
+  SolidoVivo* vivo_ = nullptr;
   QLabel* lblerror_ = nullptr;
   TextosVivos textos_;
   int campoError_ = 0;  // the field that it names

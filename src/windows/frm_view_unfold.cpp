@@ -26,7 +26,7 @@ namespace duktores {
 namespace {
 
 constexpr QSize kDiseno{1000, 720};
-constexpr int kMargen = 12, kBoton = 38, kPaso = kBoton + 2, kAltoGrupo = kBoton + 12;
+constexpr int kMargen = 12, kBoton = 34, kPaso = kBoton + 2, kAltoGrupo = kBoton + 12;
 
 struct BotonZoom {
   const char* nombre;
@@ -67,12 +67,15 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
   connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
+  connect(lienzo_, &Lienzo::girado, this, &FrmViewUnfold::MarcaVista);
 
   EWdraw_.EwInicia(true);
   solido_ = Dibuja3D(EWdraw_);
   CmdSave_->setEnabled(false);
+  CmdSolido_->setEnabled(false);
   CmdExport_->setEnabled(false);
   ComandoVista(EWdraw_, "F5", false);
+  MuestraSolido(true);
   CmdDesplegado_->setFocus();
 }
 
@@ -87,10 +90,14 @@ QPushButton* FrmViewUnfold::Boton(QWidget* padre, std::string_view nombre, int t
 void FrmViewUnfold::Botones() {
   int x = 6;
   for (const VistaFija& vista : VistasFijas()) {
-    const auto mira = [this, &vista] { ComandoVista(EWdraw_, vista.clave, false); };
+    const auto mira = [this, &vista] {
+      ComandoVista(EWdraw_, vista.clave, false);
+      MarcaVista();
+    };
     QPushButton* boton = Boton(FrmView_, vista.boton, vista.texto, {x, 6, kBoton, kBoton});
     const QString clave = QString::fromUtf8(vista.clave.data(), static_cast<qsizetype>(vista.clave.size()));
     boton->setToolTip(boton->toolTip() + " (" + clave + ")");
+    boton->setCheckable(true);
     connect(boton, &QPushButton::clicked, this, mira);
     auto* tecla = new QShortcut(QKeySequence(clave), this);
     connect(tecla, &QShortcut::activated, this, [this, mira] {
@@ -98,6 +105,10 @@ void FrmViewUnfold::Botones() {
     });
     x += kPaso;
   }
+  cmdAlambre_ = Boton(FrmView_, "cmdAlambre", texto::kAlambre, {x, 6, kBoton, kBoton});
+  cmdAlambre_->setCheckable(true);
+  connect(cmdAlambre_, &QPushButton::clicked, this, [this] { MuestraSolido(true); });
+  x += kPaso;
   proporcion_.Coloca(*FrmView_, {kMargen, 10, x + 4, kAltoGrupo});
 
   const int inicioZoom = FrmView_->geometry().right() + kMargen;
@@ -112,7 +123,7 @@ void FrmViewUnfold::Botones() {
   }
   proporcion_.Coloca(*FrmZoom_, {inicioZoom, 10, x + 4, kAltoGrupo});
 
-  x = kDiseno.width() - kMargen - 6 * (kPaso + 8);
+  x = kDiseno.width() - kMargen - 7 * (kPaso + 8);
   const auto suelto = [&](std::string_view nombre, int texto) {
     QPushButton* boton = Boton(this, nombre, texto, {x, 14, kBoton + 6, kBoton + 4});
     x += kPaso + 8;
@@ -121,14 +132,20 @@ void FrmViewUnfold::Botones() {
   CmdExacto_ = suelto("CmdExacto", texto::kExacto);
   CmdExacto_->setCheckable(true);
   CmdExacto_->setChecked(estado.pieza->regla == Regla::exacta);
+  CmdSolido_ = suelto("CmdSolido", texto::kSolidoODesarrollo);
   CmdDesplegado_ = suelto("CmdDesplegado", texto::kDesplegado);
   CmdSave_ = suelto("CmdSave", texto::kGuarda);
-  CmdExport_ = new Exportador([this] { return Exportable{EWdraw_, solido_, veredicto_}; }, this);
+  CmdExport_ = new Exportador(
+      [this] {
+        return Exportable{FrmView_->isEnabled() ? otra_ : EWdraw_, solido_, veredicto_};
+      },
+      this);
   proporcion_.Coloca(*CmdExport_, {x, 14, kBoton + 6, kBoton + 4});
   connect(CmdExport_, &Exportador::escrito, this, &FrmViewUnfold::PonHecho);
   x += kPaso + 8;
-  for (QPushButton* boton : {CmdExacto_, CmdDesplegado_, CmdSave_}) PonTeclas(*boton);
+  for (QPushButton* boton : {cmdAlambre_, CmdExacto_, CmdSolido_, CmdDesplegado_, CmdSave_}) PonTeclas(*boton);
   connect(CmdExacto_, &QPushButton::clicked, this, &FrmViewUnfold::CmdExacto);
+  connect(CmdSolido_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSolido);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
   connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
@@ -161,15 +178,16 @@ void FrmViewUnfold::CmdDesplegado() {
   CmdExport_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   CmdExacto_->setEnabled(false);
-  FrmView_->setEnabled(false);
-  FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
-  lienzo_->PermiteOrbitar(false);
+  CmdSolido_->setEnabled(false);
+  if (FrmView_->isEnabled()) EWdraw_.CambiaModelo(otra_);
+  MuestraSolido(false);
   Corrida corrida = Desplegado(EWdraw_);
   if (!vivo) return;
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
   CmdDesplegado_->setEnabled(true);
   CmdExacto_->setEnabled(true);
+  CmdSolido_->setEnabled(true);
   CmdSave_->setEnabled(estado.oDrawing->Count() > 0);
   CmdExport_->setEnabled(!hoja_.formas.empty());
 }
@@ -178,9 +196,31 @@ void FrmViewUnfold::CmdDesplegado() {
 void FrmViewUnfold::CmdExacto() {
   CambiaRegla();
   solido_ = SolidoDe(*estado.pieza);
-  if (!FrmView_->isEnabled()) return CmdDesplegado();
-  DibujaSolido(EWdraw_, solido_);
+  DibujaSolido(FrmView_->isEnabled() ? EWdraw_ : otra_, solido_);
+  if (CmdSolido_->isEnabled()) return CmdDesplegado();
   EWdraw_.EwRegen();
+}
+
+void FrmViewUnfold::CmdSolido() {
+  lienzo_->setFocus();
+  EWdraw_.CambiaModelo(otra_);
+  MuestraSolido(!FrmView_->isEnabled());
+  EWdraw_.EwRegen();
+}
+
+void FrmViewUnfold::MuestraSolido(bool solido) {
+  FrmView_->setEnabled(solido);
+  FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(solido);
+  lienzo_->PermiteOrbitar(solido);
+  lienzo_->PonSolido(solido && !cmdAlambre_->isChecked() ? &solido_ : nullptr);
+  MarcaVista();
+}
+
+void FrmViewUnfold::MarcaVista() {
+  for (const VistaFija& vista : VistasFijas()) {
+    const bool suya = FrmView_->isEnabled() && EWdraw_.DireccionVista() == vista.direccion;
+    FrmView_->findChild<QPushButton*>(QString::fromUtf8(vista.boton.data()))->setChecked(suya);
+  }
 }
 
 void FrmViewUnfold::CmdSave() {
@@ -232,7 +272,7 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
 // What the line under the pointer is; away from all lines the verdict.
 void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
   if (hoja_.formas.empty()) return;
-  const auto cercana = LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
+  const auto cercana = FrmView_->isEnabled() ? std::nullopt : LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
   LblEstado_->setText(
       cercana ? Q(TextoLinea(*cercana, solido_))
               : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));

@@ -36,6 +36,9 @@ class FrmViewUnfold : public QDialog {
   void CmdDesplegado();
   void CmdSave();
   void CmdExacto();
+  void CmdSolido();
+  void MuestraSolido(bool solido);
+  void MarcaVista();
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
   void MuestraLinea(QPointF punto, double alcance);
@@ -46,12 +49,12 @@ class FrmViewUnfold : public QDialog {
 
   Proporcion proporcion_;
   Solido solido_;
-  Patron hoja_;          // as it stands on the control; empty while the solid shows
-  Veredicto veredicto_;  // on it
-  EWdraw EWdraw_;
+  Patron hoja_;           // as it stands on its control; empty while there is none
+  Veredicto veredicto_;   // on it
+  EWdraw EWdraw_, otra_;  // what shows; solid or pattern, whichever doesn't
   Lienzo* lienzo_;
   QGroupBox *FrmView_, *FrmZoom_;
-  QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
+  QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_, *CmdSolido_, *cmdAlambre_;
   Exportador* CmdExport_;
   QLabel* LblEstado_;
   QString lineaVeredicto_;

@@ -36,6 +36,9 @@ constexpr std::array kDibujos{
     Dibujo{"cmdisoright",   kPlanta,                                             "M18 12L23 8V16Z"},
     Dibujo{"CmdIsoclear",   kPlanta,                                             "M12 6L8 1H16Z"},
     Dibujo{"cmdisoleft",    kPlanta,                                             "M6 12L1 16V8Z"},
+    Dibujo{"cmdCorner",     "M12 2L21 7V17L12 22L3 17V7ZM3 7L12 12L21 7M12 12V22",  "M3 7L12 12V22L3 17Z"},
+    Dibujo{"cmdAlambre",    "M8 4H16L21 20H3ZM8 4L12 20L16 4M12 20L3 20",        ""},
+    Dibujo{"CmdSolido",     "M4 8A8 8 0 0 1 19 7M20 3V8H15M20 16A8 8 0 0 1 5 17M4 21V16H9", ""},
     Dibujo{"cmdmove",       "M12 3V21M3 12H21M9 6L12 3L15 6M9 18L12 21L15 18M6 9L3 12L6 15M18 9L21 12L18 15", ""},
     Dibujo{"cmdorbit",      "M4 12A8 3.5 0 1 0 12 8.5H8M11 5.5L8 8.5L11 11.5M12 2V22", ""},
     Dibujo{"CmdZoom",       "M8 5A5.5 5.5 0 1 0 8 16A5.5 5.5 0 1 0 8 5M12 14.5L17 20M8 8V13M5.5 10.5H10.5"

@@ -7,7 +7,7 @@
 #include <memory>
 #include <optional>
 
-#include "paint/pintura.h"
+#include "paint/sombreado.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -33,6 +33,8 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void Amplia(double factor, QPointF sobre);
   /// A flat pattern keeps its view from above.
   void PermiteOrbitar(bool permite);
+  /// Shows this solid, shaded, in place of the model's lines, which still say what is in view; null: the lines.
+  void PonSolido(const Solido* solido);
 
  signals:
   /// Coordinates of the pointer during a pick, in model units.
@@ -43,6 +45,8 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void eligiendo(bool empieza);
   /// The command of the left button, null for none.
   void mandoCambiado(std::optional<duktores::MandoVista> mando);
+  /// The model has been turned by hand.
+  void girado();
 
  protected:
   void paintEvent(QPaintEvent* suceso) override;
@@ -58,6 +62,7 @@ class Lienzo : public QWidget, public VistaEWdraw {
   QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
   void Encuadra(QRectF plano);
   void EncuadraEleccion();
+  void EmpiezaOrbita();
   void Orbita(QPointF paso);
   void PonMando(std::optional<MandoVista> mando);
   void PonPuntero();
@@ -69,6 +74,15 @@ class Lienzo : public QWidget, public VistaEWdraw {
   std::optional<MandoVista> arrastre_;  // what the pressed button does
   QPointF inicio_, raton_;
   bool orbita_ = true;
+  const Solido* solido_ = nullptr;
+  // Where turning by hand began, a turn back leads there; and where it stands.
+  struct {
+    Encuadre encuadre;
+    Punto3 eje;
+    bool entero = false;
+    Encuadre ahora;
+    Punto3 direccion;
+  } orbitado_;
   std::shared_ptr<Eleccion> eleccion_;
 };
 

@@ -19,7 +19,7 @@ JOB = {"name": "pieza", "piece": "TransCR", **FIELDS, "Divisions": 24, "Start": 
 CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickness=2\nSizetxt=10\nFiber=2\n"
           "BendColour=3\nDimensions=1\nDensity=7.85\nBox=1\n")
 # Places in the windows at their design sizes.
-UNFOLD, SAVE, LEAVE = (770, 35), (818, 35), (962, 35)
+UNFOLD, SAVE, LEAVE = (788, 33), (832, 33), (964, 33)
 DIALOG, VIEWER = "Rect. Circ. Transf.", "Rect. Circ. Transf. 400x300 R95.5"
 MESSAGE = "duktores"  # what window managers show for an empty title
 PICKS = (300, 400), (500, 150), (700, 430), (800, 200)  # each piece and its title block

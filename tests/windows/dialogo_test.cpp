@@ -285,6 +285,7 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   Pulsa(dialogo_, "CmdAceptar");
   EXPECT_EQ(Foco(), "TxtRS");
   EXPECT_EQ(lblerror.text().toStdString(), Texto(20));
+  EXPECT_EQ(lblerror.toolTip(), "RS: el doble del radio es como mucho el mayor de LI y AI, 400");
   EXPECT_TRUE(lblerror.isVisible());
   Teclea("TxtAY", "25.5");
   EXPECT_TRUE(lblerror.isVisible());
@@ -300,6 +301,28 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   EXPECT_EQ(Foco(), "TxtH");
   EXPECT_EQ(Texto_("TxtAY").text(), "25.5");
   EXPECT_EQ(Hijo<QComboBox>(dialogo_, "CmbPosIni").currentText(), "3");
+}
+
+// From the moment on that the fields make a piece, which nothing is stored of.
+TEST_F(VentanaCR, TheSolidOfWhatIsTypedShowsAndTurns) {
+  auto& vivo = Hijo(dialogo_, "SolidoVivo");
+  auto& reparo = Hijo<QLabel>(dialogo_, "LblReparo");
+  const QImage sin = Vista(vivo).copy(0, 0, vivo.width(), reparo.y() - 4);
+  EXPECT_TRUE(reparo.text().startsWith("Falta: H, RS, LI"));
+  const auto solido = [&] { return Vista(vivo).copy(0, 0, vivo.width(), reparo.y() - 4); };
+  Llena();
+  const QImage con = solido();
+  EXPECT_TRUE(reparo.text().isEmpty() && con != sin && !estado.pieza && estado.sTipoPieza.empty());
+  Teclea("TxtRS", "200.01");
+  EXPECT_EQ(reparo.text(), "RS: el doble del radio es como mucho el mayor de LI y AI, 400");
+  EXPECT_EQ(solido(), sin);
+  EXPECT_FALSE(Hijo(dialogo_, "lblerror").isVisible());
+  Teclea("TxtRS", "100");
+  EXPECT_EQ(solido(), con);
+  Arrastra(vivo, Qt::LeftButton, {100, 100}, {160, 80});
+  EXPECT_NE(solido(), con);
+  QTest::mouseDClick(&vivo, Qt::LeftButton);
+  EXPECT_EQ(solido(), con);
 }
 
 }  // namespace

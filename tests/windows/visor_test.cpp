@@ -72,20 +72,36 @@ TEST_F(Visor, OpensWithTheSolidAndItsViews) {
   } vistas[]{{"cmdTop", {0, 0, 1}},       {"cmdBottom", {0, 0, -1}},  {"CmdLeft", {-1, 0, 0}},
              {"CmdRight", {1, 0, 0}},     {"cmdfront", {0, -1, 0}},   {"cmdRear", {0, 1, 0}},
              {"CmdIsofront", {0, -1, 1}}, {"cmdisoright", {1, 0, 1}}, {"CmdIsoclear", {0, 1, 1}},
-             {"cmdisoleft", {-1, 0, 1}}};
+             {"cmdisoleft", {-1, 0, 1}},  {"cmdCorner", {1, -1, 0.8}}};
+  const auto marcados = [&] {
+    std::string nombres;
+    for (const auto& vista : vistas) {
+      if (Hijo<QPushButton>(visor_, vista.boton).isChecked()) nombres += vista.boton;
+    }
+    return nombres;
+  };
   AlAbrir([&] {
     EXPECT_TRUE(Habilitado("FrmView") && Habilitado("CmdDesplegado"));
-    EXPECT_FALSE(Habilitado("CmdSave"));
+    EXPECT_FALSE(Habilitado("CmdSave") || Habilitado("CmdSolido"));
     EXPECT_LT(visor_.width(), visor_.screen()->availableSize().width()) << "it is designed for a larger screen";
     EXPECT_LT(Hijo(visor_, "LblEstado").font().pointSizeF(), QApplication::font().pointSizeF());
+    const QImage sombreado = Imagen();
+    QTest::keyClick(&visor_, Qt::Key_W);
     ExpectVista({0, -1, 0}, "at first");
+    EXPECT_NE(Imagen(), sombreado);
     for (std::size_t i = 0; i < std::size(vistas); ++i) {
       Pulsa(visor_, vistas[i].boton);
       ExpectVista(vistas[i].desde, vistas[i].boton);
       const std::size_t otra = (i + 5) % std::size(vistas);
       QTest::keyClick(&visor_, static_cast<Qt::Key>(Qt::Key_F1 + otra));
       ExpectVista(vistas[otra].desde, "F" + std::to_string(otra + 1));
+      EXPECT_EQ(marcados(), vistas[otra].boton);
     }
+    Arrastra(*lienzo_, Qt::RightButton, {300, 300}, {340, 250});
+    EXPECT_EQ(marcados(), "");
+    QTest::keyClick(&visor_, Qt::Key_F5);
+    QTest::keyClick(&visor_, Qt::Key_W);
+    EXPECT_EQ(Imagen(), sombreado);
     QTest::keyClick(&visor_, Qt::Key_Escape);
   });
   EXPECT_FALSE(visor_.isVisible());
@@ -153,6 +169,7 @@ TEST_F(Visor, KeysDoWhatTheButtonsDo) {
     EXPECT_TRUE(Hijo<QPushButton>(visor_, "CmdExacto").isChecked() && estado.pieza->regla == Regla::exacta);
     Hijo(visor_, "cmdTop").setFocus();
     QTest::keyClick(&visor_, Qt::Key_Return);
+    QTest::keyClick(&visor_, Qt::Key_W);
     ExpectVista({0, 0, 1}, "Enter on its button");
     QTest::keyClick(&visor_, Qt::Key_U);
     EXPECT_GT(estado.oDrawing->Count(), 0);
@@ -178,6 +195,16 @@ TEST_F(Visor, AFalsePatternIsToldAndATrueOne) {
     QTest::keyClick(&otro, Qt::Key_F7);
     Arrastra(*lienzo, Qt::RightButton, {300, 300}, {340, 250});
     EXPECT_EQ(lienzo->grab().toImage(), desarrollo) << "a flat pattern stays as seen from above";
+    const auto [texto, dibujadas] = std::pair(veredicto.text(), estado.oDrawing->Count());
+    for (const bool solido : {true, false}) {
+      Pulsa(otro, "CmdSolido");
+      EXPECT_EQ(Hijo(otro, "FrmView").isEnabled(), solido);
+      EXPECT_EQ(lienzo->grab().toImage() == desarrollo, !solido);
+      EXPECT_TRUE(veredicto.text() == texto && Hijo(otro, "CmdSave").isEnabled());
+      Arrastra(*lienzo, Qt::RightButton, {300, 300}, {340, 250});
+    }
+    EXPECT_TRUE(estado.oDrawing->Count() == dibujadas && lienzo->grab().toImage() == desarrollo);
+    Pulsa(otro, "CmdSolido");  // the other rule unfolds anew, whichever of the two shows
     Pulsa(otro, "CmdExacto");
     EXPECT_EQ(veredicto.styleSheet().contains("background"), exacto) << "the other rule's own verdict";
   }
@@ -278,6 +305,19 @@ TEST_F(UnLienzo, TheRightButtonTurnsTheSolid) {
   Arrastra(lienzo_, Qt::RightButton, {150, 260}, {200, 200});
   EXPECT_LT(std::hypot(axew_.DireccionVista().x, axew_.DireccionVista().z), 1e-9);
   EXPECT_EQ(lienzo_.grab().toImage(), antes);
+}
+
+TEST_F(UnLienzo, WhatWasInViewWholeStaysSoWhenTurned) {
+  axew_.EwAddLine({0, -500, 0}, {0, 500, 0});
+  axew_.EwViewDirection(0, -1, 0);
+  axew_.EwRegen();
+  Arrastra(lienzo_, Qt::RightButton, {200, 200}, {20, 220});
+  const QImage imagen = lienzo_.grab().toImage();
+  const QRgb fondo = imagen.pixel(0, 0);
+  for (int i = 0; i < 400; ++i) {
+    EXPECT_TRUE(imagen.pixel(i, 3) == fondo && imagen.pixel(i, 396) == fondo) << i;
+    EXPECT_TRUE(imagen.pixel(3, i) == fondo && imagen.pixel(396, i) == fondo) << i;
+  }
 }
 
 }  // namespace
