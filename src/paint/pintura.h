@@ -9,6 +9,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <span>
 #include <string>
 
 #include "geometry/puntos.h"
@@ -19,6 +20,7 @@ class QPainter;
 namespace duktores {
 
 class EWdraw;
+struct Entidad;
 
 /// The axes of the viewing plane as unit vectors of the model.
 struct Base3 {
@@ -48,6 +50,9 @@ Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo);
 /// Fills `lienzo` with the background and paints the model. Device units are those of the painter, whose transformation
 /// should be the one it starts with.
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo);
+/// Paints entities over what is there, seen from above.
+void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,
+                    Fondo fondo);
 
 enum class Formato { png, svg, pdf };
 /// A picture of the whole model on light paper, written whole or not at all.

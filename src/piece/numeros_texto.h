@@ -32,6 +32,8 @@ inline constexpr int kDesplegado = 99, kGuarda = 100, kCierraVisor = 101;
 inline constexpr int kColocarPieza = 63, kColocarSegunda = 64, kColocarCajetin = 65;
 inline constexpr int kEsquina = 103, kLado = 104, kCajetin = 106, kElige = 102, kReemplazar = 105;
 
+inline constexpr int kDeCuantas = 200, kPonTodas = 201, kPonTodasAyuda = 202, kNombres = 203, kSolapan = 204;
+
 inline constexpr int kNoGuardado = 80;       ///< the file could not be saved
 inline constexpr int kPlantilla = 81;        ///< the template is missing or unusable
 inline constexpr int kDemasiadas = 82;       ///< run ended early: no handle left

@@ -27,6 +27,7 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 /// piece, or draws what it unfolds to.
 Corrida Desplegado(EWdraw& axew);
 Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
+Corrida Desplegado(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide);
 
 /// The name that a drawing gets: with the ending ".dxf" if it has none.
 std::string NombreDxf(const std::string& elegido);

@@ -39,6 +39,7 @@ constexpr std::array kZoom{
     BotonZoom{"CmdZoomAll", texto::kZoomTodo, MandoVista::zoomAll, &EWdraw::EwZoomAll},
     BotonZoom{"CmdZoomwindow", texto::kZoomVentana, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
+constexpr const char* kAviso = "background: #c00000; color: white; font-weight: bold;";
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
@@ -47,6 +48,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
       lienzo_(new Lienzo(EWdraw_, this)),
+      colocador_(new Colocador(EWdraw_, *lienzo_)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
       LblEstado_(new QLabel(this)) {
@@ -61,6 +63,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
+  connect(colocador_, &Colocador::redibuja, this, &FrmViewUnfold::DespliegaHoja);
   connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
 
   EWdraw_.EwInicia(true);
@@ -127,8 +130,13 @@ void FrmViewUnfold::Botones() {
 // The drawing widget looks at the control, which would go before it.
 FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
 
-// The window may be closed, or the program end, while the unfolding waits for a pick.
 void FrmViewUnfold::CmdDesplegado() {
+  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); });
+  DespliegaHoja();
+}
+
+// The window may be closed, or the program end, while the unfolding waits for a pick.
+void FrmViewUnfold::DespliegaHoja() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
@@ -138,7 +146,7 @@ void FrmViewUnfold::CmdDesplegado() {
   FrmView_->setEnabled(false);
   FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
-  Corrida corrida = Desplegado(EWdraw_);
+  Corrida corrida = colocador_->Despliega();
   if (!vivo) return;
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
@@ -183,7 +191,10 @@ void FrmViewUnfold::MuestraEleccion(bool empieza) {
 void FrmViewUnfold::MuestraPunto(QPointF punto) {
   const int decimales = estado.iUnidad == 1 ? 2 : 3;
   const std::string& rotulo = EWdraw_.RotuloFantasma();
-  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(texto::kElige)) +
+  const QString solapes = colocador_->SolapesEn(punto), estilo = solapes.isEmpty() ? "" : kAviso;
+  if (LblEstado_->styleSheet() != estilo) LblEstado_->setStyleSheet(estilo);
+  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") +
+                      (solapes.isEmpty() ? Q(Texto(texto::kElige)) : solapes) +
                       QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
 }
 
@@ -191,9 +202,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   const Veredicto veredicto = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  const QString linea = Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
-  const bool bien = completo && veredicto.Cierto();
-  LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
+  const QString solapes = colocador_->Solapes();
+  const QString linea = (solapes.isEmpty() ? QString() : solapes + ". ") +
+                        Q(completo ? TextoVeredicto(veredicto) : Texto(texto::kIncompleto));
+  const bool bien = completo && veredicto.Cierto() && solapes.isEmpty();
+  LblEstado_->setStyleSheet(bien ? "" : kAviso);
   LblEstado_->ensurePolished();  // bold letters are wider
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
   LblEstado_->setToolTip(linea);
@@ -220,10 +233,12 @@ void FrmViewUnfold::showEvent(QShowEvent* suceso) {
 
 void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
-// Escape ends what is going on, the innermost first: a pick, a command of the mouse, the window.
+// Escape ends what is going on, the innermost first: a pick, a drag, a command of the mouse, the window.
 void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {
   if (suceso->key() == Qt::Key_Escape && lienzo_->Eligiendo()) {
     lienzo_->CancelaEleccion();
+  } else if (suceso->key() == Qt::Key_Escape && colocador_->CancelaArrastre()) {
+    return;
   } else if (suceso->key() != Qt::Key_Escape || !lienzo_->TerminaMando()) {
     QDialog::keyPressEvent(suceso);
   }

@@ -8,6 +8,7 @@
 
 #include "shell/corrida.h"
 #include "viewer/ewdraw.h"
+#include "windows/colocador.h"
 #include "windows/lienzo.h"
 #include "windows/proporcion.h"
 
@@ -32,6 +33,7 @@ class FrmViewUnfold : public QDialog {
   void Botones();
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
+  void DespliegaHoja();
   void CmdSave();
   void CmdExacto();
   void MuestraEleccion(bool empieza);
@@ -44,6 +46,7 @@ class FrmViewUnfold : public QDialog {
   Patron hoja_;  // as it stands on the control; empty while the solid shows
   EWdraw EWdraw_;
   Lienzo* lienzo_;
+  Colocador* colocador_;
   QGroupBox *FrmView_, *FrmZoom_;
   QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_;
   QLabel* LblEstado_;

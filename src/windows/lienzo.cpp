@@ -185,6 +185,7 @@ void Lienzo::paintEvent(QPaintEvent*) {
   QPainter pintor(this);
   pintor.setRenderHint(QPainter::Antialiasing);
   Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
+  if (encima_) encima_(pintor, encuadre_);
   if (eleccion_) PintaFantasma(pintor);
   if (arrastre_ == MandoVista::zoomWindow) {
     pintor.setPen(QPen(Qt::white, 0, Qt::DashLine));

@@ -4,6 +4,7 @@
 // command says. A pick gives the left button to the placing of a shape, which hangs on the pointer meanwhile.
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -30,6 +31,12 @@ class Lienzo : public QWidget, public VistaEWdraw {
   bool TerminaMando();
   /// A flat pattern keeps its view from above.
   void PermiteOrbitar(bool permite);
+  bool Orbitable() const { return orbita_; }
+  bool ConMando() const { return mando_.has_value(); }
+  /// Where the model is under a place of the widget.
+  QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
+  /// What is painted over the model.
+  void PonEncima(std::function<void(QPainter&, const Encuadre&)> pinta) { encima_ = std::move(pinta); }
 
  signals:
   /// Coordinates of the pointer during a pick, in model units.
@@ -52,7 +59,6 @@ class Lienzo : public QWidget, public VistaEWdraw {
  private:
   struct Eleccion;  // a waiting pick; outlives the widget if need be
 
-  QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
   void Encuadra(QRectF plano);
   void EncuadraEleccion();
   void Desplaza(QPointF paso);
@@ -69,6 +75,7 @@ class Lienzo : public QWidget, public VistaEWdraw {
   QPointF inicio_, raton_;
   bool orbita_ = true;
   std::shared_ptr<Eleccion> eleccion_;
+  std::function<void(QPainter&, const Encuadre&)> encima_;
 };
 
 }  // namespace duktores
