@@ -123,15 +123,19 @@ bool Colocacion::PonTodas() {
 bool Colocacion::PonJunta() {
   if (!desarrollo_ || Completa()) return false;
   Sitios sitios = Puestas();
-  const Cosa& cosa = cosas_[sitios.size()];
-  const Caja suya = CajaEn(cosa, {});
-  Caja ultima{{}, {}};
-  double hueco = 0;
-  if (!sitios.empty()) {
-    ultima = CajaEn(cosas_[sitios.size() - 1], sitios.back());
-    hueco = 2 * FormatoDeEstado().pasoX;
+  const std::size_t cosa = sitios.size();
+  const Caja suya = CajaEn(cosas_[cosa], {});
+  if (sitios.empty()) return Cambia({{-suya.minimo.x, -suya.minimo.y}});
+  const auto derechaDe = [&](std::size_t otra) {
+    return CajaEn(cosas_[otra], sitios[otra]).maximo.x + 2 * FormatoDeEstado().pasoX - suya.minimo.x;
+  };
+  const double y = CajaEn(cosas_[cosa - 1], sitios.back()).minimo.y - suya.minimo.y;
+  Punto2 sitio{derechaDe(cosa - 1), y};
+  // Each step gets beyond one of the placed things at least.
+  for (std::size_t n = 0; n < cosa; ++n) {
+    for (const std::size_t otra : Solapadas(cosa, sitio)) sitio.x = std::max(sitio.x, derechaDe(otra));
   }
-  sitios.push_back({ultima.maximo.x + hueco - suya.minimo.x, ultima.minimo.y - suya.minimo.y});
+  sitios.push_back(sitio);
   return Cambia(std::move(sitios));
 }
 

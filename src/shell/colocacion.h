@@ -25,7 +25,7 @@ class Colocacion {
 
   // Changes; false if there is nothing to change. To be followed by Despliega, or by refusing the pick that waits.
   bool PonTodas();  ///< this one and all that follow, as `Reparte` would, right of what is placed
-  bool PonJunta();  ///< this one right of the last, on one bottom line with it
+  bool PonJunta();  ///< this one beside the last, on one bottom line with it: the next free place at the right
   bool Mueve(std::size_t cosa, Punto2 mas);  ///< a placed thing, a shape with its title block
   bool Deshace();                            ///< the last change or click
   bool Rehace();

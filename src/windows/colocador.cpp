@@ -18,9 +18,9 @@ namespace {
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
-/// The name of a shape as a text in its widest place half way up.
+/// The name of a shape as a text in its widest place half way up, upright where it would get small.
 Entidad TextoNombre(const std::string& nombre, const std::vector<Punto2>& contorno) {
-  constexpr double kAncho = 0.7, kAlto = 0.2;  // at most, of the shape
+  constexpr double kLargo = 0.7, kAlto = 0.3;  // at most, of the shape
   Entidad texto;
   texto.tipo = TipoEntidad::texto;
   texto.color = EwRgb(140, 180, 230);
@@ -40,11 +40,13 @@ Entidad TextoNombre(const std::string& nombre, const std::vector<Punto2>& contor
   }
   const QRectF tinta = Letra().Tinta(Q(nombre));
   if (!(tinta.width() > 0) || !(ancho > 0)) return texto;
-  const double altura = std::min(kAncho * ancho / tinta.width(), kAlto * (alto.y - bajo.y));
+  const auto cabe = [&](double largo, double fondo) { return std::min(kLargo * largo / tinta.width(), kAlto * fondo); };
+  const double llano = cabe(ancho, alto.y - bajo.y), dePie = cabe(alto.y - bajo.y, ancho);
+  const bool sube = dePie > 1.5 * llano;
+  texto.u = sube ? Punto3{0, dePie, 0} : Punto3{llano, 0, 0};
+  texto.v = {-texto.u.y, texto.u.x, 0};
   texto.texto = nombre;
-  texto.puntos = {{desde + ancho / 2 - altura * tinta.center().x(), y - altura / 2, 0}};
-  texto.u = {altura, 0, 0};
-  texto.v = {0, altura, 0};
+  texto.puntos = {Punto3{desde + ancho / 2, y, 0} - tinta.center().x() * texto.u - 0.5 * texto.v};
   return texto;
 }
 
@@ -80,8 +82,8 @@ void Colocador::Panel() {
     fila->addWidget(nuevo);
     return nuevo;
   };
-  CmdTodas_ = boton("CmdTodas", Q(Texto(texto::kPonTodas)), texto::kPonTodasAyuda);
   CmdNombres_ = boton("CmdNombres", "Abc", texto::kNombres);
+  CmdTodas_ = boton("CmdTodas", Q(Texto(texto::kPonTodas)), texto::kPonTodasAyuda);
   CmdNombres_->setCheckable(true);
   CmdNombres_->setChecked(true);
   panel_->hide();
@@ -133,9 +135,16 @@ void Colocador::Cambia(bool (Colocacion::*cambio)()) {
   lienzo_.Eligiendo() ? lienzo_.CancelaEleccion() : emit redibuja();
 }
 
+// One alone needs no name.
+bool Colocador::VariasFormas() const {
+  return std::ranges::count(colocacion_->Cosas(), false, &Cosa::bloque) > 1;
+}
+
 void Colocador::Muestra() {
+  CmdNombres_->setVisible(VariasFormas());
   CmdTodas_->setVisible(lienzo_.Eligiendo());
-  panel_->setVisible(!lienzo_.Orbitable() && !colocacion_->Cosas().empty());
+  panel_->setVisible(!lienzo_.Orbitable() && (VariasFormas() || lienzo_.Eligiendo()));
+  panel_->layout()->activate();
   lienzo_.update();
 }
 
@@ -145,7 +154,7 @@ void Colocador::Recuenta() {
   if (nombres_.size() != cosas.size()) {
     nombres_.clear();
     for (std::size_t i = 0; i < cosas.size(); ++i) {
-      nombres_.push_back(cosas[i].bloque ? Entidad() : TextoNombre(colocacion_->Nombre(i), cosas[i].contorno));
+      nombres_.push_back(cosas[i].bloque || !VariasFormas() ? Entidad() : TextoNombre(colocacion_->Nombre(i), cosas[i].contorno));
     }
   }
   malas_.clear();
@@ -274,7 +283,7 @@ void Colocador::Pinta(QPainter& pintor, const Encuadre& encuadre) const {
 void Colocador::PintaNombre(QPainter& pintor, Encuadre encuadre, std::size_t cosa, Punto2 sitio) const {
   if (!CmdNombres_->isChecked() || cosa >= nombres_.size() || nombres_[cosa].texto.empty()) return;
   encuadre.centro -= QPointF(sitio.x, sitio.y);
-  pintor.setOpacity(0.55);
+  pintor.setOpacity(0.7);
   PintaEntidades(pintor, std::span(&nombres_[cosa], 1), encuadre, lienzo_.size(), Fondo::oscuro);
   pintor.setOpacity(1);
 }

@@ -47,6 +47,7 @@ class Colocador : public QObject {
   void Panel();
   void Teclas();
   void Cambia(bool (Colocacion::*cambio)());
+  bool VariasFormas() const;
   void Recuenta();
   void Muestra();
   QString Palabras(std::size_t cosa, const std::vector<std::size_t>& con) const;
