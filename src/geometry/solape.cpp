@@ -56,8 +56,8 @@ bool SeCortan(const std::vector<Punto2>& a, const std::vector<Punto2>& b) {
 
 }  // namespace
 
-// Outlines that share corners or stretches of their edges neither cross nor stay apart, and rounding would decide. Moved
-// by a hair to one side and to the other they do either; what only touches is apart on one of them.
+// Outlines that share corners or stretches of their edges neither cross nor stay apart, and rounding would decide.
+// Moved by a hair to one side and to the other they do either; what only touches is apart on one of them.
 bool SeSolapan(const std::vector<Punto2>& a, const std::vector<Punto2>& b) {
   if (a.size() < 3 || b.size() < 3) return false;
   const Marco deA(a), deB(b);

@@ -16,7 +16,7 @@ struct Cosa {
   bool fija = false;  ///< nobody asks for its place, which is (0, 0)
   std::vector<Entidad> dibujo{};
   std::vector<Punto2> contorno{};  ///< the shape's outline, the block's frame; empty where nothing could be drawn
-  Caja caja{};                   ///< around all of it; a text counts as wide as its characters are high
+  Caja caja{};                     ///< around all of it; a text counts as wide as its characters are high
 };
 
 /// The things in the order in which they are drawn. Where the drawing would end early they end too. A side that tapers

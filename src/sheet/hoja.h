@@ -27,8 +27,8 @@ Patron DibujaPatron(EWdraw& axew, Patron patron, const FormatoHoja& formato, con
 
 /// How the owner is asked.
 struct Peticion {
-  bool caja = true;       ///< with the prompt's message box
-  std::string nombre{};   ///< of the thing, below the prompt and on the pointer
+  bool caja = true;      ///< with the prompt's message box
+  std::string nombre{};  ///< of the thing, below the prompt and on the pointer
 };
 
 /// Asks whoever owns the control: a prompt, then a pick, with the shape or the block's frame hanging on the pointer. A

@@ -54,7 +54,7 @@ class Colocacion {
   HaceDesarrollo hace_;
   std::optional<Desarrollo> desarrollo_;
   std::vector<Cosa> cosas_;
-  std::size_t fijas_ = 0;            // of the things, those that lie where they are
+  std::size_t fijas_ = 0;                      // of the things, those that lie where they are
   std::vector<Sitios> historia_ = {Sitios()};  // lists of places, behind the one in force those taken back
   std::size_t actual_ = 0;
   std::size_t pedidas_ = 0;  // in this run

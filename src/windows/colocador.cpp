@@ -52,7 +52,8 @@ Entidad TextoNombre(const std::string& nombre, const std::vector<Punto2>& contor
 
 }  // namespace
 
-Colocador::Colocador(EWdraw& axew, Lienzo& lienzo) : QObject(&lienzo), axew_(axew), lienzo_(lienzo) {
+Colocador::Colocador(EWdraw& axew, Lienzo& lienzo)
+    : QObject(&lienzo), axew_(axew), lienzo_(lienzo), sostenida_(new TeclaSostenida(this)) {
   Panel();
   Teclas();
   lienzo_.installEventFilter(this);
@@ -91,13 +92,15 @@ void Colocador::Panel() {
   connect(CmdNombres_, &QPushButton::toggled, &lienzo_, [this] { lienzo_.update(); });
 }
 
-// A key that is held down repeats itself: the Enter that has closed a prompt's box must not place.
+// The Enter that has closed a prompt's box must not place, however long it is held.
 void Colocador::Teclas() {
   const auto tecla = [this](const QKeySequence& clave, bool soloEligiendo, auto hace) {
     auto* atajo = new QShortcut(clave, &lienzo_);
     atajo->setContext(Qt::WindowShortcut);
     atajo->setAutoRepeat(false);
-    connect(atajo, &QShortcut::activated, this, hace);
+    connect(atajo, &QShortcut::activated, this, [this, hace] {
+      if (!sostenida_->Repite()) hace();
+    });
     if (!soloEligiendo) return;
     atajo->setEnabled(false);
     connect(&lienzo_, &Lienzo::eligiendo, atajo, &QShortcut::setEnabled);
@@ -136,9 +139,7 @@ void Colocador::Cambia(bool (Colocacion::*cambio)()) {
 }
 
 // One alone needs no name.
-bool Colocador::VariasFormas() const {
-  return std::ranges::count(colocacion_->Cosas(), false, &Cosa::bloque) > 1;
-}
+bool Colocador::VariasFormas() const { return std::ranges::count(colocacion_->Cosas(), false, &Cosa::bloque) > 1; }
 
 void Colocador::Muestra() {
   CmdNombres_->setVisible(VariasFormas());
@@ -154,7 +155,8 @@ void Colocador::Recuenta() {
   if (nombres_.size() != cosas.size()) {
     nombres_.clear();
     for (std::size_t i = 0; i < cosas.size(); ++i) {
-      nombres_.push_back(cosas[i].bloque || !VariasFormas() ? Entidad() : TextoNombre(colocacion_->Nombre(i), cosas[i].contorno));
+      nombres_.push_back(cosas[i].bloque || !VariasFormas() ? Entidad()
+                                                            : TextoNombre(colocacion_->Nombre(i), cosas[i].contorno));
     }
   }
   malas_.clear();

@@ -10,6 +10,7 @@
 
 #include "shell/colocacion.h"
 #include "windows/lienzo.h"
+#include "windows/tecla_sostenida.h"
 
 namespace duktores {
 
@@ -63,13 +64,14 @@ class Colocador : public QObject {
   EWdraw& axew_;
   Lienzo& lienzo_;
   std::optional<Colocacion> colocacion_;
+  TeclaSostenida* sostenida_;
   QWidget* panel_;
   QPushButton *CmdTodas_, *CmdNombres_;
-  std::vector<Entidad> nombres_;     // of each thing, relative to its place; without a text for a title block
-  std::vector<std::size_t> malas_;   // placed things that overlap others
+  std::vector<Entidad> nombres_;    // of each thing, relative to its place; without a text for a title block
+  std::vector<std::size_t> malas_;  // placed things that overlap others
   QString solapes_;
   std::optional<Arrastre> arrastre_;
-  Punto2 puntero_;           // during a pick
+  Punto2 puntero_;            // during a pick
   bool malaPuntero_ = false;  // what hangs or is dragged overlaps
 };
 
