@@ -84,7 +84,7 @@ void Colocador::Panel() {
     return nuevo;
   };
   CmdNombres_ = boton("CmdNombres", "Abc", texto::kNombres);
-  CmdTodas_ = boton("CmdTodas", Q(Texto(texto::kPonTodas)), texto::kPonTodasAyuda);
+  CmdTodas_ = boton("CmdTodas", Q(Texto(texto::kPonTodas)) + " ⏎", texto::kPonTodasAyuda);
   CmdNombres_->setCheckable(true);
   CmdNombres_->setChecked(true);
   panel_->hide();
