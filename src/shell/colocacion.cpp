@@ -82,9 +82,8 @@ std::string Colocacion::Cuenta(const Encargo& encargo) const {
 }
 
 std::string Colocacion::Nombre(std::size_t cosa) const {
-  const auto& [forma, bloque, fija, dibujo, contorno, caja] = cosas_[cosa];
-  const std::string nombre = TextoForma(desarrollo_->patron.formas[forma].nombre);
-  return bloque ? Texto(texto::kCajetin) + " (" + nombre + ")" : nombre;
+  const std::string nombre = TextoForma(desarrollo_->patron.formas[cosas_[cosa].forma].nombre);
+  return cosas_[cosa].bloque ? Texto(texto::kCajetin) + " (" + nombre + ")" : nombre;
 }
 
 void Colocacion::Apunta(Sitios sitios) {

@@ -58,10 +58,10 @@ Colocador::Colocador(EWdraw& axew, Lienzo& lienzo)
   Teclas();
   lienzo_.installEventFilter(this);
   lienzo_.PonEncima([this](QPainter& pintor, const Encuadre& encuadre) { Pinta(pintor, encuadre); });
+  connect(&lienzo_, &Lienzo::orbitable, this, &Colocador::Muestra);
   connect(&lienzo_, &Lienzo::eligiendo, this, [this](bool empieza) {
     malaPuntero_ = false;
-    if (!colocacion_) return;
-    if (empieza) Recuenta();
+    if (empieza && colocacion_) Recuenta();
     Muestra();
   });
 }
@@ -142,6 +142,7 @@ void Colocador::Cambia(bool (Colocacion::*cambio)()) {
 bool Colocador::VariasFormas() const { return std::ranges::count(colocacion_->Cosas(), false, &Cosa::bloque) > 1; }
 
 void Colocador::Muestra() {
+  if (!colocacion_) return;
   CmdNombres_->setVisible(VariasFormas());
   CmdTodas_->setVisible(lienzo_.Eligiendo());
   panel_->setVisible(!lienzo_.Orbitable() && (VariasFormas() || lienzo_.Eligiendo()));
@@ -167,7 +168,11 @@ void Colocador::Recuenta() {
     std::erase_if(con, [&](std::size_t otra) { return otra < i; });
     if (!con.empty()) palabras << Palabras(i, con);
   }
-  solapes_ = palabras.isEmpty() ? QString() : Q(Texto(texto::kSolapan)) + " " + palabras.join("; ");
+  solapes_ = Frase(palabras);
+}
+
+QString Colocador::Frase(const QStringList& solapes) const {
+  return solapes.isEmpty() ? QString() : Q(Texto(texto::kSolapan)) + " " + solapes.join("; ");
 }
 
 QString Colocador::Palabras(std::size_t cosa, const std::vector<std::size_t>& con) const {
@@ -177,11 +182,10 @@ QString Colocador::Palabras(std::size_t cosa, const std::vector<std::size_t>& co
 }
 
 QString Colocador::SolapesEn(QPointF punto) {
-  puntero_ = {punto.x(), punto.y()};
   const std::size_t cosa = colocacion_->Puestas().size();
-  const auto con = colocacion_->Solapadas(cosa, puntero_);
+  const auto con = colocacion_->Solapadas(cosa, {punto.x(), punto.y()});
   malaPuntero_ = !con.empty();
-  return malaPuntero_ ? Q(Texto(texto::kSolapan)) + " " + Palabras(cosa, con) : QString();
+  return malaPuntero_ ? Frase({Palabras(cosa, con)}) : QString();
 }
 
 // Dragging -----------------------------------------------------------------------------------------------------------
@@ -233,14 +237,17 @@ bool Colocador::eventFilter(QObject*, QEvent* suceso) {
 }
 
 void Colocador::Arrastra() {
-  const Punto2 sitio = colocacion_->Puestas()[arrastre_->cosa] + arrastre_->Paso();
-  const auto bloque = colocacion_->BloqueDe(arrastre_->cosa);
-  auto con = colocacion_->Solapadas(arrastre_->cosa, sitio, bloque);
-  malaPuntero_ = !con.empty();
-  if (bloque && con.empty()) {
-    const Punto2 suyo = colocacion_->Puestas()[*bloque] + arrastre_->Paso();
-    malaPuntero_ = !colocacion_->Solapadas(*bloque, suyo, arrastre_->cosa).empty();
-  }
+  QStringList palabras;
+  const std::size_t cosa = arrastre_->cosa;
+  const auto bloque = colocacion_->BloqueDe(cosa);
+  const auto mira = [&](std::size_t una, std::optional<std::size_t> otra) {
+    const auto con = colocacion_->Solapadas(una, colocacion_->Puestas()[una] + arrastre_->Paso(), otra);
+    if (!con.empty()) palabras << Palabras(una, con);
+  };
+  mira(cosa, bloque);
+  if (bloque) mira(*bloque, cosa);
+  malaPuntero_ = !palabras.isEmpty();
+  emit arrastra(Frase(palabras));
   lienzo_.update();
 }
 
@@ -257,6 +264,7 @@ bool Colocador::CancelaArrastre() {
   if (!arrastre_) return false;
   arrastre_.reset();
   malaPuntero_ = false;
+  emit arrastra({});
   lienzo_.update();
   return true;
 }
@@ -271,7 +279,7 @@ void Colocador::Pinta(QPainter& pintor, const Encuadre& encuadre) const {
   for (std::size_t i = 0; i < puestas; ++i) PintaNombre(pintor, encuadre, i, sitios[i]);
   for (const std::size_t i : malas_) PintaMal(pintor, encuadre, i, sitios[i]);
   if (lienzo_.Eligiendo() && sitios.size() < cosas.size()) {
-    PintaCosa(pintor, encuadre, sitios.size(), puntero_);
+    PintaCosa(pintor, encuadre, sitios.size(), {lienzo_.Puntero().x(), lienzo_.Puntero().y()});
   }
   if (!arrastre_) return;
   const std::size_t cosa = arrastre_->cosa;

@@ -34,6 +34,8 @@ class Colocador : public QObject {
  signals:
   /// What stood has changed: Despliega is due.
   void redibuja();
+  /// What the dragged thing overlaps, in words; empty when it is free or back.
+  void arrastra(const QString& solapes);
 
  protected:
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
@@ -52,6 +54,7 @@ class Colocador : public QObject {
   void Recuenta();
   void Muestra();
   QString Palabras(std::size_t cosa, const std::vector<std::size_t>& con) const;
+  QString Frase(const QStringList& solapes) const;
   std::optional<std::size_t> CosaEn(QPointF punto) const;
   void Arrastra();
   void Suelta();
@@ -71,7 +74,6 @@ class Colocador : public QObject {
   std::vector<std::size_t> malas_;  // placed things that overlap others
   QString solapes_;
   std::optional<Arrastre> arrastre_;
-  Punto2 puntero_;            // during a pick
   bool malaPuntero_ = false;  // what hangs or is dragged overlaps
 };
 

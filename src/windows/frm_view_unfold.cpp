@@ -64,6 +64,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
   connect(colocador_, &Colocador::redibuja, this, &FrmViewUnfold::DespliegaHoja);
+  connect(colocador_, &Colocador::arrastra, this, &FrmViewUnfold::MuestraArrastre);
   connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
 
   EWdraw_.EwInicia(true);
@@ -216,9 +217,13 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
 void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
   if (hoja_.formas.empty()) return;
   const auto cercana = LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
-  LblEstado_->setText(
-      cercana ? Q(TextoLinea(*cercana, solido_))
-              : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));
+  cercana ? LblEstado_->setText(Q(TextoLinea(*cercana, solido_))) : MuestraArrastre({});
+}
+
+// What is dragged onto something; else the verdict.
+void FrmViewUnfold::MuestraArrastre(const QString& solapes) {
+  const QString linea = solapes.isEmpty() ? LblEstado_->toolTip() : solapes;
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
 }
 
 void FrmViewUnfold::done(int resultado) {

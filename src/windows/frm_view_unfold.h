@@ -39,6 +39,7 @@ class FrmViewUnfold : public QDialog {
   void MuestraEleccion(bool empieza);
   void MuestraPunto(QPointF punto);
   void MuestraLinea(QPointF punto, double alcance);
+  void MuestraArrastre(const QString& solapes);
   void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;

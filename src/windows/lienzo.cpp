@@ -116,6 +116,7 @@ void Lienzo::PermiteOrbitar(bool permite) {
   orbita_ = permite;
   if (!permite) arrastre_.reset();
   if (!permite && mando_ == MandoVista::orbit) TerminaMando();
+  emit orbitable(permite);
 }
 
 void Lienzo::PonPuntero() {

@@ -35,6 +35,7 @@ class Lienzo : public QWidget, public VistaEWdraw {
   bool ConMando() const { return mando_.has_value(); }
   /// Where the model is under a place of the widget.
   QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
+  QPointF Puntero() const { return Modelo(raton_); }
   /// What is painted over the model.
   void PonEncima(std::function<void(QPainter&, const Encuadre&)> pinta) { encima_ = std::move(pinta); }
 
@@ -45,6 +46,8 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void pasa(QPointF punto, double alcance);
   /// A pick begins or ends.
   void eligiendo(bool empieza);
+  /// Whether the model may be turned.
+  void orbitable(bool permite);
   /// The command of the left button, null for none.
   void mandoCambiado(std::optional<duktores::MandoVista> mando);
 

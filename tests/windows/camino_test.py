@@ -172,9 +172,9 @@ def short_road(screen, program, file):
     screen.window(MESSAGE)
     screen.xdotool("keydown", "Return")  # 2
     until("the end of the prompt", lambda: screen.active("Round 4 Vert. Transf.") == viewer)
-    time.sleep(1.5)  # the key repeats itself after 0.66 s
+    time.sleep(1.2)  # the key repeats itself after 0.66 s
     screen.xdotool("keyup", "Return")
-    screen.click(viewer, SAVE)
+    screen.click(viewer, SAVE)  # nothing to save yet
     assert screen.active("Round 4 Vert. Transf.") == viewer, "placed by the key that has closed the prompt"
     screen.xdotool("key", "Return")  # 3
     screen.click_until("Save the DXF", viewer, SAVE)  # 4
