@@ -1,6 +1,7 @@
 #include "geometry/solape.h"
 
 #include <algorithm>
+#include <array>
 
 namespace duktores {
 
@@ -63,7 +64,7 @@ bool SeSolapan(const std::vector<Punto2>& a, const std::vector<Punto2>& b) {
   const Marco deA(a), deB(b);
   if (!deA.Toca(deB)) return false;
   const double pelo = 1e-7 * (Distancia(deA.minimo, deA.maximo) + Distancia(deB.minimo, deB.maximo));
-  return std::ranges::all_of(std::initializer_list{1.0, -1.0}, [&](double lado) {
+  return std::ranges::all_of(std::array{1.0, -1.0}, [&](double lado) {
     const Punto2 mas{lado * pelo, lado * 0.618 * pelo};
     std::vector<Punto2> movido = a;
     for (Punto2& p : movido) p = p + mas;

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "paint/letra.h"
 #include "piece/numeros_texto.h"
 #include "state/textos.h"
 
@@ -17,38 +16,6 @@ namespace duktores {
 namespace {
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
-
-/// The name of a shape as a text in its widest place half way up, upright where it would get small.
-Entidad TextoNombre(const std::string& nombre, const std::vector<Punto2>& contorno) {
-  constexpr double kLargo = 0.7, kAlto = 0.3;  // at most, of the shape
-  Entidad texto;
-  texto.tipo = TipoEntidad::texto;
-  texto.color = EwRgb(140, 180, 230);
-  texto.puntos = {{}};
-  if (contorno.empty()) return texto;
-  const auto [bajo, alto] = std::ranges::minmax(contorno, {}, &Punto2::y);
-  const double y = (bajo.y + alto.y) / 2;
-  std::vector<double> cortes;
-  for (std::size_t i = 0, j = contorno.size() - 1; i < contorno.size(); j = i++) {
-    const Punto2 p = contorno[j], q = contorno[i];
-    if ((p.y > y) != (q.y > y)) cortes.push_back(p.x + (q.x - p.x) * (y - p.y) / (q.y - p.y));
-  }
-  std::ranges::sort(cortes);
-  double desde = 0, ancho = 0;
-  for (std::size_t i = 0; i + 1 < cortes.size(); i += 2) {
-    if (cortes[i + 1] - cortes[i] > ancho) desde = cortes[i], ancho = cortes[i + 1] - cortes[i];
-  }
-  const QRectF tinta = Letra().Tinta(Q(nombre));
-  if (!(tinta.width() > 0) || !(ancho > 0)) return texto;
-  const auto cabe = [&](double largo, double fondo) { return std::min(kLargo * largo / tinta.width(), kAlto * fondo); };
-  const double llano = cabe(ancho, alto.y - bajo.y), dePie = cabe(alto.y - bajo.y, ancho);
-  const bool sube = dePie > 1.5 * llano;
-  texto.u = sube ? Punto3{0, dePie, 0} : Punto3{llano, 0, 0};
-  texto.v = {-texto.u.y, texto.u.x, 0};
-  texto.texto = nombre;
-  texto.puntos = {Punto3{desde + ancho / 2, y, 0} - tinta.center().x() * texto.u - 0.5 * texto.v};
-  return texto;
-}
 
 }  // namespace
 
@@ -156,8 +123,8 @@ void Colocador::Recuenta() {
   if (nombres_.size() != cosas.size()) {
     nombres_.clear();
     for (std::size_t i = 0; i < cosas.size(); ++i) {
-      nombres_.push_back(cosas[i].bloque || !VariasFormas() ? Entidad()
-                                                            : TextoNombre(colocacion_->Nombre(i), cosas[i].contorno));
+      const bool sin = cosas[i].bloque || !VariasFormas();
+      nombres_.push_back(sin ? RotuloForma() : RotuloForma(Q(colocacion_->Nombre(i)), cosas[i].contorno));
     }
   }
   malas_.clear();
@@ -291,11 +258,9 @@ void Colocador::Pinta(QPainter& pintor, const Encuadre& encuadre) const {
 
 // A thing at a place is the thing seen from so much further.
 void Colocador::PintaNombre(QPainter& pintor, Encuadre encuadre, std::size_t cosa, Punto2 sitio) const {
-  if (!CmdNombres_->isChecked() || cosa >= nombres_.size() || nombres_[cosa].texto.empty()) return;
+  if (!CmdNombres_->isChecked() || cosa >= nombres_.size()) return;
   encuadre.centro -= QPointF(sitio.x, sitio.y);
-  pintor.setOpacity(0.7);
-  PintaEntidades(pintor, std::span(&nombres_[cosa], 1), encuadre, lienzo_.size(), Fondo::oscuro);
-  pintor.setOpacity(1);
+  nombres_[cosa].Pinta(pintor, encuadre, lienzo_.size());
 }
 
 void Colocador::PintaMal(QPainter& pintor, Encuadre encuadre, std::size_t cosa, Punto2 sitio) const {

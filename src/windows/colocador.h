@@ -10,6 +10,7 @@
 
 #include "shell/colocacion.h"
 #include "windows/lienzo.h"
+#include "windows/rotulo_forma.h"
 #include "windows/tecla_sostenida.h"
 
 namespace duktores {
@@ -70,8 +71,8 @@ class Colocador : public QObject {
   TeclaSostenida* sostenida_;
   QWidget* panel_;
   QPushButton *CmdTodas_, *CmdNombres_;
-  std::vector<Entidad> nombres_;    // of each thing, relative to its place; without a text for a title block
-  std::vector<std::size_t> malas_;  // placed things that overlap others
+  std::vector<RotuloForma> nombres_;  // of each thing, relative to its place; without a text for a title block
+  std::vector<std::size_t> malas_;    // placed things that overlap others
   QString solapes_;
   std::optional<Arrastre> arrastre_;
   bool malaPuntero_ = false;  // what hangs or is dragged overlaps
