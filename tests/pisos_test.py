@@ -1,15 +1,16 @@
-"""The floors of src/: no include goes upwards or sideways, no Qt stands below paint/, and what computes pieces knows
-neither the program's state nor a screen nor a file. Usage: pisos_test.py SRC"""
+"""The floors of src/: no include goes upwards or sideways, no Qt stands below paint/ and jobs/, and what computes pieces
+knows neither the program's state nor a screen nor a file. Usage: pisos_test.py SRC"""
 
 import pathlib
 import re
 import sys
 
 FLOORS = {"platform": 1, "geometry": 1, "piece": 2, "viewer": 2, "state": 3, "engines": 3, "special": 3, "check": 3,
-          "dxf": 4, "annotation": 5, "sheet": 6, "dialogs": 6, "shell": 7, "paint": 7, "batch": 8, "windows": 8}
-QT = ("paint", "batch", "windows")
+          "dxf": 4, "annotation": 5, "sheet": 6, "dialogs": 6, "shell": 7, "paint": 7, "jobs": 7, "batch": 8,
+          "windows": 8}
+QT = ("paint", "jobs", "batch", "windows")
 PURE, IMPURE = ("geometry", "piece", "engines", "special", "check"), ("state", "viewer", "dxf")
-NAME_STATE = ("state", "dxf", "annotation", "dialogs", "shell", "batch", "windows")
+NAME_STATE = ("state", "dxf", "annotation", "dialogs", "shell", "jobs", "batch", "windows")
 
 src = pathlib.Path(sys.argv[1])
 files = [f for f in src.glob("*/*") if f.suffix in (".h", ".cpp", ".inc")]

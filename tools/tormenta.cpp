@@ -153,7 +153,7 @@ struct Cuenta {
 std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::string& fichero) {
   Dibuja3D(axew);
   const Solido solido = SolidoDe(*estado.pieza);
-  const auto [fin, hoja] = Desplegado(axew);
+  const auto [fin, hoja, dados] = Desplegado(axew);
   cuenta.sinPunto += fin == FinCorrida::eleccionRechazada;
   cuenta.errores += fin == FinCorrida::error;
   if (fin == FinCorrida::error && mesa.mensajes != 1) return "ended, but not told once";

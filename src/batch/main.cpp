@@ -11,7 +11,7 @@
 #include <system_error>
 
 #include "batch/fuente_lista.h"
-#include "batch/lista.h"
+#include "jobs/lista.h"
 #include "batch/obreros.h"
 #include "batch/ordenes.h"
 #include "batch/senales.h"

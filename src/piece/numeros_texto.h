@@ -67,4 +67,12 @@ inline constexpr int kSeEncuentra = 156, kReglasUsuales = 157, kCuraExacta = 158
 inline constexpr int kNota = 159, kDelgada = 160, kOtroExtremo = 161;
 inline constexpr int kExacto = 162, kHaciaArriba = 163, kHaciaAbajo = 164;
 
+// Values and files of pieces.
+inline constexpr int kUltimosValores = 290, kCeros = 291, kAbrePieza = 292, kGuardaPieza = 293, kEligePieza = 294;
+inline constexpr int kSinPiezas = 295, kDemasiadoGrande = 296, kNoSeLee = 297, kValorNoSirve = 298;
+inline constexpr int kPiezaDesconocida = 299, kAnade = 300, kReemplaza = 301, kYaHayPiezas = 302;
+inline constexpr int kNombrePieza = 303, kNombreMalo = 304, kPiezaIlegible = 308, kSinFichero = 309;
+// The end of the program with a pattern that isn't saved.
+inline constexpr int kSinGuardar = 305, kDescarta = 306, kSeQueda = 307, kGuardaYSale = 310;
+
 }  // namespace duktores::texto

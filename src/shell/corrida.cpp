@@ -79,18 +79,23 @@ namespace {
 
 // Of the accepted piece, unfolded by `hace`.
 template <class Hace>
-Corrida Corre(EWdraw& axew, Hace hace) {
-  if (!estado.pieza) return {};
+Corrida Corre(EWdraw& axew, Hace hace, const std::vector<Punto2>& conocidos = {}) {
+  Corrida corrida;
+  if (!estado.pieza) return corrida;
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
   try {
     Desarrollo desarrollo = hace();
     if (estado.pieza->regla == Regla::exacta) estado.oDrawing->UnaVez();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
-    const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
-    return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
+    const auto pide = [&, &sitios = corrida.sitios](const Encargo& encargo) {
+      sitios.push_back(sitios.size() < conocidos.size() ? conocidos[sitios.size()] : PideAlDueno(axew, encargo));
+      return sitios.back();
+    };
+    corrida.hoja = DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide);
+    corrida.fin = FinCorrida::completo;
   } catch (const EleccionRechazada&) {
-    return {FinCorrida::eleccionRechazada, {}};
+    corrida.fin = FinCorrida::eleccionRechazada;
   } catch (const ErrorCorrida& error) {
     MuestraMensaje(Texto(error.NumeroTexto()), EstiloMensaje::exclamacion, "");
   } catch (const std::bad_alloc&) {
@@ -98,13 +103,17 @@ Corrida Corre(EWdraw& axew, Hace hace) {
   } catch (const std::exception&) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
-  return {};
+  return corrida;
 }
+
+Desarrollo DesarrolloDeEstado() { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); }
 
 }  // namespace
 
-Corrida Despliega(EWdraw& axew) {
-  return Corre(axew, [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); });
+Corrida Despliega(EWdraw& axew) { return Corre(axew, DesarrolloDeEstado); }
+
+Corrida DespliegaEn(EWdraw& axew, const std::vector<Punto2>& conocidos) {
+  return Corre(axew, DesarrolloDeEstado, conocidos);
 }
 
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {

@@ -2,6 +2,8 @@
 // The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
 // type it is. Without one nothing is drawn.
 
+#include <vector>
+
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
 #include "viewer/ewdraw.h"
@@ -27,7 +29,8 @@ enum class FinCorrida { completo, eleccionRechazada, error };
 
 struct Corrida {
   FinCorrida fin = FinCorrida::error;
-  Patron hoja;  ///< of a complete one: the pattern as it stands on the sheet
+  Patron hoja{};                 ///< of a complete one: the pattern as it stands on the sheet
+  std::vector<Punto2> sitios{};  ///< the places that its shapes and blocks have got, in the order in which it asks
 };
 
 /// Unfolds the accepted piece into the emptied control and a new `estado.oDrawing`. Never throws: a refused pick ends
@@ -35,5 +38,7 @@ struct Corrida {
 Corrida Despliega(EWdraw& axew);
 /// The same of a pattern that has been made already.
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);
+/// The same with the first places known; whoever owns the control is asked for those beyond them.
+Corrida DespliegaEn(EWdraw& axew, const std::vector<Punto2>& conocidos);
 
 }  // namespace duktores

@@ -72,6 +72,13 @@ Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo) {
   return corrida;
 }
 
+Corrida DesplegadoEn(EWdraw& axew, const std::vector<Punto2>& conocidos) {
+  PreparaHoja(axew);
+  Corrida corrida = DespliegaEn(axew, conocidos);
+  CursorEspera(false);
+  return corrida;
+}
+
 std::string NombreDxf(const std::string& elegido) {
   const std::size_t nombre = elegido.rfind('/') + 1, punto = elegido.rfind('.');
   if (punto == std::string::npos || punto <= nombre) return elegido + ".dxf";

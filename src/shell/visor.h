@@ -27,6 +27,8 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 /// piece, or draws what it unfolds to.
 Corrida Desplegado(EWdraw& axew);
 Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
+/// With the first places known.
+Corrida DesplegadoEn(EWdraw& axew, const std::vector<Punto2>& conocidos);
 
 /// The name that a drawing gets: with the ending ".dxf" if it has none.
 std::string NombreDxf(const std::string& elegido);

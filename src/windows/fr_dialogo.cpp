@@ -3,11 +3,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "jobs/llenado.h"
+#include "jobs/memoria.h"
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/boton_abre.h"
 #include "windows/campo_texto.h"
-#include "windows/frm_view_unfold.h"
+#include "windows/ficheros_pieza.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
 
@@ -17,13 +20,14 @@ namespace {
 
 constexpr int kMargen = 12, kAltoFila = 31, kAltoControl = 26;
 constexpr int kAnchoRotulo = 186, kAnchoControl = 96, kAnchoColumna = kAnchoRotulo + kAnchoControl + 24;
-constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46;
-constexpr int kFilasPorColumna = 11;
+constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46, kAltoBarra = 44;
+constexpr int kFilasPorColumna = 11, kAltoBoton = 34;
 
 int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
 
 QSize Diseno(const DefDialogo& def) {
-  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna, kMargen + kAltoImagen + kMargen + kAltoPie};
+  return {kMargen + kAnchoImagen + kMargen + Columnas(def) * kAnchoColumna,
+          kMargen + kAltoImagen + kMargen + kAltoPie + kAltoBarra};
 }
 
 QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
@@ -43,7 +47,8 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   image1->Carga(fila.imagen);
   proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, kAltoImagen});
   Campos();
-  Pie(Diseno(def).height() - kAltoPie);
+  Pie(Diseno(def).height() - kAltoBarra - kAltoPie);
+  Barra(Diseno(def).height() - kAltoBarra);
 }
 
 void FrDialogo::Campos() {
@@ -90,7 +95,7 @@ QWidget* FrDialogo::ControlDe(int campo) {
 }
 
 void FrDialogo::Pie(int y) {
-  constexpr int kAnchoBoton = 130, kAltoBoton = 34;
+  constexpr int kAnchoBoton = 130;
   lblerror_ = new QLabel(this);
   lblerror_->setObjectName("lblerror");
   lblerror_->setAlignment(Qt::AlignCenter);
@@ -109,6 +114,82 @@ void FrDialogo::Pie(int y) {
   proporcion_.Coloca(*cancelar, {derecha - kAnchoBoton, y, kAnchoBoton, kAltoBoton});
   connect(aceptar, &QPushButton::clicked, this, &FrDialogo::CmdAceptar);
   connect(cancelar, &QPushButton::clicked, this, &FrDialogo::reject);
+}
+
+void FrDialogo::Barra(int y) {
+  int x = kMargen;
+  const auto coloca = [&](QAbstractButton& boton, std::string_view nombre, int texto, const QString& rotulo,
+                          int ancho) {
+    PonBoton(boton, nombre, Q(Texto(texto)));
+    boton.setText(rotulo);
+    boton.setIconSize({18, 18});
+    proporcion_.Coloca(boton, {x, y, ancho, kAltoBoton});
+    x += ancho + kMargen / 2;
+  };
+  const auto boton = [&](std::string_view nombre, int texto, const QString& rotulo, int ancho) {
+    auto* nuevo = new QPushButton(this);
+    nuevo->setAutoDefault(false);
+    coloca(*nuevo, nombre, texto, rotulo, ancho);
+    return nuevo;
+  };
+  auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, Q(Texto(texto::kUltimosValores)), 166);
+  ultimos->setShortcut(Qt::CTRL | Qt::Key_L);
+  ultimos->setToolTip(ultimos->toolTip() + " (Ctrl+L)");
+  connect(ultimos, &QPushButton::clicked, this, [this] {
+    if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
+  });
+  QStringList ceros;
+  for (const DefCampo& campo : dialogo_.Definicion().campos) {
+    if (campo.uso == Uso::desvio) ceros += Q(campo.palabra);
+  }
+  connect(boton("CmdCeros", texto::kCeros, ceros.join(", ") + " = 0", 176), &QPushButton::clicked, this, [this] {
+    Dialogo lleno = dialogo_;
+    lleno.PonCeros();
+    Pon(lleno);
+  });
+  auto* abre = new BotonAbre(this);
+  coloca(*abre, "CmdAbre", texto::kAbrePieza, abre->text(), 174);
+  connect(abre, &BotonAbre::elegido, this, &FrDialogo::CmdAbre);
+  connect(boton("CmdGuardaPieza", texto::kGuardaPieza, Q(Texto(texto::kGuardaPieza)), 182), &QPushButton::clicked, this,
+          [this] { GuardaPieza(*this, Pieza()); });
+}
+
+void FrDialogo::Pon(const Dialogo& lleno) {
+  dialogo_ = lleno;
+  for (std::size_t i = 0; i < controles_.size(); ++i) {
+    const QString texto = Q(lleno.CampoDe(static_cast<int>(i)).texto);
+    if (auto* campo = qobject_cast<QLineEdit*>(controles_[i])) {
+      if (campo->text() != texto) campo->setText(texto);
+    } else if (auto* lista = qobject_cast<QComboBox*>(controles_[i])) {
+      lista->setCurrentIndex(lista->findText(texto));
+    }
+  }
+  for (const char* opcion : {"OpUnapieza", "OpDosPiezas"}) {
+    auto* boton = findChild<QRadioButton*>(opcion);
+    if (boton && (boton->objectName() == "OpDosPiezas") == lleno.dosPiezas) boton->setChecked(true);
+  }
+}
+
+void FrDialogo::Pon(const PiezaAbierta& abierta) {
+  Pon(abierta.dialogo);
+  abierta_ = TrabajoDe(dialogo_, abierta.trabajo.nombre);
+  abierta_.puntos = abierta.trabajo.puntos;
+  if (abierta_.puntos) visor_.reset();  // which may show the same values in other places
+}
+
+Trabajo FrDialogo::Pieza() const {
+  Trabajo trabajo = TrabajoDe(dialogo_, abierta_.nombre);
+  if (trabajo.valores == abierta_.valores) trabajo.puntos = abierta_.puntos;
+  if (visor_ && trabajo.valores == aceptados_ && !visor_->Sitios().empty()) trabajo.puntos = visor_->Sitios();
+  return trabajo;
+}
+
+void FrDialogo::CmdAbre(const QString& ruta) {
+  const auto abierta = AbrePieza(*this, ruta.toStdString());
+  if (!abierta) return;
+  if (abierta->fila.tipo == dialogo_.Definicion().tipo) return Pon(*abierta);
+  emit otraPieza(*abierta);
+  reject();
 }
 
 void FrDialogo::Activa() {
@@ -132,8 +213,13 @@ void FrDialogo::CmdAceptar() {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;
   }
-  FrmViewUnfold visor(this);
-  visor.exec();
+  PonUltimos(dialogo_);
+  if (!visor_ || !visor_->Muestra(*estado.pieza)) {
+    const Trabajo trabajo = Pieza();
+    visor_ = std::make_unique<FrmViewUnfold>(this, trabajo.puntos.value_or(std::vector<Punto2>()));
+    aceptados_ = trabajo.valores;
+  }
+  visor_->exec();
   Activa();
 }
 

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QShortcut>
 #include <array>
+#include <utility>
 
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
@@ -43,13 +44,18 @@ QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
 
-FrmViewUnfold::FrmViewUnfold(QWidget* padre)
+FrmViewUnfold::FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
       lienzo_(new Lienzo(EWdraw_, this)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
-      LblEstado_(new QLabel(this)) {
+      LblEstado_(new QLabel(this)),
+      aceptada_(*estado.pieza),
+      formato_(FormatoDeEstado()),
+      idioma_(estado.dIdioma),
+      pieza_(aceptada_),
+      conocidos_(std::move(conocidos)) {
   setObjectName("FrmViewUnfold");
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   setWindowTitle(padre ? padre->windowTitle() : QString("duktores"));
@@ -132,14 +138,20 @@ void FrmViewUnfold::CmdDesplegado() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
+  sitios_.clear();
+  pendiente_ = descartada_ = false;
   CmdSave_->setEnabled(false);
   CmdDesplegado_->setEnabled(false);
   CmdExacto_->setEnabled(false);
   FrmView_->setEnabled(false);
   FrmZoom_->findChild<QPushButton*>("cmdorbit")->setEnabled(false);
   lienzo_->PermiteOrbitar(false);
-  Corrida corrida = Desplegado(EWdraw_);
+  const std::vector<Punto2> conocidos = std::exchange(conocidos_, {});
+  Corrida corrida = DesplegadoEn(EWdraw_, conocidos);
   if (!vivo) return;
+  pendiente_ = corrida.sitios.size() > conocidos.size() && estado.oDrawing->Count() > 0;
+  if (corrida.fin == FinCorrida::completo) sitios_ = std::move(corrida.sitios);
+  AnotaEstado();
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
   CmdDesplegado_->setEnabled(true);
@@ -150,13 +162,15 @@ void FrmViewUnfold::CmdDesplegado() {
 // The other rule has another solid, and another pattern where one stands.
 void FrmViewUnfold::CmdExacto() {
   CambiaRegla();
+  AnotaEstado();
   solido_ = SolidoDe(*estado.pieza);
   if (!FrmView_->isEnabled()) return CmdDesplegado();
   DibujaSolido(EWdraw_, solido_);
   EWdraw_.EwRegen();
 }
 
-void FrmViewUnfold::CmdSave() {
+bool FrmViewUnfold::CmdSave() {
+  RecuperaEstado();
   QFileDialog dialogo(this, CmdSave_->toolTip(), Q(estado.sRutaDuct), ".dxf Files (*.dxf)");
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("dxf");
@@ -166,9 +180,11 @@ void FrmViewUnfold::CmdSave() {
     const bool otro = final != elegido && QFileInfo::exists(final);
     if (otro && QMessageBox::question(this, {}, Q(Texto(texto::kReemplazar)) + " " + final) != QMessageBox::Yes)
       continue;
-    GuardaDibujo(final.toStdString());
-    return;
+    const bool guardado = GuardaDibujo(final.toStdString());
+    if (guardado) pendiente_ = false;
+    return guardado;
   }
+  return false;
 }
 
 void FrmViewUnfold::MuestraEleccion(bool empieza) {
@@ -208,6 +224,28 @@ void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
               : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));
 }
 
+bool FrmViewUnfold::Muestra(const Pieza& pieza) const {
+  return pieza == aceptada_ && FormatoDeEstado() == formato_ && estado.dIdioma == idioma_;
+}
+
+FrmViewUnfold::Pendiente FrmViewUnfold::SinGuardar() const {
+  if (descartada_) return Pendiente::nada;
+  if (lienzo_->Eligiendo()) return estado.oDrawing->Count() > 0 ? Pendiente::parte : Pendiente::nada;
+  return pendiente_ ? Pendiente::patron : Pendiente::nada;
+}
+
+void FrmViewUnfold::AnotaEstado() {
+  pieza_ = *estado.pieza;
+  oDrawing_ = estado.oDrawing;
+  oDXF_ = estado.oDXF;
+}
+
+void FrmViewUnfold::RecuperaEstado() {
+  estado.pieza = pieza_;
+  estado.oDrawing = oDrawing_;
+  estado.oDXF = oDXF_;
+}
+
 void FrmViewUnfold::done(int resultado) {
   lienzo_->CancelaEleccion();
   QDialog::done(resultado);
@@ -215,6 +253,7 @@ void FrmViewUnfold::done(int resultado) {
 
 void FrmViewUnfold::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
+  RecuperaEstado();
   TraeAlFrente(*this);
 }
 

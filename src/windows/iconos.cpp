@@ -1,10 +1,10 @@
 #include "windows/iconos.h"
 
+#include <QAbstractButton>
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
-#include <QPushButton>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
@@ -49,6 +49,10 @@ constexpr std::array kDibujos{
     Dibujo{"CmdExit",       kPuerta,                                             ""},
     Dibujo{"CmdSalir",      kPuerta,                                             ""},
     Dibujo{"CmdAceptar",    "M4 13L9 18L20 6",                                   ""},
+    Dibujo{"CmdUltimos",    "M4 12A8 8 0 1 0 7 5.5M3 4L7 5.5L6 10M12 7V12L16 14",  ""},
+    Dibujo{"CmdCeros",      "M12 5A5 7 0 1 0 12 19A5 7 0 1 0 12 5",              ""},
+    Dibujo{"CmdAbre",       "M3 19V5H9L11 8H19V11M3 19L7 11H22L18 19Z",          ""},
+    Dibujo{"CmdGuardaPieza", "M6 3H14L18 7V21H6ZM14 3V7H18M12 10V17M9 14L12 17L15 14", ""},
     Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
 };
 // clang-format on
@@ -78,7 +82,7 @@ QIcon Icono(const Dibujo& dibujo, const QColor& color) {
 
 }  // namespace
 
-void PonBoton(QPushButton& boton, std::string_view nombre, const QString& ayuda) {
+void PonBoton(QAbstractButton& boton, std::string_view nombre, const QString& ayuda) {
   boton.setObjectName(QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size())));
   boton.setToolTip(ayuda);
   boton.setAccessibleName(ayuda);

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "batch/flujo_lista.h"
 #include "geometry/puntos.h"
+#include "jobs/flujo_lista.h"
 
 namespace duktores {
 
@@ -31,8 +31,21 @@ struct Trabajo {
   std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };
 
+/// Whether one object may stand where an array of them should.
+enum class Admite { lista, listaOUno };
+
 /// Hands on each job of a list as it is read. Throws ErrorLista, which tells line and job.
-void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma);
+void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma, Admite admite = Admite::lista);
+
+/// Reads what is in memory, which must outlive it.
+LeeTrozo DeMemoria(std::string_view json);
+
+/// Whether a text can be the name of a job.
+bool EsNombre(const std::string& nombre);
+/// What two names have in common that are one on some disk.
+std::string SinCaja(std::string nombre);
+/// A number as a person would type it: plain decimals, no exponent.
+std::string TextoTecleado(double valor);
 
 /// The names of a list. Nobody can tell which of two pieces the drawing of one name should be, and many disks don't
 /// tell names apart that differ by case or by the way in which an accent is written.
