@@ -60,7 +60,9 @@ Trabajo TrabajoDe(const Dialogo& dialogo, std::string nombre) {
   trabajo.pieza = def.clave;
   for (std::size_t i = 0; i < def.campos.size(); ++i) {
     const std::string& texto = dialogo.CampoDe(static_cast<int>(i)).texto;
-    if (!texto.empty()) trabajo.valores.emplace_back(def.campos[i].palabra, texto);
+    // A point that came first by deleting can't be typed first.
+    const char* cero = texto.starts_with('.') ? "0" : "";
+    if (!texto.empty()) trabajo.valores.emplace_back(def.campos[i].palabra, cero + texto);
   }
   if (def.opcionPiezas) trabajo.valores.emplace_back(kPiezas, dialogo.dosPiezas ? "2" : "1");
   return trabajo;

@@ -4,8 +4,14 @@
 
 #include <tuple>
 
+#include "dxf/escritor.h"
+#include "jobs/escritura.h"
+#include "jobs/llenado.h"
+#include "mesa.h"
 #include "piece/numeros_texto.h"
 #include "pieza_tecleada.h"
+#include "shell/visor.h"
+#include "state/fichero.h"
 #include "state/textos.h"
 
 namespace duktores {
@@ -25,6 +31,46 @@ TEST(Trabaja, APromptIsNoErrorsMessage) {
     const Resultado resultado = Trabaja(trabajo, {});
     ASSERT_TRUE(resultado.rechazo);
     EXPECT_EQ(resultado.rechazo->clave + ": " + resultado.rechazo->texto, "piece: " + Texto(texto));
+  }
+}
+
+// What the windows save of a piece is the drawing that was placed there, at once, from the file, and by this program.
+TEST(Trabaja, APieceOfTheWindowsIsTheSameDrawing) {
+  const std::string carpeta = testing::TempDir();
+  for (const auto& [tipo, textos] :
+       {std::pair(TipoPieza::cr, "300 95.5 400 300 0 25 10 24 2"), {TipoPieza::esp2, "300 100 500 300 30 20 10 5 8"}}) {
+    Configura();
+    estado.sRutaPrograma = DUKTORES_RAIZ "/";
+    const EstadoPrograma configurado = estado;
+    std::vector<Punto3> clics;
+    for (int i = 0; i < 30; ++i) clics.push_back({1000.0 / 7 * i, -11.1 * i, 0});
+    Mesa mesa(clics);
+    const auto guarda = [&](auto despliega) {
+      EWdraw axew;
+      axew.PonVista(&mesa);
+      estado.plataforma = &mesa;
+      const Corrida corrida = despliega(axew);
+      EXPECT_EQ(corrida.fin, FinCorrida::completo);
+      estado.oDXF->InsertEntities(estado.oDrawing);
+      EXPECT_TRUE(estado.oDXF->Save(carpeta + "mano.dxf"));
+      return std::pair(LeeFichero(carpeta + "mano.dxf").value(), corrida.sitios);
+    };
+    Dialogo dialogo = Tecleado(tipo, textos, true);
+    ASSERT_EQ(dialogo.CmdAceptar(), Respuesta::aceptado);
+    const auto [aMano, sitios] = guarda([](EWdraw& axew) { return Desplegado(axew); });
+    EXPECT_EQ(sitios.size(), mesa.mensajes.size());
+    mesa.mensajes.clear();
+    EXPECT_EQ(guarda([&](EWdraw& axew) { return DesplegadoEn(axew, sitios); }).first, aMano);
+    EXPECT_TRUE(mesa.mensajes.empty()) << "nothing left to ask for";
+
+    Trabajo trabajo = TrabajoDe(dialogo, "lote");
+    trabajo.puntos = sitios;
+    estado = configurado;
+    Opciones opciones;
+    opciones.carpeta = carpeta;
+    const Resultado resultado = Trabaja(LeeLista(EscribeLista({&trabajo, 1})).at(0), opciones);
+    ASSERT_FALSE(resultado.rechazo) << resultado.rechazo->texto;
+    EXPECT_EQ(LeeFichero(resultado.fichero).value(), aMano);
   }
 }
 
