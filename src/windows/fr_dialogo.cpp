@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 
 #include "jobs/llenado.h"
 #include "jobs/memoria.h"
@@ -137,7 +138,7 @@ void FrDialogo::Barra(int y) {
   auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, Q(Texto(texto::kUltimosValores)), [this] {
     if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
   });
-  ultimos->setShortcut(Qt::CTRL | Qt::Key_L);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, ultimos, &QPushButton::click);
   ultimos->setToolTip(ultimos->toolTip() + " (Ctrl+L)");
   QStringList ceros;
   for (const DefCampo& campo : dialogo_.Definicion().campos) {

@@ -1,0 +1,298 @@
+#include <QComboBox>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <fstream>
+
+#include "jobs/piezas.h"
+#include "state/fichero.h"
+#include "state/textos.h"
+#include "windows/boton_abre.h"
+#include "windows/fr_lista_duktores.h"
+#include "windows/usuario.h"
+
+namespace duktores {
+namespace {
+
+constexpr const char* kDatos[][2]{{"TxtH", "300"}, {"TxtRS", "100"},  {"TxtLI", "400"},  {"TxtAI", "300"},
+                                  {"TxtAX", "0"},  {"TxtAY", "25.5"}, {"TxtAlfa", "-10"}};
+
+std::string Textos(QWidget& dialogo) {
+  std::string textos;
+  for (const auto* campo : dialogo.findChildren<QLineEdit*>()) textos += campo->text().toStdString() + " ";
+  for (const auto* combo : dialogo.findChildren<QComboBox*>()) textos += combo->currentText().toStdString() + " ";
+  return textos + (Hijo<QRadioButton>(dialogo, "OpDosPiezas").isChecked() ? "2" : "1");
+}
+const std::string kLleno = "300 100 400 300 0 25.5 -10 12 2 1", kVacio = "         2";
+
+void Llena(QWidget& dialogo) {
+  for (const auto& [campo, valor] : kDatos) Hijo<QLineEdit>(dialogo, campo).setText(valor);
+  Hijo<QComboBox>(dialogo, "CmbDivi").setCurrentIndex(0);
+  Hijo<QComboBox>(dialogo, "CmbPosIni").setCurrentIndex(1);
+  Hijo<QRadioButton>(dialogo, "OpUnapieza").setChecked(true);
+}
+
+void LlenaYAcepta(QWidget& dialogo) {
+  Llena(dialogo);
+  Pulsa(dialogo, "CmdAceptar");
+}
+
+class Ficheros : public ConVentanas {
+ protected:
+  Ficheros() {
+    estado.sRutaPropia = Ruta("propio/duktores.ini");
+    estado.sRutaDuct = carpeta_.path().toStdString();
+    Arranca();
+  }
+  /// A new run of the program.
+  void Arranca() {
+    lista_ = std::make_unique<FrListaDuktores>();
+    lista_->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(lista_.get()));
+    Hijo<QListWidget>(*lista_, "LstDuktores").setCurrentRow(2);
+  }
+  void EnDialogo(std::function<void(QWidget&)> hace, const char* ventana = "FrTransfCR") {
+    usuario_.Cuando(ventana, std::move(hace));
+  }
+  void Abre() { Pulsa(*lista_, "CmdContinuar"); }
+  void Elige(const std::string& ruta) {
+    usuario_.Cuando("QFileDialog", [ruta](QWidget& dialogo) {
+      Hijo<QLineEdit>(dialogo, "fileNameEdit").setText(QString::fromStdString(ruta));
+      QTest::keyClick(&Hijo(dialogo, "fileNameEdit"), Qt::Key_Return);
+    });
+  }
+  void Contesta(int boton) {
+    usuario_.Cuando("QMessageBox", [boton](QWidget& caja) {
+      for (auto* b : caja.findChildren<QPushButton*>()) {
+        if (b->text().remove('&').toStdString() == Texto(boton)) return QTest::mouseClick(b, Qt::LeftButton);
+      }
+      ADD_FAILURE() << "no button " << boton;
+    });
+  }
+  void Avisa(int texto) {
+    usuario_.Cuando("QMessageBox", [texto](QWidget& caja) {
+      const std::string dicho = dynamic_cast<QMessageBox&>(caja).text().toStdString();
+      EXPECT_TRUE(dicho.starts_with(Texto(texto))) << dicho;
+      QTest::keyClick(&caja, Qt::Key_Return);
+    });
+  }
+  /// Places the title block of a piece in one, which has a place of its own.
+  void Coloca() {
+    usuario_.CierraMensaje(Texto(65));
+    usuario_.Cuando("pick", [](QWidget& visor) {
+      QTest::mouseClick(visor.findChild<Lienzo*>(), Qt::LeftButton, {}, {700, 60});
+    });
+  }
+  std::string Escribe(const char* nombre, const std::string& contenido) const {
+    std::ofstream(Ruta(nombre)) << contenido;
+    return Ruta(nombre);
+  }
+  void Suelta(const std::string& ruta) {
+    QMimeData datos;
+    datos.setUrls({QUrl::fromLocalFile(QString::fromStdString(ruta))});
+    QDragEnterEvent entra({50, 50}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(lista_.get(), &entra);
+    EXPECT_TRUE(entra.isAccepted());
+    QDropEvent suelta(QPointF(50, 50), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(lista_.get(), &suelta);
+    QApplication::processEvents();
+  }
+
+  std::unique_ptr<FrListaDuktores> lista_;
+};
+
+TEST_F(Ficheros, ADialogKeepsItsValuesAndANewRunKnowsTheLastOnes) {
+  EnDialogo([](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), kVacio);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialogo.isActiveWindow(); }));
+    QTest::keyClick(&dialogo, Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(Textos(dialogo), kVacio) << "nothing has been accepted yet";
+    Llena(dialogo);
+    Pulsa(dialogo, "CmdCancelar");
+  });
+  Abre();
+  EnDialogo([](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), kLleno);
+    QTest::keyClick(&dialogo, Qt::Key_Escape);
+  });
+  Abre();
+  EnDialogo([](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), kLleno);
+    Pulsa(dialogo, "CmdAceptar");
+  });
+  usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdCancelar"); });
+  EnDialogo([](QWidget& dialogo) { dialogo.close(); });
+  Abre();
+
+  Arranca();
+  EnDialogo([](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), kVacio);
+    Hijo<QLineEdit>(dialogo, "TxtAX").setText("7");
+    Pulsa(dialogo, "CmdCeros");
+    EXPECT_EQ(Textos(dialogo), "    7 0 0   2");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialogo.isActiveWindow(); }));
+    QTest::keyClick(&dialogo, Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(Textos(dialogo), kLleno);
+    dialogo.close();
+  });
+  Abre();
+}
+
+TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
+  QImage colocado;
+  QString veredicto;
+  const auto expectGuardado = [this](const char* nombre) {
+    Elige(Ruta(nombre));
+    usuario_.CierraMensaje("OK");
+  };
+  EnDialogo(LlenaYAcepta);
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    Pulsa(visor, "CmdDesplegado");
+    colocado = visor.findChild<Lienzo*>()->grab().toImage();
+    veredicto = Hijo<QLabel>(visor, "LblEstado").text();
+    Pulsa(visor, "CmdSave");
+    visor.close();
+  });
+  Coloca();
+  expectGuardado("a.dxf");
+  EnDialogo([](QWidget& dialogo) {
+    estado.oDrawing.reset();  // as another piece would do
+    Pulsa(dialogo, "CmdAceptar");
+  });
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    EXPECT_EQ(visor.findChild<Lienzo*>()->grab().toImage(), colocado);
+    EXPECT_EQ(Hijo<QLabel>(visor, "LblEstado").text(), veredicto);
+    Pulsa(visor, "CmdSave");
+    visor.close();
+  });
+  expectGuardado("b.dxf");
+  EnDialogo([](QWidget& dialogo) {
+    Hijo<QLineEdit>(dialogo, "TxtH").setText("301");
+    Pulsa(dialogo, "CmdAceptar");
+  });
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    EXPECT_FALSE(Hijo(visor, "CmdSave").isEnabled()) << "other values show their own solid";
+    visor.close();
+  });
+  EnDialogo([](QWidget& dialogo) { dialogo.close(); });
+  Abre();
+  EXPECT_EQ(LeeFichero(Ruta("a.dxf")), LeeFichero(Ruta("b.dxf")));
+}
+
+TEST_F(Ficheros, TheEndAsksAboutAPatternPlacedByHand) {
+  EnDialogo(LlenaYAcepta);
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    Pulsa(visor, "CmdDesplegado");
+    Pulsa(visor, "CmdExit");
+    EXPECT_TRUE(visor.isVisible()) << "stayed";
+    visor.close();
+  });
+  Coloca();
+  Contesta(307);
+  EnDialogo([](QWidget& dialogo) { dialogo.close(); });
+  Abre();
+  EXPECT_TRUE(lista_->isVisible());
+  Contesta(310);
+  Elige(Ruta("fin.dxf"));
+  usuario_.CierraMensaje("OK");
+  QTimer::singleShot(0, lista_.get(), [&] { Pulsa(*lista_, "CmdSalir"); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(LeeFichero(Ruta("fin.dxf"))) << "saved from behind";
+}
+
+TEST_F(Ficheros, FilesOpenAndWhatIsBrokenChangesNothing) {
+  EnDialogo([&](QWidget& dialogo) {
+    Llena(dialogo);
+    const std::pair<int, std::string> malos[]{
+        {297, Ruta("nada")},
+        {295, Escribe("a.json", "[{")},
+        {296, Escribe("b.json", std::string(9 << 20, ' '))},
+        {308, Escribe("c.json", R"([{"name": "x", "piece": "TransCR", "H": [1]}])")},
+        {299, Escribe("d.json", R"({"name": "x", "piece": "TransXX"})")},
+        {298, Escribe("e.json", R"({"name": "x", "piece": "TransCR", "H": 5, "RS": -5})")}};
+    for (const auto& [texto, ruta] : malos) {
+      Avisa(texto);
+      emit dynamic_cast<BotonAbre&>(Hijo(dialogo, "CmdAbre")).elegido(QString::fromStdString(ruta));
+      EXPECT_EQ(Textos(dialogo), kLleno) << ruta;
+    }
+    Elige(Escribe("f.json", R"({"name": "x", "piece": "TransCR", "H": 5, "Start": 4, "Pieces": 2})"));
+    QTest::mouseClick(&Hijo(dialogo, "CmdAbre"), Qt::LeftButton, {}, {10, 10});
+    EXPECT_EQ(Textos(dialogo), "5        4 2");
+    // The second one of a list, which is of another type.
+    Elige(Escribe("g.json", R"([{"name": "x", "piece": "TransCR"}, {"name": "y", "piece": "TransRC", "RI": 6}])"));
+    usuario_.Cuando("FrEligePieza", [](QWidget& ventana) {
+      QTest::keyClick(&Hijo(ventana, "LstPiezas"), Qt::Key_Down);
+      Pulsa(ventana, "CmdAceptar");
+    });
+    EnDialogo(
+        [](QWidget& otro) {
+          EXPECT_EQ(Textos(otro), " 6        2");
+          otro.close();
+        },
+        "FrTransfRC");
+    QTest::mouseClick(&Hijo(dialogo, "CmdAbre"), Qt::LeftButton, {}, {10, 10});
+  });
+  Abre();
+  EXPECT_EQ(estado.sTipoPieza, Texto(12));
+  EnDialogo([](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), "5        4 2");
+    dialogo.close();
+  });
+  Suelta(Ruta("f.json"));
+  auto& menu = *Hijo<QToolButton>(*lista_, "CmdAbre").menu();
+  emit menu.aboutToShow();
+  ASSERT_EQ(menu.actions().size(), 2);
+  EXPECT_EQ(menu.actions()[0]->text().toStdString(), Ruta("f.json"));
+}
+
+// A list grows in the window; a file that isn't one is not written over without a word.
+TEST_F(Ficheros, PiecesAreSavedWithTheirPlaces) {
+  const std::string ruta = Ruta("taller.json"), ajeno = Escribe("ajeno.json", "mine");
+  EnDialogo(LlenaYAcepta);
+  usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
+    Pulsa(visor, "CmdDesplegado");
+    visor.close();
+  });
+  Coloca();
+  EnDialogo([&](QWidget& dialogo) {
+    Elige(ruta);
+    Pulsa(dialogo, "CmdGuardaPieza");
+    Hijo<QLineEdit>(dialogo, "TxtH").setText("310");
+    Elige(ruta);
+    Contesta(300);
+    usuario_.Cuando("QInputDialog", [](QWidget& pregunta) { QTest::keyClick(&pregunta, Qt::Key_Return); });
+    Pulsa(dialogo, "CmdGuardaPieza");
+    Elige(ajeno);
+    usuario_.Cuando("QMessageBox", [](QWidget& caja) { QTest::keyClick(&caja, Qt::Key_Escape); });
+    usuario_.Cuando("QFileDialog", [](QWidget& pregunta) { pregunta.close(); });
+    Pulsa(dialogo, "CmdGuardaPieza");
+    dialogo.close();
+  });
+  Abre();
+  EXPECT_EQ(LeeFichero(ajeno).value(), "mine");
+  const auto trabajos = LeePiezas(ruta).trabajos;
+  ASSERT_EQ(trabajos.size(), 2U);
+  EXPECT_EQ(trabajos[0].nombre + " " + trabajos[1].nombre, "taller taller-2");
+  ASSERT_TRUE(trabajos[0].puntos && !trabajos[1].puntos) << "places are those of the values that they were chosen for";
+  EXPECT_EQ(trabajos[0].puntos->size(), 1U);
+
+  Arranca();
+  usuario_.Cuando("FrEligePieza", [](QWidget& ventana) { Pulsa(ventana, "CmdAceptar"); });
+  EnDialogo([](QWidget& dialogo) { Pulsa(dialogo, "CmdAceptar"); });
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    Pulsa(visor, "CmdDesplegado");
+    EXPECT_TRUE(Hijo(visor, "CmdSave").isEnabled()) << "placed without a question";
+    visor.close();
+  });
+  EnDialogo([](QWidget& dialogo) { dialogo.close(); });
+  Suelta(ruta);
+}
+
+}  // namespace
+}  // namespace duktores
