@@ -142,7 +142,6 @@ class Lector : public nlohmann::json_sax<json> {
       trabajo_.nombre = "#" + std::to_string(trabajo_.numero);
     }
     if (!esta("piece")) Rechaza("piece", "piece is missing");
-    std::ranges::sort(trabajo_.valores);
     toma_(std::move(trabajo_));
   }
   /// The first reason counts.

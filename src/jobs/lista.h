@@ -26,7 +26,7 @@ struct Trabajo {
   std::size_t linea = 0;   ///< where it begins
   std::string nombre;      ///< of the drawing; "#3" where the third job has none that will do
   std::string pieza;
-  std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key, in alphabetical order
+  std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key
   std::optional<std::vector<Punto2>> puntos;  ///< answers to the picks; none: the program places the shapes
   std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };

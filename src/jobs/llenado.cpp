@@ -47,7 +47,9 @@ std::optional<std::string> EscribeValor(Dialogo& dialogo, const std::string& cla
 }  // namespace
 
 std::optional<Rechazo> LlenaDialogo(Dialogo& dialogo, const Trabajo& trabajo) {
-  for (const auto& [clave, texto] : trabajo.valores) {
+  auto valores = trabajo.valores;
+  std::ranges::sort(valores);
+  for (const auto& [clave, texto] : valores) {
     if (auto motivo = EscribeValor(dialogo, clave, texto)) return Rechazo{clave, *motivo};
   }
   return std::nullopt;

@@ -9,8 +9,8 @@
 
 namespace duktores {
 
-/// Types the job's values into the dialog, key by key, as a person would. What doesn't go in is refused by its key; the
-/// dialog then holds what came before it.
+/// Types the job's values into the dialog, key by key, as a person would. The first, by the alphabet, that doesn't go
+/// in is refused by its key; the dialog then holds what came before it.
 std::optional<Rechazo> LlenaDialogo(Dialogo& dialogo, const Trabajo& trabajo);
 
 /// The job of which LlenaDialogo makes these fields again. Empty ones are left out.

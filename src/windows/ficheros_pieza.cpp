@@ -51,29 +51,33 @@ std::string NombreNuevo(const std::vector<Trabajo>& trabajos, const std::string&
 }
 
 bool PideNombre(QWidget& sobre, std::string& nombre) {
-  for (;;) {
-    bool acepta = false;
-    nombre = QInputDialog::getText(&sobre, Q(Texto(texto::kGuardaPieza)), Q(Texto(texto::kNombrePieza)),
-                                   QLineEdit::Normal, Q(nombre), &acepta)
-                 .trimmed()
-                 .toStdString();
-    if (!acepta) return false;
+  QInputDialog pregunta(&sobre);
+  pregunta.setWindowTitle(Q(Texto(texto::kGuardaPieza)));
+  pregunta.setLabelText(Q(Texto(texto::kNombrePieza)));
+  pregunta.setTextValue(Q(nombre));
+  pregunta.setOkButtonText(Q(Texto(texto::kAceptar)));
+  pregunta.setCancelButtonText(Q(Texto(texto::kCancelar)));
+  while (pregunta.exec() == QDialog::Accepted) {
+    nombre = pregunta.textValue().trimmed().toStdString();
     if (EsNombre(nombre)) return true;
     Avisa(texto::kNombreMalo, nombre);
   }
+  return false;
 }
 
 enum class Modo { anade, reemplaza, nada };
 
-Modo PideModo(QWidget& sobre, const std::string& ruta) {
-  QMessageBox caja(QMessageBox::Question, {}, Q(Texto(texto::kYaHayPiezas) + " " + ruta), {}, &sobre);
+/// What to do with a file that is there; only a list can be added to.
+Modo PideModo(QWidget& sobre, int texto, const std::string& ruta, bool lista) {
+  QMessageBox caja(QMessageBox::Question, {}, Q(Texto(texto) + " " + ruta), {}, &sobre);
   caja.setTextFormat(Qt::PlainText);
-  auto* anade = caja.addButton(Q(Texto(texto::kAnade)), QMessageBox::AcceptRole);
+  auto* anade = lista ? caja.addButton(Q(Texto(texto::kAnade)), QMessageBox::AcceptRole) : nullptr;
   auto* reemplaza = caja.addButton(Q(Texto(texto::kReemplaza)), QMessageBox::DestructiveRole);
-  caja.addButton(Q(Texto(texto::kCancelar)), QMessageBox::RejectRole);
-  caja.setDefaultButton(anade);
+  auto* cancela = caja.addButton(Q(Texto(texto::kCancelar)), QMessageBox::RejectRole);
+  caja.setDefaultButton(lista ? anade : cancela);
   caja.exec();
-  return caja.clickedButton() == anade ? Modo::anade : caja.clickedButton() == reemplaza ? Modo::reemplaza : Modo::nada;
+  if (caja.clickedButton() == reemplaza) return Modo::reemplaza;
+  return lista && caja.clickedButton() == anade ? Modo::anade : Modo::nada;
 }
 
 /// What the file is to hold; none if another one has to be chosen.
@@ -82,12 +86,9 @@ std::optional<std::vector<Trabajo>> ListaPara(QWidget& sobre, const std::string&
   std::vector<Trabajo> sola{trabajo};
   if (!QFileInfo::exists(Q(ruta))) return sola;
   LecturaPiezas lectura = LeePiezas(ruta);
-  if (lectura.motivo == texto::kSinPiezas) {
-    const QString pregunta = Q(Texto(texto::kReemplazar) + " " + ruta);
-    return QMessageBox::question(&sobre, {}, pregunta) == QMessageBox::Yes ? std::optional(sola) : std::nullopt;
-  }
-  if (lectura.motivo != 0) return AvisaLectura(ruta, lectura), std::nullopt;
-  const Modo modo = PideModo(sobre, ruta);
+  const bool lista = lectura.motivo == 0;
+  if (!lista && lectura.motivo != texto::kSinPiezas) return AvisaLectura(ruta, lectura), std::nullopt;
+  const Modo modo = PideModo(sobre, lista ? texto::kYaHayPiezas : texto::kReemplazar, ruta, lista);
   if (modo != Modo::anade) return modo == Modo::reemplaza ? std::optional(sola) : std::nullopt;
   for (const Trabajo& otro : lectura.trabajos) {
     if (!otro.rechazo) continue;
@@ -127,6 +128,7 @@ void GuardaPieza(QWidget& sobre, Trabajo trabajo) {
     return Avisa(texto::kValorNoSirve, ValorDe(trabajo, rechazo->clave));
   }
   QFileDialog dialogo(&sobre, Q(Texto(texto::kGuardaPieza)), Q(CarpetaPiezas()), ".json (*.json)");
+  if (const auto recientes = Recientes(); !recientes.empty()) dialogo.selectFile(Q(recientes.front()));
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("json");
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);

@@ -215,10 +215,10 @@ void FrDialogo::CmdAceptar() {
     return;
   }
   PonUltimos(dialogo_);
+  aceptados_ = TrabajoDe(dialogo_, {}).valores;
   if (!visor_ || !visor_->Muestra(*estado.pieza)) {
-    const Trabajo trabajo = Pieza();
-    visor_ = std::make_unique<FrmViewUnfold>(this, trabajo.puntos.value_or(std::vector<Punto2>()));
-    aceptados_ = trabajo.valores;
+    const bool deFichero = aceptados_ == abierta_.valores && abierta_.puntos;
+    visor_ = std::make_unique<FrmViewUnfold>(this, deFichero ? *abierta_.puntos : std::vector<Punto2>());
   }
   visor_->exec();
   Activa();

@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <algorithm>
 
 #include "piece/numeros_texto.h"
 #include "shell/lista.h"
@@ -15,6 +16,7 @@ namespace duktores {
 namespace {
 
 constexpr QSize kDiseno{720, 440};
+constexpr int kMaximoColumna = 260, kHueco = 12;
 enum Columna { nombre, pieza, valores };
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
@@ -32,7 +34,10 @@ class FrEligePieza : public QDialog {
     lista_->setUniformRowHeights(true);
     for (const Trabajo& trabajo : trabajos) Anade(trabajo);
     lista_->header()->setStretchLastSection(true);
-    for (const Columna columna : {nombre, pieza}) lista_->resizeColumnToContents(columna);
+    for (const Columna columna : {nombre, pieza}) {
+      lista_->resizeColumnToContents(columna);
+      lista_->setColumnWidth(columna, std::min(lista_->columnWidth(columna) + kHueco, kMaximoColumna));
+    }
     proporcion_.Coloca(*lista_, {12, 12, kDiseno.width() - 24, kDiseno.height() - 70});
     connect(lista_, &QTreeWidget::itemActivated, this, &QDialog::accept);
     Boton(texto::kAceptar, "CmdAceptar", 2)->setDefault(true);
@@ -54,12 +59,12 @@ class FrEligePieza : public QDialog {
     const FilaPieza* fila = FilaDeClave(trabajo.pieza);
     auto* renglon = new QTreeWidgetItem(lista_);
     renglon->setText(nombre, Q(trabajo.nombre));
-    renglon->setText(pieza, Q(fila ? Texto(fila->dialogo.textoTitulo) : trabajo.pieza));
-    QString textos;
-    for (const auto& [clave, texto] : trabajo.valores) textos += Q(clave + " " + texto + "   ");
-    if (trabajo.rechazo) textos = Q(trabajo.rechazo->texto);
-    if (!fila && !trabajo.rechazo) textos = Q(Texto(texto::kPiezaDesconocida) + " " + trabajo.pieza);
-    renglon->setText(valores, textos);
+    renglon->setText(pieza, Q(fila ? Texto(fila->dialogo.textoTitulo) : EnUnaLinea(trabajo.pieza)));
+    std::string textos;
+    for (const auto& [clave, texto] : trabajo.valores) textos += clave + " " + texto + "   ";
+    if (trabajo.rechazo) textos = trabajo.rechazo->texto;
+    if (!fila && !trabajo.rechazo) textos = Texto(texto::kPiezaDesconocida) + " " + trabajo.pieza;
+    renglon->setText(valores, Q(EnUnaLinea(textos)));
     renglon->setDisabled(!fila || trabajo.rechazo);
     if (!lista_->currentItem() && !renglon->isDisabled()) lista_->setCurrentItem(renglon);
   }

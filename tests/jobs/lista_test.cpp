@@ -11,7 +11,7 @@ TEST(LeeLista, TextsAndNumbersBecomeWhatIsTyped) {
   ASSERT_EQ(trabajos.size(), 1U);
   EXPECT_FALSE(trabajos[0].rechazo);
   const std::vector<std::pair<std::string, std::string>> valores{
-      {"AI", "12345678"}, {"AX", "0.00000015"}, {"H", "1000"}, {"LI", "4,5"}, {"RS", "0.1"}};
+      {"H", "1000"}, {"RS", "0.1"}, {"LI", "4,5"}, {"AI", "12345678"}, {"AX", "0.00000015"}};
   EXPECT_EQ(trabajos[0].valores, valores);
   EXPECT_EQ(*trabajos[0].puntos, (std::vector<Punto2>{{1, 2.5}, {-3, 0}}));
 }
