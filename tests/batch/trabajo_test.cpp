@@ -60,7 +60,7 @@ TEST(Trabaja, APieceOfTheWindowsIsTheSameDrawing) {
     const auto [aMano, sitios] = guarda([](EWdraw& axew) { return Desplegado(axew); });
     EXPECT_EQ(sitios.size(), mesa.mensajes.size());
     mesa.mensajes.clear();
-    EXPECT_EQ(guarda([&](EWdraw& axew) { return DesplegadoEn(axew, sitios); }).first, aMano);
+    EXPECT_EQ(guarda([&, &conocidos = sitios](EWdraw& axew) { return DesplegadoEn(axew, conocidos); }).first, aMano);
     EXPECT_TRUE(mesa.mensajes.empty()) << "nothing left to ask for";
 
     Trabajo trabajo = TrabajoDe(dialogo, "lote");
