@@ -128,7 +128,6 @@ void GuardaPieza(QWidget& sobre, Trabajo trabajo) {
     return Avisa(texto::kValorNoSirve, ValorDe(trabajo, rechazo->clave));
   }
   QFileDialog dialogo(&sobre, Q(Texto(texto::kGuardaPieza)), Q(CarpetaPiezas()), ".json (*.json)");
-  if (const auto recientes = Recientes(); !recientes.empty()) dialogo.selectFile(Q(recientes.front()));
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix("json");
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
