@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <utility>
 
 #include "jobs/llenado.h"
 #include "jobs/memoria.h"
@@ -176,6 +177,7 @@ void FrDialogo::Pon(const PiezaAbierta& abierta) {
   abierta_ = TrabajoDe(dialogo_, abierta.trabajo.nombre);
   abierta_.puntos = abierta.trabajo.puntos;
   if (abierta_.puntos) visor_.reset();  // which may show the same values in other places
+  recienAbierta_ = !isVisible();
 }
 
 Trabajo FrDialogo::Pieza() const {
@@ -201,7 +203,9 @@ void FrDialogo::Activa() {
 
 void FrDialogo::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
+  const Dialogo abierto = dialogo_;
   Activa();
+  if (std::exchange(recienAbierta_, false)) Pon(abierto);  // with the file's choice of pieces
 }
 
 void FrDialogo::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }

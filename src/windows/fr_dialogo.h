@@ -53,6 +53,7 @@ class FrDialogo : public QDialog {
   std::unique_ptr<FrmViewUnfold> visor_;
   decltype(Trabajo::valores) aceptados_;  // which the viewer shows
   Trabajo abierta_;                       // of a file: its places hold for its values
+  bool recienAbierta_ = false;            // and not shown yet
 };
 
 }  // namespace duktores

@@ -267,10 +267,17 @@ TEST_F(Ficheros, FilesOpenAndWhatIsBrokenChangesNothing) {
     dialogo.close();
   });
   Suelta(Ruta("f.json"));
+  EnDialogo(
+      [](QWidget& dialogo) {
+        EXPECT_EQ(Textos(dialogo), "         3 1") << "a file's choice outlives the activation";
+        dialogo.close();
+      },
+      "FrTransBaRectBoElip");
+  Suelta(Escribe("h.json", R"({"name": "x", "piece": "TransElip", "Start": 3, "Pieces": 1})"));
   auto& menu = *Hijo<QToolButton>(*lista_, "CmdAbre").menu();
   emit menu.aboutToShow();
-  ASSERT_EQ(menu.actions().size(), 2);
-  EXPECT_EQ(menu.actions()[0]->text().toStdString(), Ruta("f.json"));
+  ASSERT_EQ(menu.actions().size(), 3);
+  EXPECT_EQ(menu.actions()[1]->text().toStdString(), Ruta("f.json"));
 }
 
 }  // namespace
