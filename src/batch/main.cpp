@@ -11,11 +11,11 @@
 #include <system_error>
 
 #include "batch/fuente_lista.h"
-#include "jobs/lista.h"
 #include "batch/obreros.h"
 #include "batch/ordenes.h"
 #include "batch/senales.h"
 #include "dxf/escritor.h"
+#include "jobs/lista.h"
 #include "piece/numeros_texto.h"
 #include "state/arranque.h"
 #include "state/estado.h"

@@ -56,9 +56,7 @@ class Ficheros : public ConVentanas {
     EXPECT_TRUE(QTest::qWaitForWindowActive(lista_.get()));
     Hijo<QListWidget>(*lista_, "LstDuktores").setCurrentRow(2);
   }
-  void EnDialogo(std::function<void(QWidget&)> hace, const char* ventana = "FrTransfCR") {
-    usuario_.Cuando(ventana, std::move(hace));
-  }
+  void EnDialogo(std::function<void(QWidget&)> hace) { usuario_.Cuando("FrTransfCR", std::move(hace)); }
   void Abre() { Pulsa(*lista_, "CmdContinuar"); }
   void Elige(const std::string& ruta) {
     usuario_.Cuando("QFileDialog", [ruta](QWidget& dialogo) {
@@ -114,15 +112,13 @@ TEST_F(Ficheros, ADialogKeepsItsValuesAndANewRunKnowsTheLastOnes) {
     Pulsa(dialogo, "CmdCancelar");
   });
   Abre();
-  EnDialogo([](QWidget& dialogo) {
-    EXPECT_EQ(Textos(dialogo), kLleno);
-    QTest::keyClick(&dialogo, Qt::Key_Escape);
-  });
-  Abre();
-  EnDialogo([](QWidget& dialogo) {
-    EXPECT_EQ(Textos(dialogo), kLleno);
-    Pulsa(dialogo, "CmdAceptar");
-  });
+  for (const char* boton : {"", "CmdAceptar"}) {
+    EnDialogo([boton](QWidget& dialogo) {
+      EXPECT_EQ(Textos(dialogo), kLleno);
+      *boton == 0 ? QTest::keyClick(&dialogo, Qt::Key_Escape) : Pulsa(dialogo, boton);
+    });
+    if (*boton == 0) Abre();
+  }
   usuario_.Cuando("FrmViewUnfold", kCierra);
   EnDialogo(kCierra);
   Abre();
@@ -139,7 +135,8 @@ TEST_F(Ficheros, ADialogKeepsItsValuesAndANewRunKnowsTheLastOnes) {
   Abre();
 }
 
-// And so do its places, in files too. A list grows in the window; a file that isn't one is not written over unasked.
+// And so do its places, in files too; the end of the program asks. A list grows in the window; a file that isn't one is
+// not written over unasked.
 TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
   const std::string lista = Ruta("taller.json"), ajeno = Escribe("ajeno.json", "mine");
   QImage colocado;
@@ -187,10 +184,20 @@ TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
   });
   usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) {
     EXPECT_FALSE(Hijo(visor, "CmdSave").isEnabled()) << "other values show their own solid";
+    Pulsa(visor, "CmdDesplegado");
+    Pulsa(visor, "CmdExit");
+    EXPECT_TRUE(visor.isVisible()) << "stayed";
     visor.close();
   });
+  Coloca();
+  Contesta(305, 307);
   EnDialogo(kCierra);
   Abre();
+  Contesta(305, 310);
+  guardaDxf("fin.dxf");
+  QTimer::singleShot(0, lista_.get(), [&] { Pulsa(*lista_, "CmdSalir"); });
+  EXPECT_EQ(QApplication::exec(), 0);
+  EXPECT_TRUE(LeeFichero(Ruta("fin.dxf"))) << "saved from behind";
   EXPECT_EQ(LeeFichero(ajeno).value(), "mine");
   const auto trabajos = LeePiezas(lista).trabajos;
   ASSERT_EQ(trabajos.size(), 2U);
@@ -205,27 +212,6 @@ TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
   EnDialogo(kCierra);
   Suelta(lista);
   for (const char* otro : {"b.dxf", "c.dxf"}) EXPECT_TRUE(LeeFichero(Ruta(otro)) == LeeFichero(Ruta("a.dxf"))) << otro;
-}
-
-TEST_F(Ficheros, TheEndAsksAboutAPatternPlacedByHand) {
-  EnDialogo(LlenaYAcepta);
-  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
-    Pulsa(visor, "CmdDesplegado");
-    Pulsa(visor, "CmdExit");
-    EXPECT_TRUE(visor.isVisible()) << "stayed";
-    visor.close();
-  });
-  Coloca();
-  Contesta(305, 307);
-  EnDialogo(kCierra);
-  Abre();
-  EXPECT_TRUE(lista_->isVisible());
-  Contesta(305, 310);
-  Elige(Ruta("fin.dxf"));
-  usuario_.CierraMensaje("OK");
-  QTimer::singleShot(0, lista_.get(), [&] { Pulsa(*lista_, "CmdSalir"); });
-  EXPECT_EQ(QApplication::exec(), 0);
-  EXPECT_TRUE(LeeFichero(Ruta("fin.dxf"))) << "saved from behind";
 }
 
 TEST_F(Ficheros, FilesOpenAndWhatIsBrokenChangesNothing) {
@@ -252,12 +238,10 @@ TEST_F(Ficheros, FilesOpenAndWhatIsBrokenChangesNothing) {
       QTest::keyClick(&Hijo(ventana, "LstPiezas"), Qt::Key_Down);
       Pulsa(ventana, "CmdAceptar");
     });
-    EnDialogo(
-        [](QWidget& otro) {
-          EXPECT_EQ(Textos(otro), " 6        2");
-          otro.close();
-        },
-        "FrTransfRC");
+    usuario_.Cuando("FrTransfRC", [](QWidget& otro) {
+      EXPECT_EQ(Textos(otro), " 6        2");
+      otro.close();
+    });
     QTest::mouseClick(&Hijo(dialogo, "CmdAbre"), Qt::LeftButton, {}, {10, 10});
   });
   Abre();
@@ -267,12 +251,10 @@ TEST_F(Ficheros, FilesOpenAndWhatIsBrokenChangesNothing) {
     dialogo.close();
   });
   Suelta(Ruta("f.json"));
-  EnDialogo(
-      [](QWidget& dialogo) {
-        EXPECT_EQ(Textos(dialogo), "         3 1") << "a file's choice outlives the activation";
-        dialogo.close();
-      },
-      "FrTransBaRectBoElip");
+  usuario_.Cuando("FrTransBaRectBoElip", [](QWidget& dialogo) {
+    EXPECT_EQ(Textos(dialogo), "         3 1") << "a file's choice outlives the activation";
+    dialogo.close();
+  });
   Suelta(Escribe("h.json", R"({"name": "x", "piece": "TransElip", "Start": 3, "Pieces": 1})"));
   auto& menu = *Hijo<QToolButton>(*lista_, "CmdAbre").menu();
   emit menu.aboutToShow();
