@@ -1,5 +1,6 @@
 #include "dialogs/campo.h"
 
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 
 namespace duktores {
@@ -7,6 +8,19 @@ namespace duktores {
 namespace {
 
 bool EsCifra(char32_t tecla) { return tecla >= U'0' && tecla <= U'9'; }
+
+// Why a text can't be typed.
+int Falta(std::u32string_view texto, Filtro filtro) {
+  if (filtro == FiltraEntero) return texto::kSoloCifras;
+  const std::size_t marca = texto.find_first_of(U".,");
+  const bool dosMarcas = marca != texto.npos && texto.find_first_of(U".,", marca + 1) != texto.npos;
+  const auto* const signos = filtro == FiltraNumeroSigno ? U"0123456789.,-" : U"0123456789.,";
+  if (dosMarcas || texto.find_first_not_of(signos) != texto.npos) return texto::kSoloNumero;
+  const std::size_t signo = texto.rfind(U'-');
+  if (signo != texto.npos && signo > 0) return texto::kSignoDelante;
+  const bool sobran = marca != texto.npos && texto.size() - marca - 1 > static_cast<std::size_t>(Decimales());
+  return sobran ? texto::kDecimalesDeMas : texto::kSoloNumero;
+}
 
 // The count doesn't look at the caret: with all decimals present no digit passes before the point either.
 bool CabeCifra(const Campo& campo, std::size_t decimales) {
@@ -16,8 +30,10 @@ bool CabeCifra(const Campo& campo, std::size_t decimales) {
 
 }  // namespace
 
+int Decimales() { return estado.iUnidad == 1 ? 2 : 3; }
+
 char32_t FiltraNumero(char32_t tecla, const Campo& campo) {
-  const std::size_t decimales = estado.iUnidad == 1 ? 2 : 3;
+  const auto decimales = static_cast<std::size_t>(Decimales());
   const bool hayPunto = campo.texto.find('.') != std::string::npos;
   bool pasa = tecla == kRetroceso || tecla == kSaltoLinea;
   if (tecla == U'.') pasa = !campo.texto.empty() && (campo.TodoSeleccionado() || !hayPunto);
@@ -63,6 +79,17 @@ bool Teclea(char32_t tecla, Campo& campo, Filtro filtro) {
   largo = 0;
   if (filtrada != kRetroceso) texto.insert(inicio++, 1, static_cast<char>(filtrada));
   return true;
+}
+
+int TecleaTodo(std::u32string_view texto, Campo& campo, Filtro filtro) {
+  constexpr std::size_t kMaximo = 400;  // no number needs more, and each character looks at all those before it
+  Campo nuevo = campo;
+  for (const char32_t tecla : texto) {
+    if (texto.size() > kMaximo || tecla < U' ' || !Teclea(tecla, nuevo, filtro)) return Falta(texto, filtro);
+  }
+  if (filtro == FiltraNumeroSigno && !SignoEnSuSitio(nuevo)) return texto::kSignoDelante;
+  campo = nuevo;
+  return 0;
 }
 
 }  // namespace duktores

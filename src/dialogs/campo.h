@@ -3,6 +3,7 @@
 // the allowed decimals, 2 in millimetres and 3 in inches.
 
 #include <string>
+#include <string_view>
 
 namespace duktores {
 
@@ -36,5 +37,12 @@ char32_t FiltraTecla(char32_t tecla, const Campo& campo, Filtro filtro);
 
 /// Types one key into the field, at the selection or caret. False when it is dropped.
 bool Teclea(char32_t tecla, Campo& campo, Filtro filtro);
+
+/// Types a whole text that was copied elsewhere, or nothing of it. 0, or the number of the text that says what is wrong
+/// with it: texto::kDecimalesDeMas takes the allowed number of decimals for its "%1".
+int TecleaTodo(std::u32string_view texto, Campo& campo, Filtro filtro);
+
+/// Decimals that a number may have in the configured unit.
+int Decimales();
 
 }  // namespace duktores

@@ -1,6 +1,7 @@
 #pragma once
-// The dialogs as plain objects. A dialog is a table of fields, a table of checks and a function that stores the values
-// in `estado`; the window shows it, the batch program types into it. CmdAceptar answers what the user would see.
+// The dialogs as plain objects. A dialog is a table of fields, a table of checks, a function that makes a piece of the
+// values and one that stores it in `estado`; the window shows it, the batch program types into it. CmdAceptar answers
+// what the user would see.
 
 #include <array>
 #include <optional>
@@ -22,6 +23,10 @@ enum class Rotulo {
   textoDosPuntos,  ///< a text that ends in a colon, which Chinese leaves out
 };
 
+/// What a field is for: a size of the piece, an offset or a tilt, which are 0 in a straight one, or the divisions,
+/// which are `estado.iDivisiones` at first and not empty.
+enum class Uso { medida, desvio, divisiones };
+
 struct DefCampo {
   std::string_view nombre;   ///< of the control
   std::string_view palabra;  ///< on the label, and key of a job
@@ -29,7 +34,7 @@ struct DefCampo {
   int textoRotulo;                            ///< of `texto` and `textoDosPuntos`; of `angulo` in Chinese
   Filtro filtro;                              ///< null: a combo box, which the keyboard can't fill
   std::span<const std::string_view> valores;  ///< of a combo box
-  bool divisiones = false;                    ///< shows `estado.iDivisiones` at first, not empty
+  Uso uso = Uso::medida;
 };
 
 /// The numbers of the fields, in their order.
@@ -38,7 +43,13 @@ using Valores = std::vector<double>;
 struct Comprobacion {
   int campo;  ///< takes the focus when the check fails
   bool (*falla)(const Valores& v);
+  int texto;  ///< the rule in words: %1 to %3 are the names of `campos`, %0 is the number `limite`
+  std::array<int, 3> campos{};
+  double (*limite)(const Valores& v) = nullptr;
 };
+
+/// The greatest tilt, to either side.
+inline double AnguloMayor(const Valores&) { return 90; }
 
 struct DefDialogo {
   TipoPieza tipo;
@@ -52,9 +63,17 @@ struct DefDialogo {
   std::span<const Comprobacion> comprobaciones;
   bool opcionPiezas;  ///< has OpUnapieza and OpDosPiezas
   bool olvidaPiezas;  ///< each activation selects OpDosPiezas
-  /// Stores the values in `estado` under their names, and in the piece, which has type, surface, thickness and number
-  /// of pieces already.
-  void (*guarda)(const Valores& v, Pieza& pieza);
+  /// Puts the values into the piece, which has type, surface, thickness and number of pieces already. What a piece
+  /// takes from the one before it reads from `estado`.
+  void (*llena)(const Valores& v, Pieza& pieza);
+  /// Stores the values of the piece in `estado` under their names.
+  void (*guarda)(const Pieza& pieza);
+};
+
+/// What the fields make: a piece, or what keeps them from it in words, the field and its rule.
+struct Tecleada {
+  std::optional<Pieza> pieza;
+  std::string reparo;
 };
 
 enum class Respuesta { aceptado, campoVacio, datoErroneo };
@@ -74,7 +93,13 @@ class Dialogo {
   /// Takes one of a combo box's values; false for any other text.
   bool Elige(int campo, std::string_view valor);
 
+  /// Fills the empty offsets and tilts with 0.
+  void PonCeros();
+
   bool dosPiezas = true;
+
+  /// What CmdAceptar would make of the fields, or why it wouldn't; nothing is stored or shown.
+  Tecleada Lee() const;
 
   /// Checks the fields and stores them in `estado`, the accepted piece too. What is refused is told: an empty field by
   /// a message box, a failed check in lblerror(). Foco() is then the field to mend.
@@ -86,8 +111,17 @@ class Dialogo {
   const std::string& lblerror() const { return lblerror_; }
 
  private:
-  /// The numbers of all fields, or the index of the first that holds none.
-  std::optional<int> LeeCampos(Valores& v) const;
+  struct Reparo {
+    int campo;
+    const Comprobacion* regla;  // null: it holds no number
+  };
+
+  std::vector<int> Vacios() const;
+  /// Reads the numbers of all fields, which aren't empty, and checks them.
+  std::optional<Reparo> Comprueba(Valores& v) const;
+  Pieza PiezaDe(const Valores& v) const;
+  std::string NombreCampo(int campo) const;
+  std::string TextoDe(const Reparo& reparo, const Valores& v) const;
 
   const DefDialogo* def_;
   std::vector<Campo> campos_;

@@ -30,11 +30,11 @@ constexpr std::array kCampos1{
     DefCampo{"TxtLY1",         "LY1",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX2",         "LX2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY2",         "LY2",  Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos2{
@@ -42,11 +42,11 @@ constexpr std::array kCampos2{
     DefCampo{"TxtR",           "r",    Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "Lx",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos3{
@@ -54,11 +54,11 @@ constexpr std::array kCampos3{
     DefCampo{"TxtR",           "R",    Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "LX",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "LY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos4{
@@ -70,11 +70,11 @@ constexpr std::array kCampos4{
     DefCampo{"TxtR24",         "r24",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "Lx",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraNumero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraNumero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos5{
@@ -87,11 +87,11 @@ constexpr std::array kCampos5{
     DefCampo{"TxtLY1",         "Ly1",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX2",         "Lx2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY2",         "Ly2",  Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 // clang-format on
@@ -112,23 +112,39 @@ enum Indice : int { H, R11, R12, R13, R14, LX1, LY1, LX2, LY2, AX, AY, Alfa, Bet
 double N(const Valores& v, int campo) { return v[static_cast<std::size_t>(campo)]; }
 
 // Checks as templates over the fields that they compare.
+template <int Campo>
+double ValorDe(const Valores& v) {
+  return N(v, Campo);
+}
+template <int Campo>
+double MitadDe(const Valores& v) {
+  return N(v, Campo) / 2;
+}
+double DivisionMayor(const Valores&) { return kMaximoDivisiones; }
+
 template <int A, int B, int Limite>
-bool SumaExcede(const Valores& v) {
-  return N(v, A) + N(v, B) > N(v, Limite);
+constexpr Comprobacion SumaHasta(int campo = A) {
+  const auto falla = [](const Valores& v) { return N(v, A) + N(v, B) > ValorDe<Limite>(v); };
+  return {campo, falla, texto::kSumaHasta, {A, B, Limite}, ValorDe<Limite>};
 }
 template <int A, int Limite>
-bool ExcedeMitad(const Valores& v) {
-  return N(v, A) > N(v, Limite) / 2;
+constexpr Comprobacion HastaMitad() {
+  const auto falla = [](const Valores& v) { return N(v, A) > MitadDe<Limite>(v); };
+  return {A, falla, texto::kHastaMitad, {Limite}, MitadDe<Limite>};
 }
 template <int Angulo>
-bool FueraDeAngulo(const Valores& v) {
-  return N(v, Angulo) < -90 || N(v, Angulo) > 90;
+constexpr Comprobacion EntreAngulos() {
+  const auto falla = [](const Valores& v) { return std::abs(N(v, Angulo)) > AnguloMayor(v); };
+  return {Angulo, falla, texto::kEntreAngulos, {}, AnguloMayor};
 }
 // 36 steps for each division must fit a 16-bit count.
 template <int Divisiones>
-bool MalasDivisiones(const Valores& v) {
-  const double divisiones = std::nearbyint(N(v, Divisiones));
-  return divisiones < 4 || divisiones > kMaximoDivisiones || std::fmod(divisiones, 4) != 0;
+constexpr Comprobacion Multiplo() {
+  const auto falla = [](const Valores& v) {
+    const double divisiones = std::nearbyint(N(v, Divisiones));
+    return divisiones < 4 || divisiones > DivisionMayor(v) || std::fmod(divisiones, 4) != 0;
+  };
+  return {Divisiones, falla, texto::kMultiploDe4, {}, DivisionMayor};
 }
 
 // Whether the tilt carries the mouth below the base. A fine division is checked with fewer steps.
@@ -179,60 +195,50 @@ Bocas Bocas5(const Valores& v, double c) {
 }
 
 template <Bocas (*bocas)(const Valores&, double)>
-bool Corta(const Valores& v) {
-  const auto [H, AX, AY, Alfa, Beta, divisiones] = ComunesDe(v);
-  return CortaLaBase({bocas(v, 0), H, AX, AY, Alfa, Beta}, divisiones);
+constexpr Comprobacion SobreBase(int campo) {
+  const auto falla = [](const Valores& v) {
+    const auto [H, AX, AY, Alfa, Beta, divisiones] = ComunesDe(v);
+    return CortaLaBase({bocas(v, 0), H, AX, AY, Alfa, Beta}, divisiones);
+  };
+  return {campo, falla, texto::kBajoBase};
 }
 
 namespace esp1 {
 constexpr std::array kComprobaciones{
-    Comprobacion{R11, SumaExcede<R11, R12, LY1>},
-    Comprobacion{R12, SumaExcede<R12, R13, LX1>},
-    Comprobacion{R13, SumaExcede<R13, R14, LY1>},
-    Comprobacion{R14, SumaExcede<R14, R11, LX1>},
-    Comprobacion{R21, SumaExcede<R21, R22, LY2>},
-    Comprobacion{R22, SumaExcede<R22, R23, LX2>},
-    Comprobacion{R23, SumaExcede<R23, R24, LY2>},
-    Comprobacion{R24, SumaExcede<R21, R24, LX2>},
-    Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},
-    Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    SumaHasta<R11, R12, LY1>(), SumaHasta<R12, R13, LX1>(), SumaHasta<R13, R14, LY1>(), SumaHasta<R14, R11, LX1>(),
+    SumaHasta<R21, R22, LY2>(), SumaHasta<R22, R23, LX2>(), SumaHasta<R23, R24, LY2>(), SumaHasta<R21, R24, LX2>(R24),
+    EntreAngulos<Alfa>(),       EntreAngulos<Beta>(),       Multiplo<Divisiones>(),
 };
 }  // namespace esp1
 
 namespace esp2 {
 constexpr std::array kComprobaciones{
-    Comprobacion{LY, [](const Valores& v) { return N(v, LY) > N(v, LX); }},
-    Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},
-    Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    Comprobacion{LY, [](const Valores& v) { return N(v, LY) > N(v, LX); }, texto::kHasta, {LX}, ValorDe<LX>},
+    EntreAngulos<Alfa>(),
+    EntreAngulos<Beta>(),
+    Multiplo<Divisiones>(),
 };
 constexpr std::array kComprobaciones3{
-    Comprobacion{Alfa, Corta<Bocas3>},
-    Comprobacion{LY, [](const Valores& v) { return N(v, LY) / 2 > N(v, LX); }},
-    Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},
-    Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    SobreBase<Bocas3>(Alfa),
+    Comprobacion{LY, [](const Valores& v) { return MitadDe<LY>(v) > N(v, LX); }, texto::kMitadHasta, {LX}, ValorDe<LX>},
+    EntreAngulos<Alfa>(),
+    EntreAngulos<Beta>(),
+    Multiplo<Divisiones>(),
 };
 }  // namespace esp2
 
 namespace esp4 {
 constexpr std::array kComprobaciones{
-    Comprobacion{Alfa, Corta<Bocas4>},           Comprobacion{R21, SumaExcede<R21, R22, LY>},
-    Comprobacion{R22, SumaExcede<R22, R23, LX>}, Comprobacion{R23, SumaExcede<R23, R24, LY>},
-    Comprobacion{R24, SumaExcede<R21, R24, LX>}, Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},     Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    SobreBase<Bocas4>(Alfa),      SumaHasta<R21, R22, LY>(), SumaHasta<R22, R23, LX>(), SumaHasta<R23, R24, LY>(),
+    SumaHasta<R21, R24, LX>(R24), EntreAngulos<Alfa>(),      EntreAngulos<Beta>(),      Multiplo<Divisiones>(),
 };
 }  // namespace esp4
 
 namespace esp5 {
 constexpr std::array kComprobaciones{
-    Comprobacion{Alfa, Corta<Bocas5>},        Comprobacion{R11, ExcedeMitad<R11, LY1>},
-    Comprobacion{R12, ExcedeMitad<R12, LY1>}, Comprobacion{R13, ExcedeMitad<R13, LY1>},
-    Comprobacion{R14, ExcedeMitad<R14, LY1>}, Comprobacion{R11, ExcedeMitad<R11, LX1>},
-    Comprobacion{R12, ExcedeMitad<R12, LX1>}, Comprobacion{R13, ExcedeMitad<R13, LX1>},
-    Comprobacion{R14, ExcedeMitad<R14, LX1>}, Comprobacion{Alfa, FueraDeAngulo<Alfa>},
-    Comprobacion{Beta, FueraDeAngulo<Beta>},  Comprobacion{Divisiones, MalasDivisiones<Divisiones>},
+    SobreBase<Bocas5>(Alfa), HastaMitad<R11, LY1>(), HastaMitad<R12, LY1>(), HastaMitad<R13, LY1>(),
+    HastaMitad<R14, LY1>(),  HastaMitad<R11, LX1>(), HastaMitad<R12, LX1>(), HastaMitad<R13, LX1>(),
+    HastaMitad<R14, LX1>(),  EntreAngulos<Alfa>(),   EntreAngulos<Beta>(),   Multiplo<Divisiones>(),
 };
 }  // namespace esp5
 
@@ -248,22 +254,26 @@ void Nombra23(const Bocas& bocas) {
   estado.dRadioEsp2 = bocas.abajo.r(3);
 }
 
-// Half a thickness inwards or outwards, for radii and sides alike. The angles are held negated.
-template <Bocas (*bocas)(const Valores&, double), void (*nombra)(const Bocas&)>
-void Guarda(const Valores& v, Pieza& pieza) {
+// Half a thickness inwards or outwards, for radii and sides alike.
+template <Bocas (*bocas)(const Valores&, double)>
+void Llena(const Valores& v, Pieza& pieza) {
   const auto fibra = CorreccionFibra(pieza.fibra, pieza.espesor);
   pieza.entradas = bocas(v, 0);
   pieza.corregidas = bocas(v, fibra ? fibra->radio : 0);
   const auto comunes = ComunesDe(v);
+  std::tie(pieza.H, pieza.AX, pieza.AY) = std::tie(comunes.H, comunes.AX, comunes.AY);
+  std::tie(pieza.Alfa, pieza.Beta) = std::tie(comunes.Alfa, comunes.Beta);
+  pieza.divisiones = EnteroCorto(comunes.divisiones);
+}
+
+// The angles are held negated.
+template <void (*nombra)(const Bocas&)>
+void Guarda(const Pieza& pieza) {
   EstadoPrograma& e = estado;
-  pieza.H = e.dAltura = comunes.H;
-  pieza.AX = e.dAx = comunes.AX;
-  pieza.AY = e.dAy = comunes.AY;
-  pieza.Alfa = comunes.Alfa;
-  pieza.Beta = comunes.Beta;
-  e.dAlfa = -comunes.Alfa;
-  e.dBeta = -comunes.Beta;
-  pieza.divisiones = e.iDivisiones = EnteroCorto(comunes.divisiones);
+  std::tie(e.dAltura, e.dAx, e.dAy) = std::tie(pieza.H, pieza.AX, pieza.AY);
+  e.dAlfa = -pieza.Alfa;
+  e.dBeta = -pieza.Beta;
+  e.iDivisiones = static_cast<std::int16_t>(pieza.divisiones);
   const auto& [arriba, abajo] = pieza.corregidas;
   std::tie(e.dLX1, e.dLY1, e.dLX2, e.dLY2) = std::tuple(arriba.LX, arriba.LY, abajo.LX, abajo.LY);
   nombra(pieza.corregidas);
@@ -272,7 +282,7 @@ void Guarda(const Valores& v, Pieza& pieza) {
 // All but the texts, tables and the storing is the same in the five.
 constexpr DefDialogo Especial(TipoPieza tipo, std::string_view nombre, std::string_view clave, int titulo, int error,
                               std::span<const DefCampo> campos, std::span<const Comprobacion> comprobaciones,
-                              void (*guarda)(const Valores&, Pieza&)) {
+                              void (*llena)(const Valores&, Pieza&), void (*guarda)(const Pieza&)) {
   return {.tipo = tipo,
           .nombre = nombre,
           .clave = clave,
@@ -284,6 +294,7 @@ constexpr DefDialogo Especial(TipoPieza tipo, std::string_view nombre, std::stri
           .comprobaciones = comprobaciones,
           .opcionPiezas = false,
           .olvidaPiezas = false,
+          .llena = llena,
           .guarda = guarda};
 }
 
@@ -291,15 +302,15 @@ constexpr DefDialogo Especial(TipoPieza tipo, std::string_view nombre, std::stri
 
 // clang-format off
 constexpr DefDialogo kFrTransfEsp1 = Especial(TipoPieza::esp1, "FrTransfEsp1", "TransEsp1", texto::kTransEsp1,
-    texto::kDatoErroneo,     kCampos1, esp1::kComprobaciones,  Guarda<Bocas1, Nombra15>);
+    texto::kDatoErroneo,     kCampos1, esp1::kComprobaciones,  Llena<Bocas1>, Guarda<Nombra15>);
 constexpr DefDialogo kFrTansfEsp2 = Especial(TipoPieza::esp2, "FrTansfEsp2", "TransEsp2", texto::kTransEsp2,
-    texto::kDatoErroneo,     kCampos2, esp2::kComprobaciones,  Guarda<Bocas2, Nombra23>);
+    texto::kDatoErroneo,     kCampos2, esp2::kComprobaciones,  Llena<Bocas2>, Guarda<Nombra23>);
 constexpr DefDialogo kFrTransfEsp3 = Especial(TipoPieza::esp3, "FrTransfEsp3", "TransEsp3", texto::kTransEsp3,
-    texto::kDatoErroneoEsp3, kCampos3, esp2::kComprobaciones3, Guarda<Bocas3, Nombra23>);
+    texto::kDatoErroneoEsp3, kCampos3, esp2::kComprobaciones3, Llena<Bocas3>, Guarda<Nombra23>);
 constexpr DefDialogo kFrTransEsp4 = Especial(TipoPieza::esp4, "FrTransEsp4", "TransEsp4", texto::kTransEsp4,
-    texto::kDatoErroneo,     kCampos4, esp4::kComprobaciones,  Guarda<Bocas4, Nombra15>);
+    texto::kDatoErroneo,     kCampos4, esp4::kComprobaciones,  Llena<Bocas4>, Guarda<Nombra15>);
 constexpr DefDialogo kFrTransEspe5 = Especial(TipoPieza::esp5, "FrTransEspe5", "TransEsp5", texto::kTransEsp5,
-    texto::kDatoErroneo,     kCampos5, esp5::kComprobaciones,  Guarda<Bocas5, Nombra15>);
+    texto::kDatoErroneo,     kCampos5, esp5::kComprobaciones,  Llena<Bocas5>, Guarda<Nombra15>);
 // clang-format on
 
 }  // namespace duktores

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "dialogs/combos.h"
 #include "piece/numeros_texto.h"
@@ -26,9 +27,9 @@ constexpr Campos CamposDe(std::array<std::string_view, 3> nombres, std::array<st
       {nombres[0],   palabras[0], Rotulo::longitud,        0,   FiltraNumero,      {}},
       {nombres[1],   palabras[1], Rotulo::longitud,        0,   FiltraNumero,      {}},
       {nombres[2],   palabras[2], Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAX",      "AX",        Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAY",      "AY",        Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         texto::kAlfaChino,      FiltraNumeroSigno, {}},
+      {"TxtAX",      "AX",        Rotulo::longitud,        0,   FiltraNumero,      {}, Uso::desvio},
+      {"TxtAY",      "AY",        Rotulo::longitud,        0,   FiltraNumero,      {}, Uso::desvio},
+      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         texto::kAlfaChino,      FiltraNumeroSigno, {}, Uso::desvio},
       {"CmbDivi",    "Divisions", Rotulo::texto,          texto::kDivisiones,     nullptr,           kDivisiones},
       {"CmbPosIni",  "Start",     Rotulo::textoDosPuntos, texto::kPosicionInicio, nullptr,           kPosiciones},
   }};
@@ -37,55 +38,74 @@ constexpr Campos CamposDe(std::array<std::string_view, 3> nombres, std::array<st
 constexpr Campos kCamposCR = CamposDe({"TxtRS", "TxtLI", "TxtAI"}, {"RS", "LI", "AI"});
 constexpr Campos kCamposRC = CamposDe({"TxtRI", "TxtLS", "TxtAS"}, {"RI", "LS", "AS"});
 
-constexpr Comprobaciones ComprobacionesDe(bool (*circuloFalla)(const Valores& v)) {
+double LadoMayor(const Valores& v) { return std::max(v[L1], v[L2]); }
+double LadoMenor(const Valores& v) { return std::min(v[L1], v[L2]); }
+
+constexpr Comprobaciones ComprobacionesDe(bool (*circuloFalla)(const Valores& v), int texto,
+                                          double (*limite)(const Valores& v)) {
   return {{
-      {H, [](const Valores& v) { return v[H] == 0; }},
-      {R, [](const Valores& v) { return v[R] == 0; }},
-      {L1, [](const Valores& v) { return v[L1] == 0; }},
-      {L2, [](const Valores& v) { return v[L2] == 0; }},
-      {R, circuloFalla},
-      {Alfa, [](const Valores& v) { return v[Alfa] < -90 || v[Alfa] > 90; }},
+      {H, [](const Valores& v) { return v[H] == 0; }, texto::kNoCero},
+      {R, [](const Valores& v) { return v[R] == 0; }, texto::kNoCero},
+      {L1, [](const Valores& v) { return v[L1] == 0; }, texto::kNoCero},
+      {L2, [](const Valores& v) { return v[L2] == 0; }, texto::kNoCero},
+      {R, circuloFalla, texto, {L1, L2}, limite},
+      {Alfa,
+       [](const Valores& v) { return std::abs(v[Alfa]) > AnguloMayor(v); },
+       texto::kEntreAngulos,
+       {},
+       AnguloMayor},
   }};
 }
 constexpr Comprobaciones kComprobacionesCR =
-    ComprobacionesDe([](const Valores& v) { return 2 * v[R] > std::max(v[L1], v[L2]); });
+    ComprobacionesDe([](const Valores& v) { return 2 * v[R] > LadoMayor(v); }, texto::kDobleHastaMayor, LadoMayor);
 constexpr Comprobaciones kComprobacionesRC =
-    ComprobacionesDe([](const Valores& v) { return 2 * v[R] < std::min(v[L1], v[L2]); });
+    ComprobacionesDe([](const Valores& v) { return 2 * v[R] < LadoMenor(v); }, texto::kDobleDesdeMenor, LadoMenor);
 
 // The names of `estado` that a dialog stores its rectangle and its circle under.
 struct Nombres {
-  double &lado1, &lado2, &radio;
+  double EstadoPrograma::*lado1, EstadoPrograma::*lado2, EstadoPrograma::*radio;
+  Boca Bocas::*rectangulo, Bocas::*circulo;
 };
+constexpr Nombres kNombresCR{&EstadoPrograma::dL1Base, &EstadoPrograma::dL2Base, &EstadoPrograma::dRadioAlto,
+                             &Bocas::abajo, &Bocas::arriba};
+constexpr Nombres kNombresRC{&EstadoPrograma::dL1BaseRC, &EstadoPrograma::dL2BaseRC, &EstadoPrograma::dRadioRC,
+                             &Bocas::arriba, &Bocas::abajo};
 
 // Without a known surface the sizes stored before stay, and are those of the piece.
-void Guarda(const Valores& v, Pieza& pieza, Nombres nombres, Boca Bocas::*rectangulo, Boca Bocas::*circulo) {
+template <const Nombres& nombres>
+void Llena(const Valores& v, Pieza& pieza) {
   const auto pon = [&](Bocas& bocas, double lado1, double lado2, double radio) {
-    bocas.*rectangulo = {lado1, lado2, {}};
-    bocas.*circulo = Circulo(radio);
+    bocas.*nombres.rectangulo = {lado1, lado2, {}};
+    bocas.*nombres.circulo = Circulo(radio);
   };
-  pon(pieza.entradas, nombres.lado1, nombres.lado2, nombres.radio);
   if (const auto fibra = CorreccionFibra(pieza.fibra, pieza.espesor)) {
     pon(pieza.entradas, v[L1], v[L2], v[R]);
-    nombres.lado1 = v[L1] + fibra->lado;
-    nombres.lado2 = v[L2] + fibra->lado;
-    nombres.radio = v[R] + fibra->radio;
+    pon(pieza.corregidas, v[L1] + fibra->lado, v[L2] + fibra->lado, v[R] + fibra->radio);
+  } else {
+    pon(pieza.corregidas, estado.*nombres.lado1, estado.*nombres.lado2, estado.*nombres.radio);
+    pieza.entradas = pieza.corregidas;
   }
-  pon(pieza.corregidas, nombres.lado1, nombres.lado2, nombres.radio);
-  pieza.H = estado.dAltura = v[H];
-  pieza.AX = estado.dAx = v[AX];
-  pieza.AY = estado.dAy = v[AY];
-  pieza.Alfa = estado.dAlfa = v[Alfa];
-  pieza.inicio = estado.iPosIni = EnteroCorto(v[PosIni]);
-  pieza.divisiones = estado.iDivisiones = EnteroCorto(v[Divi]);
+  pieza.H = v[H];
+  pieza.AX = v[AX];
+  pieza.AY = v[AY];
+  pieza.Alfa = v[Alfa];
+  pieza.inicio = EnteroCorto(v[PosIni]);
+  pieza.divisiones = EnteroCorto(v[Divi]);
+}
+
+template <const Nombres& nombres>
+void Guarda(const Pieza& pieza) {
+  const Boca& rectangulo = pieza.corregidas.*nombres.rectangulo;
+  estado.*nombres.lado1 = rectangulo.LX;
+  estado.*nombres.lado2 = rectangulo.LY;
+  estado.*nombres.radio = (pieza.corregidas.*nombres.circulo).r(1);
+  estado.dAltura = pieza.H;
+  estado.dAx = pieza.AX;
+  estado.dAy = pieza.AY;
+  estado.dAlfa = pieza.Alfa;
+  estado.iPosIni = static_cast<std::int16_t>(pieza.inicio);
+  estado.iDivisiones = static_cast<std::int16_t>(pieza.divisiones);
   estado.bDosPiezas = pieza.dosPiezas;
-}
-
-void GuardaCR(const Valores& v, Pieza& pieza) {
-  Guarda(v, pieza, {estado.dL1Base, estado.dL2Base, estado.dRadioAlto}, &Bocas::abajo, &Bocas::arriba);
-}
-
-void GuardaRC(const Valores& v, Pieza& pieza) {
-  Guarda(v, pieza, {estado.dL1BaseRC, estado.dL2BaseRC, estado.dRadioRC}, &Bocas::arriba, &Bocas::abajo);
 }
 
 }  // namespace
@@ -101,7 +121,8 @@ constexpr DefDialogo kFrTransfCR{.tipo = TipoPieza::cr,
                                  .comprobaciones = kComprobacionesCR,
                                  .opcionPiezas = true,
                                  .olvidaPiezas = false,
-                                 .guarda = GuardaCR};
+                                 .llena = Llena<kNombresCR>,
+                                 .guarda = Guarda<kNombresCR>};
 constexpr DefDialogo kFrTransfRC{.tipo = TipoPieza::rc,
                                  .nombre = "FrTransfRC",
                                  .clave = "TransRC",
@@ -113,6 +134,7 @@ constexpr DefDialogo kFrTransfRC{.tipo = TipoPieza::rc,
                                  .comprobaciones = kComprobacionesRC,
                                  .opcionPiezas = true,
                                  .olvidaPiezas = false,
-                                 .guarda = GuardaRC};
+                                 .llena = Llena<kNombresRC>,
+                                 .guarda = Guarda<kNombresRC>};
 
 }  // namespace duktores

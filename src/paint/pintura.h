@@ -6,9 +6,12 @@
 //
 // Texts need a QGuiApplication; apart from that everything works in any thread.
 
+#include <QLineF>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
+#include <optional>
+#include <span>
 #include <string>
 
 #include "geometry/puntos.h"
@@ -19,6 +22,7 @@ class QPainter;
 namespace duktores {
 
 class EWdraw;
+struct Entidad;
 
 /// The axes of the viewing plane as unit vectors of the model.
 struct Base3 {
@@ -36,6 +40,7 @@ struct Encuadre {
 
   QPointF AlDispositivo(QPointF plano, QSizeF lienzo) const;
   QPointF DelDispositivo(QPointF punto, QSizeF lienzo) const;
+  friend bool operator==(const Encuadre&, const Encuadre&) = default;
 };
 
 /// Light paper (dark ink for colours that would not show) or the dark drawing area of the screen.
@@ -45,6 +50,10 @@ enum class Fondo { claro, oscuro };
 QRectF ExtensionPintada(const EWdraw& axew);
 /// Fits the model into `lienzo` with a margin; an empty model gives a sensible default region.
 Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo);
+/// The same of a rectangle of the viewing plane.
+Encuadre Ajusta(QRectF zona, QSizeF lienzo);
+/// The part of a line inside a rectangle.
+std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja);
 /// A page of a printer has so many device units to an inch as its resolution; a pixel of a picture counts as one of
 /// 144.
 inline constexpr double kPorPulgada = 144;
@@ -53,6 +62,9 @@ inline constexpr double kPorPulgada = 144;
 /// outlines more.
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
            double porPulgada = kPorPulgada);
+/// Paints entities over what is there, seen from above.
+void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,
+                    Fondo fondo);
 
 enum class Formato { png, svg, pdf };
 /// The ending of its files, with the point.

@@ -75,8 +75,9 @@ QRectF ExtensionPintada(const EWdraw& axew) {
   return {QPointF(caja.minimo.x, caja.minimo.y), QPointF(caja.maximo.x, caja.maximo.y)};
 }
 
-Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo) {
-  QRectF zona = ExtensionPintada(axew);
+Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo) { return Ajusta(ExtensionPintada(axew), lienzo); }
+
+Encuadre Ajusta(QRectF zona, QSizeF lienzo) {
   if (zona.isNull()) zona.adjust(-500, -500, 500, 500);  // nothing, or a single point
   const double margen = 0.04 * std::min(lienzo.width(), lienzo.height());
   const double ancho = lienzo.width() - 2 * margen, alto = lienzo.height() - 2 * margen;
@@ -84,6 +85,20 @@ Encuadre Ajusta(const EWdraw& axew, QSizeF lienzo) {
   encuadre.escala = std::min(ancho / zona.width(), alto / zona.height());
   encuadre.centro = {zona.left() + zona.width() / 2, zona.top() + zona.height() / 2};
   return std::isfinite(encuadre.escala) && encuadre.escala > 0 ? encuadre : Encuadre{};
+}
+
+std::optional<QLineF> Recorta(const QLineF& linea, const QRectF& caja) {
+  double desde = 0, hasta = 1;
+  const auto dentro = [&](double paso, double sitio) {
+    if (paso == 0) return sitio >= 0;
+    (paso < 0 ? desde : hasta) = paso < 0 ? std::max(desde, sitio / paso) : std::min(hasta, sitio / paso);
+    return desde <= hasta;
+  };
+  if (!dentro(-linea.dx(), linea.x1() - caja.left()) || !dentro(linea.dx(), caja.right() - linea.x1()) ||
+      !dentro(-linea.dy(), linea.y1() - caja.top()) || !dentro(linea.dy(), caja.bottom() - linea.y1())) {
+    return std::nullopt;
+  }
+  return QLineF(linea.pointAt(desde), linea.pointAt(hasta));
 }
 
 }  // namespace duktores

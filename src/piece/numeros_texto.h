@@ -77,6 +77,20 @@ inline constexpr int kEscrito = 179;         ///< names and folder follow
 inline constexpr int kCortarIgual = 180;     ///< a question
 inline constexpr int kReemplazarEsos = 181;  ///< likewise; names follow
 inline constexpr int kCorteViejo = 182;      ///< names follow
+
+// Placing.
+inline constexpr int kDeCuantas = 200, kPonTodas = 201, kPonTodasAyuda = 202, kNombres = 203, kSolapan = 204;
+inline constexpr int kPonJunta = 205, kDeshace = 206, kRehace = 207;  ///< of the page of the keys
+
+// What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
+inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
+inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;
+inline constexpr int kSumaHasta = 227, kHastaMitad = 228, kHasta = 229, kMitadHasta = 230, kMultiploDe4 = 231;
+inline constexpr int kBajoBase = 232;
+
+// The solid as it is looked at.
+inline constexpr int kDesdeEsquina = 233, kAlambre = 234, kSolidoODesarrollo = 235, kBoca = 236, kBase = 237;
+
 // The settings: what the window says, its rows and what they mean, choices, limits.
 inline constexpr int kNombreIdioma = 240;  ///< each language's own name
 inline constexpr int kAjustes = 241, kPiezasYDibujos = 242, kMaquina = 243;
@@ -94,5 +108,22 @@ inline constexpr int kSeGuardan = 276;         ///< the file that keeps the sett
 inline constexpr int kCapaCorte = 277, kCapaArriba = 278, kCapaAbajo = 279, kCapaMarcas = 280;
 inline constexpr int kDoblecesCorte = 281, kNombreMarcado = 282, kTolerancia = 283, kDoblezMinimo = 284;
 inline constexpr int kArcos = 285, kUnFichero = 286, kNinguno = 287, kLineasEnteras = 288, kTrazos = 289;
+
+// Values and files of pieces.
+inline constexpr int kUltimosValores = 290, kCeros = 291, kAbrePieza = 292, kGuardaPieza = 293, kEligePieza = 294;
+inline constexpr int kSinPiezas = 295, kDemasiadoGrande = 296, kNoSeLee = 297, kValorNoSirve = 298;
+inline constexpr int kPiezaDesconocida = 299, kAnade = 300, kReemplaza = 301, kYaHayPiezas = 302;
+inline constexpr int kNombrePieza = 303, kNombreMalo = 304, kPiezaIlegible = 308, kSinFichero = 309;
+// The end of the program with a pattern that isn't saved.
+inline constexpr int kSinGuardar = 305, kDescarta = 306, kSeQueda = 307, kGuardaYSale = 310;
+
+// What is wrong with a text that was to go into a field.
+inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322, kSignoDelante = 323;
+
+// The page of the keys: its title, its headings, and what no button's text says.
+inline constexpr int kAyuda = 324, kCatalogo = 325, kMedidas = 326, kVisor = 327, kTodas = 328;
+inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, kVistasFijas = 332, kPulsaBoton = 333;
+
+inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
 
 }  // namespace duktores::texto

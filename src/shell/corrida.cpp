@@ -7,7 +7,6 @@
 
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
-#include "sheet/hoja.h"
 #include "shell/lista.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
@@ -75,22 +74,23 @@ FormatoHoja FormatoDeEstado() {
           .espesor = e.dEspesor};
 }
 
-namespace {
-
-// Of the accepted piece, unfolded by `hace`.
-template <class Hace>
-Corrida Corre(EWdraw& axew, Hace hace) {
-  if (!estado.pieza) return {};
+Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide) {
+  Corrida corrida;
+  if (!estado.pieza) return corrida;
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
   try {
     Desarrollo desarrollo = hace();
     if (estado.pieza->regla == Regla::exacta) estado.oDrawing->UnaVez();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
-    const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
-    return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
+    const auto anota = [&, &sitios = corrida.sitios](const Encargo& encargo) {
+      sitios.push_back(pide(encargo));
+      return sitios.back();
+    };
+    corrida.hoja = DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), anota);
+    corrida.fin = FinCorrida::completo;
   } catch (const EleccionRechazada&) {
-    return {FinCorrida::eleccionRechazada, {}};
+    corrida.fin = FinCorrida::eleccionRechazada;
   } catch (const ErrorCorrida& error) {
     MuestraMensaje(Texto(error.NumeroTexto()), EstiloMensaje::exclamacion, "");
   } catch (const std::bad_alloc&) {
@@ -98,17 +98,17 @@ Corrida Corre(EWdraw& axew, Hace hace) {
   } catch (const std::exception&) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
-  return {};
+  return corrida;
 }
 
-}  // namespace
-
 Corrida Despliega(EWdraw& axew) {
-  return Corre(axew, [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); });
+  const auto hace = [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); };
+  return Despliega(axew, hace, [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); });
 }
 
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
-  return Corre(axew, [&] { return std::move(desarrollo); });
+  const auto hace = [&] { return std::move(desarrollo); };
+  return Despliega(axew, hace, [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); });
 }
 
 }  // namespace duktores

@@ -2,8 +2,12 @@
 // The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
 // type it is. Without one nothing is drawn.
 
+#include <functional>
+#include <vector>
+
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
+#include "sheet/hoja.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -27,7 +31,8 @@ enum class FinCorrida { completo, eleccionRechazada, error };
 
 struct Corrida {
   FinCorrida fin = FinCorrida::error;
-  Patron hoja;  ///< of a complete one: the pattern as it stands on the sheet
+  Patron hoja{};                 ///< of a complete one: the pattern as it stands on the sheet
+  std::vector<Punto2> sitios{};  ///< the places that its shapes and blocks have got, in the order in which it asks
 };
 
 /// Unfolds the accepted piece into the emptied control and a new `estado.oDrawing`. Never throws: a refused pick ends
@@ -35,5 +40,8 @@ struct Corrida {
 Corrida Despliega(EWdraw& axew);
 /// The same of a pattern that has been made already.
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);
+/// The same with a pattern that `hace` makes or has, and places that `pide` gives; what either throws ends the run.
+using HaceDesarrollo = std::function<Desarrollo()>;
+Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide);
 
 }  // namespace duktores

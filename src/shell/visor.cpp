@@ -29,6 +29,7 @@ constexpr std::array kVistas{
     VistaFija{"cmdisoright", "F8",  texto::kIsoDerecha,     { 1,  0,  1}},
     VistaFija{"CmdIsoclear", "F9",  texto::kIsoDetras,      { 0,  1,  1}},
     VistaFija{"cmdisoleft",  "F10", texto::kIsoIzquierda,   {-1,  0,  1}},
+    VistaFija{"cmdCorner",   "F11", texto::kDesdeEsquina,   { 1, -1,  0.8}},
 };
 // clang-format on
 
@@ -73,10 +74,21 @@ Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo) {
   return corrida;
 }
 
+Corrida Desplegado(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide) {
+  PreparaHoja(axew);
+  Corrida corrida = Despliega(axew, hace, pide);
+  CursorEspera(false);
+  return corrida;
+}
+
 std::string NombreDxf(const std::string& elegido) {
-  const std::size_t nombre = elegido.rfind('/') + 1, punto = elegido.rfind('.');
-  if (punto == std::string::npos || punto <= nombre) return elegido + ".dxf";
-  return punto + 1 == elegido.size() ? elegido + "dxf" : elegido;
+  constexpr std::string_view kFinal = ".dxf";
+  const auto igual = [](char a, char b) { return a == b || (a >= 'A' && a <= 'Z' && a - 'A' + 'a' == b); };
+  const std::size_t nombre = elegido.size() - (elegido.rfind('/') + 1);
+  const bool lleva = nombre > kFinal.size() &&
+                     std::equal(elegido.end() - kFinal.size(), elegido.end(), kFinal.begin(), kFinal.end(), igual);
+  if (lleva) return elegido;
+  return elegido + (elegido.ends_with('.') && nombre > 1 ? "dxf" : ".dxf");
 }
 
 bool GuardaDibujo(std::string elegido) {

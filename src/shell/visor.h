@@ -27,8 +27,9 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 /// piece, or draws what it unfolds to.
 Corrida Desplegado(EWdraw& axew);
 Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
+Corrida Desplegado(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide);
 
-/// The name that a drawing gets: with the ending ".dxf" if it has none.
+/// The name that a drawing gets: with the ending ".dxf", which a name may have in capitals too.
 std::string NombreDxf(const std::string& elegido);
 
 /// The save command behind its dialog: writes the drawing of the last unfolding to the `NombreDxf` of `elegido`, and to

@@ -21,12 +21,13 @@ class cDXF;
 
 struct EstadoPrograma {
   // Places and host, set at start-up. Paths of folders end in a separator.
-  std::string sRutaPrograma;  ///< folder of the executable: Images, Template and the scratch file lie here
-  std::string sRutaBase;      ///< installation root
-  std::string sRutaIni;       ///< configuration file
-  std::string sRutaPropia;    ///< the user's own file; empty: nothing is kept between two runs
-  Ventana hVentanaHost = 0;   ///< foreground window at start
-  bool bComaDecimal = false;  ///< the system's decimal separator is a comma
+  std::string sRutaPrograma;     ///< folder of the executable: Images, Template and the scratch file lie here
+  std::string sRutaBase;         ///< installation root
+  std::string sRutaIni;          ///< configuration file
+  std::string sRutaPropia;       ///< the user's own file; empty: nothing is kept between two runs
+  std::string sCarpetaGuardada;  ///< folder of the last save of this program run
+  Ventana hVentanaHost = 0;      ///< foreground window at start
+  bool bComaDecimal = false;     ///< the system's decimal separator is a comma
 
   // Configuration.
   double dIdioma = 0;             ///< base of the text ids: 0, 10000 .. 60000

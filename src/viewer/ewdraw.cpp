@@ -174,13 +174,18 @@ void EWdraw::EwInicia(bool inicia) {
 // Mode 1, a parallel view along a direction, is the only one there is.
 void EWdraw::EwViewMode(std::int32_t) {}
 
+void EWdraw::CambiaModelo(EWdraw& otro) {
+  std::swap(entidades_, otro.entidades_);
+  std::swap(ultimoId_, otro.ultimoId_);
+  std::swap(direccionVista_, otro.direccionVista_);
+}
 void EWdraw::EwViewDirection(double x, double y, double z) {
   const double largo = std::hypot(x, y, z);
   if (largo > 0 && std::isfinite(largo)) direccionVista_ = {x, y, z};
 }
 
 void EWdraw::EwRegen() {
-  if (vista_) vista_->Regenera(*this);
+  if (vista_ && !callado_) vista_->Regenera(*this);
 }
 
 void EWdraw::EwPickPoint(double& x, double& y, double& z) {

@@ -9,7 +9,16 @@
 #include <QMimeData>
 #include <QTimer>
 
+#include "piece/numeros_texto.h"
+#include "state/textos.h"
+
 namespace duktores {
+
+namespace {
+
+constexpr int kLargoMaximo = 400;  // no number needs more, and each character looks at all those before it
+
+}  // namespace
 
 TextoFiltrado::TextoFiltrado(Filtro filtro, QWidget* padre) : QLineEdit(padre), filtro_(filtro) {
   setInputMethodHints(Qt::ImhFormattedNumbersOnly);
@@ -21,20 +30,50 @@ Campo TextoFiltrado::ComoCampo() const {
           static_cast<std::size_t>(seleccion.size())};
 }
 
-void TextoFiltrado::Inserta(const QString& texto) {
-  constexpr qsizetype kMaximo = 400;  // no number needs more, and each character looks at all those before it
-  Campo campo = ComoCampo();
-  bool pasa = false;
-  for (const char32_t tecla : texto.left(kMaximo).toStdU32String()) {
-    if (tecla >= U' ' && Teclea(tecla, campo, filtro_)) pasa = true;
-  }
-  if (!pasa) return;
+void TextoFiltrado::Pon(const Campo& campo) {
   selectAll();
   insert(QString::fromStdString(campo.texto));  // one step for an undo
   setCursorPosition(static_cast<int>(campo.inicioSeleccion));
 }
 
-void TextoFiltrado::Pega() { Inserta(QApplication::clipboard()->text()); }
+// For a moment, so that nobody believes that the key has arrived.
+void TextoFiltrado::Parpadea() {
+  constexpr int kParpadeo = 150;
+  QPalette roja;
+  const QColor fondo = roja.color(QPalette::Base), aviso(198, 40, 40);
+  roja.setColor(QPalette::Base, QColor((fondo.red() + aviso.red()) / 2, (fondo.green() + aviso.green()) / 2,
+                                       (fondo.blue() + aviso.blue()) / 2));
+  setPalette(roja);
+  QTimer::singleShot(kParpadeo, this, [this] { setPalette({}); });
+}
+
+// Typed, key by key.
+void TextoFiltrado::Escribe(const QString& texto) {
+  Campo campo = ComoCampo();
+  bool pasa = false, cae = false;
+  for (const char32_t tecla : texto.left(kLargoMaximo).toStdU32String()) {
+    (tecla >= U' ' && Teclea(tecla, campo, filtro_) ? pasa : cae) = true;
+  }
+  if (pasa) Pon(campo);
+  if (cae) Parpadea();
+}
+
+// Copied elsewhere. "300 x 400" is none of the numbers that its digits would make.
+void TextoFiltrado::Pega(const QString& texto) {
+  const QString todo = texto.trimmed();
+  if (todo.isEmpty()) return;
+  Campo campo = ComoCampo();
+  const int falta = TecleaTodo(todo.toStdU32String(), campo, filtro_);
+  if (falta == 0) return Pon(campo);
+  constexpr int kMuestra = 24;
+  const QString muestra = todo.left(kLargoMaximo).simplified();
+  QString motivo = QString::fromStdString(Texto(falta));
+  if (motivo.contains("%1")) motivo = motivo.arg(Decimales());
+  Parpadea();
+  emit rechazado((muestra.size() > kMuestra ? muestra.left(kMuestra) + "..." : muestra) + ": " + motivo);
+}
+
+void TextoFiltrado::PegaPortapapeles() { Pega(QApplication::clipboard()->text()); }
 
 void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
   const bool orden =
@@ -42,10 +81,10 @@ void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
   if (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter) {
     focusNextPrevChild(true);
   } else if (suceso->matches(QKeySequence::Paste)) {
-    Pega();
+    PegaPortapapeles();
   } else if (const QString texto = suceso->text();
              !orden && !texto.isEmpty() && texto[0].category() != QChar::Other_Control) {
-    Inserta(texto);
+    Escribe(texto);
   } else {
     QLineEdit::keyPressEvent(suceso);
   }
@@ -68,7 +107,7 @@ void TextoFiltrado::mouseMoveEvent(QMouseEvent* suceso) {
 void TextoFiltrado::mouseReleaseEvent(QMouseEvent* suceso) {
   // The line edit itself would paste the marked text of the X server here, past the filter.
   if (suceso->button() == Qt::MiddleButton) {
-    Inserta(QApplication::clipboard()->text(QClipboard::Selection));
+    Pega(QApplication::clipboard()->text(QClipboard::Selection));
   } else {
     QLineEdit::mouseReleaseEvent(suceso);
   }
@@ -89,12 +128,14 @@ void TextoFiltrado::focusOutEvent(QFocusEvent* suceso) {
   QTimer::singleShot(0, this, [this] {
     const QWidget* ahora = QApplication::focusWidget();
     // A reason of its own, so that two such fields don't take the focus from each other for ever.
-    if (isVisible() && !(ahora && ahora->objectName() == "CmdCancelar")) setFocus(Qt::ShortcutFocusReason);
+    if (!isVisible() || (ahora && ahora->objectName() == "CmdCancelar")) return;
+    setFocus(Qt::ShortcutFocusReason);
+    emit rechazado(QString::fromStdString(Texto(texto::kSignoDelante)));
   });
 }
 
 void TextoFiltrado::inputMethodEvent(QInputMethodEvent* suceso) {
-  Inserta(suceso->commitString());
+  Escribe(suceso->commitString());
   suceso->accept();
 }
 
@@ -104,14 +145,14 @@ void TextoFiltrado::contextMenuEvent(QContextMenuEvent* suceso) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->addAction(QLineEdit::tr("Cu&t"), this, &QLineEdit::cut);
   menu->addAction(QLineEdit::tr("&Copy"), this, &QLineEdit::copy);
-  menu->addAction(QLineEdit::tr("&Paste"), this, &TextoFiltrado::Pega);
+  menu->addAction(QLineEdit::tr("&Paste"), this, &TextoFiltrado::PegaPortapapeles);
   menu->addAction(QLineEdit::tr("Select All"), this, &QLineEdit::selectAll);
   menu->popup(suceso->globalPos());
 }
 
 void TextoFiltrado::dropEvent(QDropEvent* suceso) {
   setCursorPosition(cursorPositionAt(suceso->position().toPoint()));
-  Inserta(suceso->mimeData()->text());
+  Pega(suceso->mimeData()->text());
   suceso->setDropAction(Qt::CopyAction);
   suceso->accept();
 }

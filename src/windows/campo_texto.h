@@ -1,6 +1,6 @@
 #pragma once
-// The fields of the dialogs as widgets. Whatever brings text into a TextoFiltrado, keys, input methods, the clipboard,
-// a drop or the context menu, passes the field's filter character by character.
+// The fields of the dialogs as widgets. Whatever brings text into a TextoFiltrado passes the field's filter: keys and
+// input methods character by character, what was copied elsewhere (the clipboard, a drop) whole or not at all.
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -10,8 +10,13 @@
 namespace duktores {
 
 class TextoFiltrado : public QLineEdit {
+  Q_OBJECT
  public:
   TextoFiltrado(Filtro filtro, QWidget* padre);
+
+ signals:
+  /// A text was not taken, or the focus not let go; `motivo` says why, in words.
+  void rechazado(const QString& motivo);
 
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
@@ -26,8 +31,11 @@ class TextoFiltrado : public QLineEdit {
 
  private:
   Campo ComoCampo() const;
-  void Inserta(const QString& texto);
-  void Pega();
+  void Escribe(const QString& texto);
+  void Pega(const QString& texto);
+  void PegaPortapapeles();
+  void Pon(const Campo& campo);
+  void Parpadea();
 
   Filtro filtro_;
   QPoint pulsado_;

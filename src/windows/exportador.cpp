@@ -19,10 +19,13 @@
 #include "shell/corrida.h"
 #include "shell/cortes.h"
 #include "shell/lista.h"
+#include "shell/nombre_pieza.h"
 #include "state/estado.h"
 #include "state/propio.h"
 #include "state/textos.h"
+#include "windows/guarda.h"
 #include "windows/iconos.h"
+#include "windows/proporcion.h"
 
 namespace duktores {
 
@@ -177,12 +180,13 @@ Exportador::Exportador(std::function<Exportable()> que, QWidget* padre) : QPushB
 }
 
 void Exportador::Exporta() {
-  const std::string_view clave = FilaDe(estado.pieza->tipo).dialogo.clave;
-  const std::string carpeta = LeePropio(kSeccion, kCarpeta).value_or(estado.sRutaDuct);
-  QFileDialog dialogo(window(), toolTip(), Q(carpeta));
+  const std::string carpeta = LeePropio(kSeccion, kCarpeta).value_or("");
+  QFileDialog dialogo(window(), Q(Texto(texto::kExporta)),
+                      Q(QFileInfo(Q(carpeta)).isDir() ? carpeta : CarpetaDeGuardado()));
+  dialogo.resize(dialogo.size().boundedTo(SitioLibre(*window())));
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
-  dialogo.selectFile(Q(std::string(clave)));
+  dialogo.selectFile(Q(NombrePropuesto(*estado.pieza)));
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
   const QFileInfo elegido(dialogo.selectedFiles().first());
   PonPropio(kSeccion, kCarpeta, elegido.absolutePath().toStdString());

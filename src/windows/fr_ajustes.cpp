@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
@@ -21,6 +20,9 @@
 #include "state/numeros.h"
 #include "state/textos.h"
 #include "windows/iconos.h"
+#include "windows/idioma_qt.h"
+#include "windows/proporcion.h"
+#include "windows/teclas.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -29,7 +31,6 @@ namespace {
 
 constexpr QSize kTamano{900, 600};
 constexpr int kAltoFila = 30;
-constexpr int kMarco = 48;  // what a window manager puts around a window, at most
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
@@ -69,7 +70,8 @@ FrAjustes::FrAjustes(QWidget* padre)
   columna->addWidget(paginas_);
   columna->addWidget(lblerror_);
   columna->addWidget(Pie());
-  resize(kTamano.boundedTo(screen()->availableGeometry().size() - QSize(kMarco, kMarco)));
+  resize(kTamano.boundedTo(SitioLibre(*this)));
+  PonAyuda(*this);
   renglones_.front().Foco()->setFocus();
 }
 
@@ -166,6 +168,7 @@ void FrAjustes::accept() {
 void AbreAjustes(QWidget& padre) {
   FrAjustes ventana(&padre);
   ventana.exec();
+  PonIdiomaQt();
   ConfiguracionLeida suceso(AvisosDe(ventana.Lectura()));
   for (QWidget* abierta : QApplication::topLevelWidgets()) QApplication::sendEvent(abierta, &suceso);
 }

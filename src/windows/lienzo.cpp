@@ -18,7 +18,6 @@ namespace {
 
 constexpr double kMargen = 1.08;       // of the model within the view
 constexpr double kPasoRueda = 1.0015;  // zoom of an eighth of a degree of the wheel
-constexpr double kGradosPorPunto = 0.4;
 
 QRectF Contorno(const std::vector<Punto2>& fantasma) {
   QPolygonF poligono;
@@ -116,6 +115,7 @@ void Lienzo::PermiteOrbitar(bool permite) {
   orbita_ = permite;
   if (!permite) arrastre_.reset();
   if (!permite && mando_ == MandoVista::orbit) TerminaMando();
+  emit orbitable(permite);
 }
 
 void Lienzo::PonPuntero() {
@@ -166,25 +166,57 @@ void Lienzo::Amplia(double factor, QPointF sobre) {
   update();
 }
 
+void Lienzo::EmpiezaOrbita() {
+  const Punto3 d = axew_.DireccionVista();
+  if (encuadre_ == orbitado_.ahora && d == orbitado_.direccion) return;
+  const QRectF zona = ExtensionPintada(axew_),
+               vista = QRectF(Modelo({0, 0}), Modelo(rect().bottomRight())).normalized();
+  const double holgura = 1 / encuadre_.escala;
+  orbitado_ = {encuadre_, Centro(axew_), vista.adjusted(-holgura, -holgura, holgura, holgura).contains(zona), {}, {}};
+  orbitado_.encuadre.centro -= AlPlano(BaseVista(d), orbitado_.eje);
+}
+
+// About the model's middle. What was in view whole stays so; of a part that one has zoomed into the view doesn't leave
+// the model.
 void Lienzo::Orbita(QPointF paso) {
-  constexpr double kTope = 89.9;  // short of the poles, where up has no direction
-  const Punto3 centro = Centro(axew_), d = axew_.DireccionVista();
-  const double plano = std::hypot(d.x, d.y);
-  double giro = plano > 0 ? Grados(std::atan2(d.y, d.x)) : (d.z > 0 ? -90 : 90);
-  double altura = Grados(std::atan2(d.z, plano));
-  giro -= kGradosPorPunto * paso.x();
-  altura = std::clamp(altura + kGradosPorPunto * paso.y(), -kTope, kTope);
-  const double g = Radianes(giro), a = Radianes(altura);
-  const QPointF antes = AlPlano(BaseVista(d), centro);
-  axew_.EwViewDirection(std::cos(a) * std::cos(g), std::cos(a) * std::sin(g), std::sin(a));
-  encuadre_.centro += AlPlano(BaseVista(axew_.DireccionVista()), centro) - antes;
+  const Punto3 d = Girada(axew_.DireccionVista(), paso);
+  axew_.EwViewDirection(d.x, d.y, d.z);
+  encuadre_ = orbitado_.encuadre;
+  encuadre_.centro += AlPlano(BaseVista(d), orbitado_.eje);
+  const QRectF zona = ExtensionPintada(axew_);
+  QSizeF sobra;
+  if (orbitado_.entero) {
+    constexpr double kBorde = 0.03;
+    const double borde = kBorde * std::min(width(), height());
+    encuadre_.escala = std::min(encuadre_.escala, Ajusta(zona, size()).escala);
+    sobra = ((QSizeF(size()) / 2 - QSizeF(borde, borde)) / encuadre_.escala) - zona.size() / 2;
+  } else {
+    sobra = zona.size() / 2;
+  }
+  const QPointF centro = zona.center(), lado(std::max(sobra.width(), 0.0), std::max(sobra.height(), 0.0));
+  encuadre_.centro.setX(std::clamp(encuadre_.centro.x(), centro.x() - lado.x(), centro.x() + lado.x()));
+  encuadre_.centro.setY(std::clamp(encuadre_.centro.y(), centro.y() - lado.y(), centro.y() + lado.y()));
+  orbitado_.ahora = encuadre_;
+  orbitado_.direccion = d;
+  emit girado();
+  update();
+}
+
+void Lienzo::PonSolido(const Solido* solido) {
+  solido_ = solido;
   update();
 }
 
 void Lienzo::paintEvent(QPaintEvent*) {
   QPainter pintor(this);
   pintor.setRenderHint(QPainter::Antialiasing);
-  Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
+  if (solido_) {
+    PintaSombreado(pintor, Mira(*solido_, axew_.DireccionVista()), encuadre_, size());
+    PintaEjes(pintor, axew_.DireccionVista(), size());
+  } else {
+    Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
+  }
+  if (encima_) encima_(pintor, encuadre_);
   if (eleccion_) PintaFantasma(pintor);
   if (arrastre_ == MandoVista::zoomWindow) {
     pintor.setPen(QPen(Qt::white, 0, Qt::DashLine));
@@ -207,6 +239,7 @@ void Lienzo::resizeEvent(QResizeEvent*) { Regenera(axew_); }
 
 void Lienzo::wheelEvent(QWheelEvent* suceso) {
   Amplia(std::pow(kPasoRueda, suceso->angleDelta().y()), suceso->position());
+  if (arrastre_ == MandoVista::orbit) EmpiezaOrbita();
 }
 
 void Lienzo::mousePressEvent(QMouseEvent* suceso) {
@@ -219,6 +252,7 @@ void Lienzo::mousePressEvent(QMouseEvent* suceso) {
   if (suceso->button() == Qt::LeftButton) arrastre_ = mando_;
   if (suceso->button() == Qt::MiddleButton) arrastre_ = MandoVista::pan;
   if (suceso->button() == Qt::RightButton && orbita_) arrastre_ = MandoVista::orbit;
+  if (arrastre_ == MandoVista::orbit) EmpiezaOrbita();
   if (arrastre_ == MandoVista::pan) setCursor(Qt::ClosedHandCursor);
 }
 

@@ -1,6 +1,7 @@
 // duktores: the catalogue of the duct transition pieces.
 
 #include <QApplication>
+#include <QIcon>
 #include <QStandardPaths>
 #include <cstdio>
 #include <new>
@@ -12,6 +13,7 @@
 #include "state/estado.h"
 #include "state/textos.h"
 #include "windows/fr_lista_duktores.h"
+#include "windows/idioma_qt.h"
 #include "windows/plataforma_qt.h"
 #include "windows/ventanas.h"
 
@@ -50,6 +52,9 @@ int main(int argc, char** argv) {
       QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString() + "/duktores.ini";
   const LecturaConfiguracion lectura = Arranca(RutaEjecutable());
   const bool falta = lectura.fallo == std::errc::no_such_file_or_directory;
+  PonIdiomaQt();
+  QApplication::setWindowIcon(QIcon(QString::fromStdString(estado.sRutaPrograma + "duktores.svg")));
+  QApplication::setDesktopFileName("duktores");
   CursorEspera(true);
   FrListaDuktores lista(AvisosDe(lectura));
   plataforma.PonPrincipal(&lista);

@@ -16,6 +16,7 @@
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/sin_guardar.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -57,12 +58,15 @@ void PlataformaQt::CajaMensaje(std::string_view texto, EstiloMensaje estilo, std
   QMessageBox caja(icono, Q(titulo), {}, QMessageBox::Ok, Padre());
   caja.setTextFormat(Qt::PlainText);
   caja.setText(Q(texto));
+  caja.setInformativeText(Q(detalle_));
   caja.exec();
 }
 
 void PlataformaQt::VentanaMensaje(std::string_view texto) {
   QDialog ventana(Padre());
   ventana.setObjectName("FrMsgbox");
+  auto* detalle = new QLabel(Q(detalle_), &ventana);
+  detalle->setHidden(detalle_.empty());
   auto* lblmsgbox = new QLabel;
   lblmsgbox->setTextFormat(Qt::PlainText);
   lblmsgbox->setWordWrap(true);
@@ -73,6 +77,7 @@ void PlataformaQt::VentanaMensaje(std::string_view texto) {
   aceptar->setObjectName("CmdAceptar");
   auto* columna = new QVBoxLayout(&ventana);
   columna->addWidget(lblmsgbox);
+  columna->addWidget(detalle);
   columna->addWidget(aceptar, 0, Qt::AlignHCenter);
   columna->setSizeConstraint(QLayout::SetFixedSize);
   QObject::connect(aceptar, &QPushButton::clicked, &ventana, &QDialog::accept);
@@ -109,9 +114,11 @@ void TraeAlFrente(QWidget& ventana) {
   ventana.activateWindow();
 }
 
-void Termina() {
+bool Termina() {
+  if (!PuedeTerminar()) return false;
   if (estado.plataforma) estado.plataforma->HabilitaVentana(estado.hVentanaHost, true);
   QApplication::quit();
+  return true;
 }
 
 }  // namespace duktores

@@ -36,6 +36,24 @@ TEST(Campo, KeepsOnlyWellFormedNumbers) {
   }
 }
 
+TEST(Campo, ACopiedTextIsTakenWholeOrNotAtAll) {
+  const struct {
+    Filtro filtro;
+    std::u32string_view texto;
+    int falta;
+  } casos[]{{FiltraNumero, U"12,34", 0},      {FiltraNumero, U"300 x 400", 320}, {FiltraNumero, U"1e3", 320},
+            {FiltraNumero, U"1.234,5", 320},  {FiltraNumero, U"12.345", 322},    {FiltraNumero, U"-1", 320},
+            {FiltraNumero, U"3\b4", 320},     {FiltraNumeroSigno, U"-12.5", 0},  {FiltraEntero, U"1.5", 321},
+            {FiltraNumeroSigno, U"1-2", 323}, {FiltraNumeroSigno, U"-1.234", 322},  {FiltraEntero, U"36", 0}};
+  estado.iUnidad = 1;
+  for (const auto& caso : casos) {
+    Campo campo{"7"};
+    SeleccionaTodo(campo);
+    EXPECT_EQ(TecleaTodo(caso.texto, campo, caso.filtro), caso.falta);
+    EXPECT_EQ(campo.texto == "7" && campo.TodoSeleccionado(), caso.falta != 0);
+  }
+}
+
 TEST(Campo, ASelectedTextIsReplaced) {
   estado.iUnidad = 1;
   Campo campo{"12.34"};
@@ -131,6 +149,12 @@ class Dialogos : public testing::TestWithParam<Buena> {
   }
   void ExpectError(const Fallo& f) {
     EXPECT_EQ(Con(f.campo, f.texto), Respuesta::datoErroneo) << f.campo << " " << f.texto;
+    for (int idioma = 0; idioma < 7; ++idioma) {
+      estado.dIdioma = 10000 * idioma;
+      const auto [pieza, reparo] = dialogo.Lee();
+      EXPECT_TRUE(!pieza && reparo.find(": ") != reparo.npos && reparo.find('%') == reparo.npos) << reparo;
+    }
+    estado.dIdioma = 0;
     EXPECT_EQ(dialogo.Foco(), NumeroDe(f.foco)) << f.campo << " " << f.texto;
     EXPECT_EQ(dialogo.lblerror(), Texto(GetParam().textoError));
   }
@@ -200,6 +224,43 @@ TEST(Dialogo, LabelsByUnitAndLanguage) {
   estado.dIdioma = kChino;
   EXPECT_EQ(dialogo.TextoRotulo(Alfa), Texto(67));
   EXPECT_FALSE(dialogo.Titulo());
+}
+
+TEST(Dialogo, ReadsWithoutStoringAndTellsFieldAndRule) {
+  // clang-format off
+  const struct {
+    const DefDialogo& def;
+    const char *textos, *reparo;
+  } kCasos[]{
+      {kFrTransfCR, "300 200.01 400 300 0 0 0 12 1", "RS: twice the radius is at most the larger of LI and AI, 400"},
+      {kFrTransfRC, "300 149.99 400 300 0 0 0 12 1", "RI: twice the radius is at least the smaller of LS and AS, 300"},
+      {kFrTransfCR, "300 . 400 300 0 0 0 12 1", "RS: is no number"},
+      {kFrTransBaRectBoElip, "300 200 200.5 400 350 6 7 90 12 2", "eMaS: is at least eMeS, 200.5"},
+      {kFrTransfEsp1, "300 50 50 50 50 60 60 60 61 100 100 120 130 0 0 9 8 12",
+       "r24: r21 and r24 add up to at most LX2, 120"},
+      {kFrTransfEsp3, "300 50 99 200 0 0 9 8 12", "LY: its half is at most LX, 99"},
+      {kFrTransEsp4, "1 50 60 60 60 60 120 120 0 0 9 8 12", "Alfa: the tilt carries the mouth below the base"},
+      {kFrTransEspe5, "300 50 50 51 50 100 100 300 300 0 0 9 8 12", "r13: is at most half of Ly1, 50"},
+      {kFrTansfEsp2, "300 50 200 200 0 0 9 91 12", "Beta: goes from -90 to 90"},
+      {kFrTansfEsp2, "300 50 200 200 0 0 9 8 13", "Divisions: is a multiple of 4, from 4 to 908"},
+      {kFrTransfCR, "300 100 400", "Missing: AI, AX, AY, Alfa, Divisions, Start Position (1-4)"},
+      {kFrTransfCR, "300 100 400 300 0 0 0 12 1", ""},
+  };
+  // clang-format on
+  estado = {};
+  estado.iUnidad = 1;
+  estado.dIdioma = 10000;
+  for (const auto& [def, textos, reparo] : kCasos) {
+    Dialogo dialogo(def);
+    std::istringstream palabras(textos);
+    std::string texto;
+    for (int i = 0; palabras >> texto; ++i) dialogo.CampoDe(i).texto = texto;
+    const Tecleada leida = dialogo.Lee();
+    EXPECT_EQ(leida.reparo, reparo);
+    EXPECT_EQ(leida.pieza.has_value(), leida.reparo.empty());
+    EXPECT_TRUE(!estado.pieza && estado.sTipoPieza.empty() && estado.dAltura == 0 && dialogo.lblerror().empty());
+    EXPECT_TRUE(!leida.pieza || leida.pieza->H == 300);
+  }
 }
 
 TEST(Dialogo, TheEllipseTakesNoSignAndForgetsTheOnePiece) {

@@ -15,6 +15,7 @@
 #include "piece/numeros_texto.h"
 #include "pieza_tecleada.h"
 #include "shell/juicio.h"
+#include "shell/nombre_pieza.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/fichero.h"
@@ -70,7 +71,7 @@ TEST_F(Corridas, TheSecondOneDrawsWhatTheFirstDrew) {
   mesa.puntos.resize(32);
   const Solido solido = SolidoDe(*estado.pieza);
   const auto desarrolla = [&] {
-    const auto [fin, hoja] = Desplegado(axew);
+    const auto [fin, hoja, dados] = Desplegado(axew);
     EXPECT_EQ(fin, FinCorrida::completo);
     return estado.oDrawing->GetEntities() + Textos(axew.Entidades()) +
            TextoVeredicto(Juzga(*estado.pieza, solido, hoja));
@@ -104,6 +105,30 @@ TEST_F(Corridas, AnErrorEndsTheRunAndIsTold) {
 namespace fs = std::filesystem;
 
 constexpr int kLineas[]{500, 2000};
+
+TEST(Nombres, OnlyDxfIsAnEnding) {
+  const char* const casos[][2]{{"/a.b/pieza", "/a.b/pieza.dxf"},
+                               {"pieza.v2", "pieza.v2.dxf"},
+                               {"a.DXF", "a.DXF"},
+                               {"a.dxf", "a.dxf"},
+                               {"/x/.dxf", "/x/.dxf.dxf"},
+                               {"a.", "a.dxf"}};
+  for (const auto& [elegido, esperado] : casos) EXPECT_EQ(NombreDxf(elegido), esperado);
+}
+
+TEST(Nombres, TypeAndMainSizesNameADrawing) {
+  const std::tuple<TipoPieza, const char*, const char*> casos[]{
+      {TipoPieza::cr, "300 95.5 400 300 0 0 0 12 1", "TransCR_400x300_R95.5"},
+      {TipoPieza::rc, "300 250 95.5 400 0 0 0 12 1", "TransRC_R250_95.5x400"},
+      {TipoPieza::elip, "300 200 95.5 400 300 0 0 0 12 1", "TransElip_400x300_200x95.5"},
+      {TipoPieza::esp1, "300 5 5 5 5 6 6 6 6 200 150.5 300 210 0 0 0 0 12", "TransEsp1_300x210_200x150.5"},
+      {TipoPieza::esp2, "300 50 300 200 0 0 0 0 12", "TransEsp2_300x200_R50"},
+  };
+  Configura();
+  estado.bComaDecimal = true;
+  for (const auto& [tipo, textos, nombre] : casos) EXPECT_EQ(NombrePropuesto(Aceptada(tipo, textos)), nombre);
+  estado = {};
+}
 
 class Guarda : public testing::Test {
  protected:

@@ -98,7 +98,8 @@ TEST_F(Lista, EachRowShowsAndOpensItsOwn) {
   QTest::mouseDClick(filas_->viewport(), Qt::LeftButton, {}, segunda);
   EXPECT_EQ(estado.sTipoPieza, Texto(11));
   usuario_.Cuando("FrTransfCR", cierra);
-  Pulsa(lista_, "CmdContinuar");
+  Hijo(lista_, "CmdContinuar").setFocus();
+  QTest::keyClick(&Hijo(lista_, "CmdContinuar"), Qt::Key_Return);
 }
 
 TEST_F(Lista, FaultyKeysAreToldAtTheFoot) {
@@ -193,37 +194,51 @@ TEST_F(VentanaCR, WhatIsNotTypedPassesTheFilterToo) {
     EXPECT_EQ(h.text().toStdString(), texto);
     h.clear();
   };
-  QApplication::clipboard()->setText(" 4,5x\n67-");
-  QTest::keyClick(&h, Qt::Key_V, Qt::ControlModifier);
-  expectToma("4.56");
-  QTest::keyClick(&h, Qt::Key_Insert, Qt::ShiftModifier);
-  expectToma("4.56");
+  // Copied texts are taken whole or not at all, by whichever road.
+  auto& lblerror = Hijo<QLabel>(dialogo_, "lblerror");
+  const std::function<void()> caminos[]{
+      [&] { QTest::keyClick(&h, Qt::Key_V, Qt::ControlModifier); },
+      [&] { QTest::keyClick(&h, Qt::Key_Insert, Qt::ShiftModifier); },
+      [&] {
+        QMimeData datos;
+        datos.setText(QApplication::clipboard()->text());
+        QDragEnterEvent entra({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&h, &entra);
+        QDropEvent suelta(QPointF(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&h, &suelta);
+      }};
+  for (const auto& pega : caminos) {
+    QApplication::clipboard()->setText(" 4,56\n");
+    pega();
+    EXPECT_FALSE(lblerror.isVisible());
+    QApplication::clipboard()->setText("300 x 400");
+    pega();
+    EXPECT_TRUE(lblerror.isVisible() && lblerror.text().startsWith("300 x 400: "));
+    expectToma("4.56");
+    EXPECT_FALSE(lblerror.isVisible()) << "the field has changed";
+  }
 
   // Beyond the first plane, of private use, without a form of its own: keys that a line edit takes besides printable
   // ones.
   for (const char16_t* tecla : {u"\U0001F600", u"\uE000", u"3", u"\u200D", u"\u4E00"}) {
     QTest::sendKeyEvent(QTest::Click, &h, Qt::Key_unknown, QString::fromUtf16(tecla), Qt::NoModifier);
   }
+  const QPalette roja = h.palette();
+  EXPECT_NE(roja, dialogo_.palette()) << "a dropped key shows";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return h.palette() != roja; }));
   expectToma("3");
 
   QInputMethodEvent metodo;
   metodo.setCommitString("8一,9");
   QApplication::sendEvent(&h, &metodo);
   expectToma("8.9");
-
-  QMimeData datos;
-  datos.setText("a1,234");
-  QDragEnterEvent entra({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(&h, &entra);
-  QDropEvent suelta(QPointF(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(&h, &suelta);
-  expectToma("1.23");
 }
 
 TEST_F(VentanaCR, AMisplacedMinusKeepsTheFocus) {
   Teclea("TxtAlfa", "3-");
   QTest::keyClick(&Texto_("TxtAlfa"), Qt::Key_Tab);
   EXPECT_EQ(Foco(), "TxtAlfa");
+  EXPECT_EQ(Hijo<QLabel>(dialogo_, "lblerror").text().toStdString(), Texto(323));
   QTest::mouseClick(&Texto_("TxtH"), Qt::LeftButton);
   EXPECT_EQ(Foco(), "TxtAlfa");
   QTest::keyClicks(&Texto_("TxtAlfa"), "-3");
@@ -270,8 +285,12 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   Pulsa(dialogo_, "CmdAceptar");
   EXPECT_EQ(Foco(), "TxtRS");
   EXPECT_EQ(lblerror.text().toStdString(), Texto(20));
+  EXPECT_EQ(lblerror.toolTip(), "RS: el doble del radio es como mucho el mayor de LI y AI, 400");
+  EXPECT_TRUE(lblerror.isVisible());
+  Teclea("TxtAY", "25.5");
   EXPECT_TRUE(lblerror.isVisible());
   Teclea("TxtRS", "100");
+  EXPECT_FALSE(lblerror.isVisible()) << "the field that it names has changed";
 
   usuario_.Cuando("FrmViewUnfold", [](QWidget& visor) { Pulsa(visor, "CmdCancelar"); });
   Pulsa(dialogo_, "CmdAceptar");
@@ -282,6 +301,28 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   EXPECT_EQ(Foco(), "TxtH");
   EXPECT_EQ(Texto_("TxtAY").text(), "25.5");
   EXPECT_EQ(Hijo<QComboBox>(dialogo_, "CmbPosIni").currentText(), "3");
+}
+
+// From the moment on that the fields make a piece, which nothing is stored of.
+TEST_F(VentanaCR, TheSolidOfWhatIsTypedShowsAndTurns) {
+  auto& vivo = Hijo(dialogo_, "SolidoVivo");
+  auto& reparo = Hijo<QLabel>(dialogo_, "LblReparo");
+  const QImage sin = Vista(vivo).copy(0, 0, vivo.width(), reparo.y() - 4);
+  EXPECT_TRUE(reparo.text().startsWith("Falta: H, RS, LI"));
+  const auto solido = [&] { return Vista(vivo).copy(0, 0, vivo.width(), reparo.y() - 4); };
+  Llena();
+  const QImage con = solido();
+  EXPECT_TRUE(reparo.text().isEmpty() && con != sin && !estado.pieza && estado.sTipoPieza.empty());
+  Teclea("TxtRS", "200.01");
+  EXPECT_EQ(reparo.text(), "RS: el doble del radio es como mucho el mayor de LI y AI, 400");
+  EXPECT_EQ(solido(), sin);
+  EXPECT_FALSE(Hijo(dialogo_, "lblerror").isVisible());
+  Teclea("TxtRS", "100");
+  EXPECT_EQ(solido(), con);
+  Arrastra(vivo, Qt::LeftButton, {100, 100}, {160, 80});
+  EXPECT_NE(solido(), con);
+  QTest::mouseDClick(&vivo, Qt::LeftButton);
+  EXPECT_EQ(solido(), con);
 }
 
 }  // namespace
