@@ -254,6 +254,7 @@ void FrDialogo::Pon(const Dialogo& lleno) {
 }
 
 void FrDialogo::Pon(const PiezaAbierta& abierta) {
+  if (FrmViewUnfold::Colocando()) return;
   Pon(abierta.dialogo);
   abierta_ = TrabajoDe(dialogo_, abierta.trabajo.nombre);
   abierta_.puntos = abierta.trabajo.puntos;
@@ -299,6 +300,7 @@ void FrDialogo::customEvent(QEvent* suceso) {
 }
 
 void FrDialogo::CmdAceptar() {
+  if (FrmViewUnfold::Colocando()) return;
   const Respuesta respuesta = dialogo_.CmdAceptar();
   MuestraError(dialogo_.Foco(), Q(dialogo_.lblerror()));
   lblerror_->setToolTip(Q(dialogo_.Lee().reparo));

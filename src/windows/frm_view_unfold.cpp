@@ -195,7 +195,9 @@ void FrmViewUnfold::DespliegaHoja() {
   CmdSolido_->setEnabled(false);
   if (FrmView_->isEnabled()) EWdraw_.CambiaModelo(otra_);
   MuestraSolido(false);
+  ++corridas_;
   Corrida corrida = colocador_->Despliega();
+  --corridas_;
   if (!vivo) return;
   pendiente_ = corrida.sitios != guardados_ && estado.oDrawing->Count() > 0;
   if (corrida.fin == FinCorrida::completo) sitios_ = std::move(corrida.sitios);

@@ -32,6 +32,8 @@ class FrmViewUnfold : public QDialog {
   /// All ways to close the window come through here; a waiting pick ends first.
   void done(int resultado) override;
 
+  /// Whether shapes are being placed in some viewer: until then it must stay, and no other piece be accepted.
+  static bool Colocando() { return corridas_ > 0; }
   /// Whether it was made for this piece, and drawn as `estado` says now.
   bool Muestra(const Pieza& pieza) const;
   /// The places of a complete pattern, in the order in which they are asked for.
@@ -90,6 +92,7 @@ class FrmViewUnfold : public QDialog {
   std::shared_ptr<cDrawing> oDrawing_;
   std::shared_ptr<cDXF> oDXF_;
   std::vector<Punto2> conocidos_, sitios_, guardados_;  // to begin with; of the pattern; those that a file has
+  inline static int corridas_ = 0;
   bool pendiente_ = false, descartada_ = false;         // placed by hand and not saved; which the user doesn't mind
 };
 
