@@ -103,6 +103,9 @@ inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, 
 
 inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
 
+// The manual's window.
+inline constexpr int kManual = 370, kSinManual = 371, kIndice = 372, kAtras = 373;
+
 // What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
 inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
 inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;

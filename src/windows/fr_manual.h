@@ -1,0 +1,16 @@
+#pragma once
+// The manual: pages of the installation, Manual/es for the Spanish configuration and Manual/en for all others, in a
+// window that stays open beside the work. Nothing outside the installation is opened.
+
+class QAbstractButton;
+class QWidget;
+
+namespace duktores {
+
+/// Opens the manual over this window at its contents; one that is open already closes. A missing page is told.
+void AbreManual(QWidget& padre);
+
+/// Makes a button open the manual over its window. The focus stays where it is.
+void ConectaManual(QAbstractButton& boton);
+
+}  // namespace duktores
