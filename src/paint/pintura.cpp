@@ -60,9 +60,9 @@ bool EsVueltaEntera(const Entidad& curva) { return curva.fin - curva.inicio > 2 
 
 class Pincel {
  public:
-  Pincel(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada)
+  Pincel(QPainter& pintor, const Base3& base, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada)
       : pintor_(pintor),
-        base_(BaseVista(axew.DireccionVista())),
+        base_(base),
         encuadre_(encuadre),
         lienzo_(lienzo),
         fondo_(fondo),
@@ -76,12 +76,13 @@ class Pincel {
     visible_ = QRectF(QPointF(), lienzo).adjusted(-8, -8, 8, 8);
   }
 
+  void Pinta(std::span<const Entidad> entidades);
+
+ private:
   void PintaLineas(const Entidad& entidad);
   void PintaTexto(const Entidad& entidad);
   void Vuelca();
   void Vuelve();
-
- private:
   QPointF Lugar(Punto3 p) const { return encuadre_.AlDispositivo(AlPlano(base_, p), lienzo_); }
   QPointF Vector(Punto3 p) const {
     const QPointF q = encuadre_.escala * AlPlano(base_, p);
@@ -250,27 +251,35 @@ void Pincel::PintaTexto(const Entidad& entidad) {
   pintor_.setTransform(antes);
 }
 
+// Outlines lie over the bend lines that run along them, texts over all.
+void Pincel::Pinta(std::span<const Entidad> entidades) {
+  pintor_.save();
+  pintor_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  pintor_.setBrush(Qt::NoBrush);
+  pintor_.setLayoutDirection(Qt::LeftToRight);
+  for (const bool contornos : {false, true}) {
+    for (const Entidad& entidad : entidades) {
+      if ((entidad.tipo == TipoEntidad::contorno) == contornos) PintaLineas(entidad);
+    }
+  }
+  Vuelca();
+  Vuelve();
+  for (const Entidad& entidad : entidades) PintaTexto(entidad);
+  pintor_.restore();
+}
+
 }  // namespace
 
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
            double porPulgada) {
   if (!pintor.isActive()) return;
-  pintor.save();
-  pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  pintor.setBrush(Qt::NoBrush);
-  pintor.setLayoutDirection(Qt::LeftToRight);
   pintor.fillRect(QRectF(QPointF(), lienzo), ColorFondo(fondo));
-  Pincel pincel(pintor, axew, encuadre, lienzo, fondo, porPulgada);
-  // Outlines lie over the bend lines that run along them, texts over all.
-  for (const bool contornos : {false, true}) {
-    for (const Entidad& entidad : axew.Entidades()) {
-      if ((entidad.tipo == TipoEntidad::contorno) == contornos) pincel.PintaLineas(entidad);
-    }
-  }
-  pincel.Vuelca();
-  pincel.Vuelve();
-  for (const Entidad& entidad : axew.Entidades()) pincel.PintaTexto(entidad);
-  pintor.restore();
+  Pincel(pintor, BaseVista(axew.DireccionVista()), encuadre, lienzo, fondo, porPulgada).Pinta(axew.Entidades());
+}
+
+void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,
+                    Fondo fondo) {
+  if (pintor.isActive()) Pincel(pintor, BaseVista({0, 0, 1}), encuadre, lienzo, fondo, kPorPulgada).Pinta(entidades);
 }
 
 }  // namespace duktores

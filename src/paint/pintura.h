@@ -11,6 +11,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "geometry/puntos.h"
@@ -21,6 +22,7 @@ class QPainter;
 namespace duktores {
 
 class EWdraw;
+struct Entidad;
 
 /// The axes of the viewing plane as unit vectors of the model.
 struct Base3 {
@@ -60,6 +62,9 @@ inline constexpr double kPorPulgada = 144;
 /// outlines more.
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
            double porPulgada = kPorPulgada);
+/// Paints entities over what is there, seen from above.
+void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,
+                    Fondo fondo);
 
 enum class Formato { png, svg, pdf };
 /// The ending of its files, with the point.

@@ -76,6 +76,20 @@ inline constexpr int kExporta = 174, kCortes = 175, kListaDobleces = 176, kPdf =
 inline constexpr int kEscrito = 179;         ///< names and folder follow
 inline constexpr int kCortarIgual = 180;     ///< a question
 inline constexpr int kReemplazarEsos = 181;  ///< likewise; names follow
+
+// Placing.
+inline constexpr int kDeCuantas = 200, kPonTodas = 201, kPonTodasAyuda = 202, kNombres = 203, kSolapan = 204;
+inline constexpr int kPonJunta = 205, kDeshace = 206, kRehace = 207;  ///< of the page of the keys
+
+// What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
+inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
+inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;
+inline constexpr int kSumaHasta = 227, kHastaMitad = 228, kHasta = 229, kMitadHasta = 230, kMultiploDe4 = 231;
+inline constexpr int kBajoBase = 232;
+
+// The solid as it is looked at.
+inline constexpr int kDesdeEsquina = 233, kAlambre = 234, kSolidoODesarrollo = 235, kBoca = 236, kBase = 237;
+
 // The settings: what the window says, its rows and what they mean, choices, limits.
 inline constexpr int kNombreIdioma = 240;  ///< each language's own name
 inline constexpr int kAjustes = 241, kPiezasYDibujos = 242, kMaquina = 243;
@@ -103,16 +117,6 @@ inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, 
 
 inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
 
-// The manual's window.
-inline constexpr int kManual = 370, kSinManual = 371, kIndice = 372, kAtras = 373;
-
-// What keeps the fields of a dialog from being a piece: rules, in which %1 to %3 are fields and %0 is a number.
-inline constexpr int kFaltan = 220, kNoEsNumero = 221, kNoCero = 222;
-inline constexpr int kDobleHastaMayor = 223, kDobleDesdeMenor = 224, kEntreAngulos = 225, kDesde = 226;
-inline constexpr int kSumaHasta = 227, kHastaMitad = 228, kHasta = 229, kMitadHasta = 230, kMultiploDe4 = 231;
-inline constexpr int kBajoBase = 232;
-
-// The solid as it is looked at.
-inline constexpr int kDesdeEsquina = 233, kAlambre = 234, kSolidoODesarrollo = 235, kBoca = 236, kBase = 237;
+inline constexpr int kManual = 370, kSinManual = 371, kIndice = 372, kAtras = 373;  // the manual's window
 
 }  // namespace duktores::texto

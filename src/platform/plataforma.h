@@ -20,6 +20,8 @@ class Plataforma {
   virtual void CajaMensaje(std::string_view /*texto*/, EstiloMensaje, std::string_view /*titulo*/) {}
   /// The program's own message window FrMsgbox, for texts that the system's box might not show.
   virtual void VentanaMensaje(std::string_view /*texto*/) {}
+  /// What the next message is about, to be shown below its text.
+  virtual void PonDetalle(std::string_view /*detalle*/) {}
   virtual void PonCursorEspera(bool /*espera*/) {}
   /// The foreground window.
   virtual Ventana VentanaActiva() { return 0; }

@@ -124,14 +124,18 @@ Patron DibujaPatron(EWdraw& axew, Patron patron, const FormatoHoja& formato, con
   return patron;
 }
 
-Punto2 PideAlDueno(EWdraw& axew, const Encargo& encargo) {
+Punto2 PideAlDueno(EWdraw& axew, const Encargo& encargo, const Peticion& peticion) {
   const auto& [forma, bloque] = encargo;
-  MuestraMensaje(Texto(bloque ? texto::kColocarCajetin : forma.aviso), EstiloMensaje::informacion, "");
+  const std::string& nombre = peticion.nombre;
+  if (peticion.caja) {
+    MuestraMensaje(Texto(bloque ? texto::kColocarCajetin : forma.aviso), EstiloMensaje::informacion, "", nombre);
+  }
   if (bloque) {
-    axew.EwGhost(MarcoCajetin(forma.bloque), Texto(texto::kCajetin));
+    axew.EwGhost(MarcoCajetin(forma.bloque), nombre.empty() ? Texto(texto::kCajetin) : nombre);
   } else {
     const std::string numero = " " + std::to_string(forma.nombre.numero);
-    axew.EwGhost(Contorno(forma, Punto2{} - forma.ancla), forma.rotulo == 0 ? "" : Texto(forma.rotulo) + numero);
+    const std::string rotulo = forma.rotulo == 0 ? "" : Texto(forma.rotulo) + numero;
+    axew.EwGhost(Contorno(forma, Punto2{} - forma.ancla), nombre.empty() ? rotulo : nombre);
   }
   Punto3 sitio;
   axew.EwPickPoint(sitio.x, sitio.y, sitio.z);

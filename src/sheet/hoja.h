@@ -2,6 +2,7 @@
 // The sheet: the one place where patterns are placed and drawn, on a control and into the drawing of the run.
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "piece/patron.h"
@@ -24,9 +25,15 @@ using PideSitio = std::function<Punto2(const Encargo&)>;
 /// doesn't go on after that the drawing, with ErrorCorrida; what is drawn stays.
 Patron DibujaPatron(EWdraw& axew, Patron patron, const FormatoHoja& formato, const PideSitio& pide);
 
+/// How the owner is asked.
+struct Peticion {
+  bool caja = true;      ///< with the prompt's message box
+  std::string nombre{};  ///< of the thing, below the prompt and on the pointer
+};
+
 /// Asks whoever owns the control: a prompt, then a pick, with the shape or the block's frame hanging on the pointer. A
 /// refused pick throws EleccionRechazada.
-Punto2 PideAlDueno(EWdraw& axew, const Encargo& encargo);
+Punto2 PideAlDueno(EWdraw& axew, const Encargo& encargo, const Peticion& peticion = {});
 
 /// A place for each that `DibujaPatron` asks for, in that order: in rows from the left and from the top that together
 /// come near to 16:9, right of what lies where it is; a shape's title block stands beside it, all annotation of the

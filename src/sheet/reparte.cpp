@@ -1,31 +1,13 @@
 #include <algorithm>
 #include <cmath>
-#include <exception>
-#include <new>
 #include <utility>
 
-#include "annotation/anotacion.h"
+#include "sheet/ensayo.h"
 #include "sheet/hoja.h"
 
 namespace duktores {
 
 namespace {
-
-// A text is as wide here as its characters are high: places must not depend on a machine's fonts.
-Caja CajaAncha(const EWdraw& axew, std::size_t desde, std::size_t hasta) {
-  Caja caja;
-  for (std::size_t i = desde; i < hasta; ++i) {
-    const Entidad& e = axew.Entidades()[i];
-    const Caja suya = CajaDe(e);
-    if (suya.Vacia()) continue;
-    caja.Incluye(suya.minimo);
-    caja.Incluye(suya.maximo);
-    if (e.tipo != TipoEntidad::texto) continue;
-    const Punto3 fin = e.puntos[0] + LongitudTexto(e.texto) * e.u;
-    for (const Punto3 p : {fin, fin + e.v, e.puntos[0] + e.v}) caja.Incluye(p);
-  }
-  return caja;
-}
 
 /// Things that stand in one row: a shape and its title block. They are places `desde` to before `hasta`.
 struct Grupo {
@@ -33,37 +15,17 @@ struct Grupo {
   double ancho = 0, alto = 0;  ///< with the gap behind each thing
 };
 
-struct Ensayo {
-  Caja fija;                ///< what lies where it is
-  std::vector<Caja> cosas;  ///< what is placed, each drawn for (0, 0); empty: nothing of it is drawn
+/// Of things that are placed.
+std::vector<Grupo> GruposDe(const std::vector<Cosa>& cosas) {
   std::vector<Grupo> grupos;
-};
-
-Ensayo Ensaya(const Patron& patron, const FormatoHoja& formato) {
-  EWdraw axew;
-  std::vector<std::size_t> hasta;  // entities before each thing that is placed
-  Ensayo ensayo;
-  const SoloControl soloControl;
-  try {
-    DibujaPatron(axew, patron, formato, [&](const Encargo& encargo) {
-      const std::size_t i = hasta.size();
-      if (encargo.bloque && i > 0) {
-        ensayo.grupos.back().hasta = i + 1;
-      } else {
-        ensayo.grupos.push_back({i, i + 1});
-      }
-      hasta.push_back(axew.Entidades().size());
-      return Punto2{};
-    });
-  } catch (const std::bad_alloc&) {
-    throw;
-  } catch (const std::exception&) {
-    // The drawing itself will end there too.
+  for (std::size_t i = 0; i < cosas.size(); ++i) {
+    if (cosas[i].bloque && i > 0) {
+      grupos.back().hasta = i + 1;
+    } else {
+      grupos.push_back({i, i + 1});
+    }
   }
-  hasta.push_back(axew.Entidades().size());
-  ensayo.fija = CajaAncha(axew, 0, hasta.front());
-  for (std::size_t i = 1; i < hasta.size(); ++i) ensayo.cosas.push_back(CajaAncha(axew, hasta[i - 1], hasta[i]));
-  return ensayo;
+  return grupos;
 }
 
 double Ancho(const Caja& caja) { return caja.Vacia() ? 0 : caja.maximo.x - caja.minimo.x; }
@@ -113,13 +75,19 @@ Filas EligeFilas(const std::vector<Grupo>& grupos, Punto2 hueco, double fijo) {
 }  // namespace
 
 std::vector<Punto2> Reparte(const Patron& patron, const FormatoHoja& formato) {
-  auto [fija, cosas, grupos] = Ensaya(patron, formato);
+  std::vector<Cosa> cosas = Ensaya(patron, formato);
+  Caja fija;
+  if (!cosas.empty() && cosas.front().fija) {
+    fija = cosas.front().caja;
+    cosas.erase(cosas.begin());
+  }
+  std::vector<Grupo> grupos = GruposDe(cosas);
   const Punto2 hueco{2 * formato.pasoX, 2 * formato.pasoY};
   for (Grupo& grupo : grupos) {
     for (std::size_t i = grupo.desde; i < grupo.hasta; ++i) {
-      if (cosas[i].Vacia()) continue;
-      grupo.ancho += Ancho(cosas[i]) + hueco.x;
-      grupo.alto = std::max(grupo.alto, Alto(cosas[i]) + hueco.y);
+      if (cosas[i].caja.Vacia()) continue;
+      grupo.ancho += Ancho(cosas[i].caja) + hueco.x;
+      grupo.alto = std::max(grupo.alto, Alto(cosas[i].caja) + hueco.y);
     }
   }
   const double izquierda = fija.Vacia() ? 0 : fija.maximo.x + hueco.x;
@@ -131,7 +99,7 @@ std::vector<Punto2> Reparte(const Patron& patron, const FormatoHoja& formato) {
     for (std::size_t g = fila == 0 ? 0 : filas.finales[fila - 1]; g < filas.finales[fila]; ++g) {
       alto = std::max(alto, grupos[g].alto);
       for (std::size_t i = grupos[g].desde; i < grupos[g].hasta; ++i) {
-        const Caja& caja = cosas[i];
+        const Caja& caja = cosas[i].caja;
         sitios[i] = caja.Vacia() ? Punto2{x, y} : Punto2{x - caja.minimo.x, y - caja.minimo.y};
         x += caja.Vacia() ? 0 : Ancho(caja) + hueco.x;
       }

@@ -7,7 +7,6 @@
 
 #include "dxf/dibujo.h"
 #include "dxf/escritor.h"
-#include "sheet/hoja.h"
 #include "shell/lista.h"
 #include "state/error_corrida.h"
 #include "state/estado.h"
@@ -75,11 +74,7 @@ FormatoHoja FormatoDeEstado() {
           .espesor = e.dEspesor};
 }
 
-namespace {
-
-// Of the accepted piece, unfolded by `hace`.
-template <class Hace>
-Corrida Corre(EWdraw& axew, Hace hace) {
+Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide) {
   if (!estado.pieza) return {};
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
@@ -87,7 +82,6 @@ Corrida Corre(EWdraw& axew, Hace hace) {
     Desarrollo desarrollo = hace();
     if (estado.pieza->regla == Regla::exacta) estado.oDrawing->UnaVez();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
-    const auto pide = [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); };
     return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
   } catch (const EleccionRechazada&) {
     return {FinCorrida::eleccionRechazada, {}};
@@ -101,14 +95,14 @@ Corrida Corre(EWdraw& axew, Hace hace) {
   return {};
 }
 
-}  // namespace
-
 Corrida Despliega(EWdraw& axew) {
-  return Corre(axew, [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); });
+  const auto hace = [] { return DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)); };
+  return Despliega(axew, hace, [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); });
 }
 
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo) {
-  return Corre(axew, [&] { return std::move(desarrollo); });
+  const auto hace = [&] { return std::move(desarrollo); };
+  return Despliega(axew, hace, [&](const Encargo& encargo) { return PideAlDueno(axew, encargo); });
 }
 
 }  // namespace duktores

@@ -2,8 +2,11 @@
 // The run driver: shows and unfolds the piece that a dialog has accepted, `estado.pieza`, which says itself of which
 // type it is. Without one nothing is drawn.
 
+#include <functional>
+
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
+#include "sheet/hoja.h"
 #include "viewer/ewdraw.h"
 
 namespace duktores {
@@ -35,5 +38,8 @@ struct Corrida {
 Corrida Despliega(EWdraw& axew);
 /// The same of a pattern that has been made already.
 Corrida Despliega(EWdraw& axew, Desarrollo desarrollo);
+/// The same with a pattern that `hace` makes or has, and places that `pide` gives; what either throws ends the run.
+using HaceDesarrollo = std::function<Desarrollo()>;
+Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide);
 
 }  // namespace duktores

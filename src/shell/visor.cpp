@@ -74,6 +74,13 @@ Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo) {
   return corrida;
 }
 
+Corrida Desplegado(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide) {
+  PreparaHoja(axew);
+  Corrida corrida = Despliega(axew, hace, pide);
+  CursorEspera(false);
+  return corrida;
+}
+
 std::string NombreDxf(const std::string& elegido) {
   constexpr std::string_view kFinal = ".dxf";
   const auto igual = [](char a, char b) { return a == b || (a >= 'A' && a <= 'Z' && a - 'A' + 'a' == b); };

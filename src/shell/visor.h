@@ -27,6 +27,7 @@ void ComandoVista(EWdraw& axew, std::string_view clave, bool soloRegen);
 /// piece, or draws what it unfolds to.
 Corrida Desplegado(EWdraw& axew);
 Corrida Desplegado(EWdraw& axew, Desarrollo desarrollo);
+Corrida Desplegado(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide);
 
 /// The name that a drawing gets: with the ending ".dxf", which a name may have in capitals too.
 std::string NombreDxf(const std::string& elegido);

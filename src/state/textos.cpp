@@ -38,10 +38,11 @@ std::string TextoIdioma(double id) {
 
 std::string Texto(int n) { return TextoIdioma(estado.dIdioma + n); }
 
-void MuestraMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
+void MuestraMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo, std::string_view detalle) {
   if (estado.plataforma == nullptr) return;
   if (texto.ends_with('\0')) texto.remove_suffix(1);
   CursorEspera(false);
+  estado.plataforma->PonDetalle(detalle);
   if (estado.dIdioma == kChino) {
     estado.plataforma->VentanaMensaje(texto);
   } else {

@@ -19,8 +19,9 @@ std::string TextoIdioma(double id);
 std::string Texto(int n);
 
 /// Shows a message with a normal pointer and sets the hourglass again afterwards. Chinese goes to the program's own
-/// message window, which has neither style nor title; a trailing NUL isn't shown.
-void MuestraMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo);
+/// message window, which has neither style nor title; a trailing NUL isn't shown. `detalle` stands below the text.
+void MuestraMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo,
+                    std::string_view detalle = {});
 
 /// Hourglass pointer when true, normal pointer when false.
 void CursorEspera(bool espera);

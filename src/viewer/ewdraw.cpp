@@ -185,7 +185,7 @@ void EWdraw::EwViewDirection(double x, double y, double z) {
 }
 
 void EWdraw::EwRegen() {
-  if (vista_) vista_->Regenera(*this);
+  if (vista_ && !callado_) vista_->Regenera(*this);
 }
 
 void EWdraw::EwPickPoint(double& x, double& y, double& z) {

@@ -112,6 +112,8 @@ class EWdraw {
   void EwViewMode(std::int32_t modo);
   void EwViewDirection(double x, double y, double z);  ///< the place to look from; without a length nothing changes
   void EwRegen();
+  /// While it is silent EwRegen does nothing: the view stays as it is.
+  void Calla(bool callado) { callado_ = callado; }
   /// Blocks until the view has given a point; throws EleccionRechazada if it refuses or there is no view.
   void EwPickPoint(double& x, double& y, double& z);
   /// The outline that the next EwPickPoint places, relative to the point to be picked, and what it is called. Any pick
@@ -146,6 +148,7 @@ class EWdraw {
   std::vector<Punto2> fantasma_;
   std::string rotuloFantasma_;
   Punto3 direccionVista_{0, 0, 1};
+  bool callado_ = false;
   VistaEWdraw* vista_ = nullptr;
 };
 

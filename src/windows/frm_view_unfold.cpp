@@ -41,6 +41,7 @@ constexpr std::array kZoom{
     BotonZoom{"CmdZoomAll", texto::kZoomTodo, MandoVista::zoomAll, &EWdraw::EwZoomAll},
     BotonZoom{"CmdZoomwindow", texto::kZoomVentana, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
+constexpr const char* kAviso = "background: #c00000; color: white; font-weight: bold;";
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
@@ -49,6 +50,7 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
       lienzo_(new Lienzo(EWdraw_, this)),
+      colocador_(new Colocador(EWdraw_, *lienzo_)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
       LblEstado_(new QLabel(this)) {
@@ -66,6 +68,8 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre)
   proporcion_.Coloca(*LblEstado_, {kMargen, 688, kDiseno.width() - 2 * kMargen, 24});
   connect(lienzo_, &Lienzo::eligiendo, this, &FrmViewUnfold::MuestraEleccion);
   connect(lienzo_, &Lienzo::apunta, this, &FrmViewUnfold::MuestraPunto);
+  connect(colocador_, &Colocador::redibuja, this, &FrmViewUnfold::DespliegaHoja);
+  connect(colocador_, &Colocador::arrastra, this, &FrmViewUnfold::MuestraArrastre);
   connect(lienzo_, &Lienzo::pasa, this, &FrmViewUnfold::MuestraLinea);
   connect(lienzo_, &Lienzo::girado, this, &FrmViewUnfold::MarcaVista);
 
@@ -168,8 +172,13 @@ void FrmViewUnfold::Teclas() {
 // The drawing widget looks at the control, which would go before it.
 FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
 
-// The window may be closed, or the program end, while the unfolding waits for a pick.
 void FrmViewUnfold::CmdDesplegado() {
+  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); });
+  DespliegaHoja();
+}
+
+// The window may be closed, or the program end, while the unfolding waits for a pick.
+void FrmViewUnfold::DespliegaHoja() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
@@ -181,7 +190,7 @@ void FrmViewUnfold::CmdDesplegado() {
   CmdSolido_->setEnabled(false);
   if (FrmView_->isEnabled()) EWdraw_.CambiaModelo(otra_);
   MuestraSolido(false);
-  Corrida corrida = Desplegado(EWdraw_);
+  Corrida corrida = colocador_->Despliega();
   if (!vivo) return;
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
@@ -254,7 +263,10 @@ void FrmViewUnfold::MuestraEleccion(bool empieza) {
 void FrmViewUnfold::MuestraPunto(QPointF punto) {
   const int decimales = estado.iUnidad == 1 ? 2 : 3;
   const std::string& rotulo = EWdraw_.RotuloFantasma();
-  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") + Q(Texto(texto::kElige)) +
+  const QString solapes = colocador_->SolapesEn(punto), estilo = solapes.isEmpty() ? "" : kAviso;
+  if (LblEstado_->styleSheet() != estilo) LblEstado_->setStyleSheet(estilo);
+  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") +
+                      (solapes.isEmpty() ? Q(Texto(texto::kElige)) : solapes) +
                       QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
 }
 
@@ -262,9 +274,11 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
 void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   veredicto_ = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  lineaVeredicto_ = Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
-  const bool bien = completo && veredicto_.Cierto();
-  LblEstado_->setStyleSheet(bien ? "" : "background: #c00000; color: white; font-weight: bold;");
+  const QString solapes = colocador_->Solapes();
+  lineaVeredicto_ = (solapes.isEmpty() ? QString() : solapes + ". ") +
+                    Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
+  const bool bien = completo && veredicto_.Cierto() && solapes.isEmpty();
+  LblEstado_->setStyleSheet(bien ? "" : kAviso);
   LblEstado_->ensurePolished();  // bold letters are wider
   PonEstado(lineaVeredicto_);
 }
@@ -273,9 +287,13 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
 void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
   if (hoja_.formas.empty()) return;
   const auto cercana = FrmView_->isEnabled() ? std::nullopt : LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
-  LblEstado_->setText(
-      cercana ? Q(TextoLinea(*cercana, solido_))
-              : LblEstado_->fontMetrics().elidedText(LblEstado_->toolTip(), Qt::ElideRight, LblEstado_->width()));
+  cercana ? LblEstado_->setText(Q(TextoLinea(*cercana, solido_))) : MuestraArrastre({});
+}
+
+// What is dragged onto something; else the verdict.
+void FrmViewUnfold::MuestraArrastre(const QString& solapes) {
+  const QString linea = solapes.isEmpty() ? LblEstado_->toolTip() : solapes;
+  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
 }
 
 void FrmViewUnfold::done(int resultado) {
@@ -290,10 +308,12 @@ void FrmViewUnfold::showEvent(QShowEvent* suceso) {
 
 void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
-// Escape ends what is going on, the innermost first: a pick, a command of the mouse, the window.
+// Escape ends what is going on, the innermost first: a pick, a drag, a command of the mouse, the window.
 void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {
   if (suceso->key() == Qt::Key_Escape && lienzo_->Eligiendo()) {
     lienzo_->CancelaEleccion();
+  } else if (suceso->key() == Qt::Key_Escape && colocador_->CancelaArrastre()) {
+    return;
   } else if (suceso->key() == Qt::Key_Escape ? !lienzo_->TerminaMando() : !PulsaConEnter(*this, *suceso)) {
     QDialog::keyPressEvent(suceso);
   }

@@ -8,6 +8,7 @@
 
 #include "shell/corrida.h"
 #include "viewer/ewdraw.h"
+#include "windows/colocador.h"
 #include "windows/exportador.h"
 #include "windows/lienzo.h"
 #include "windows/proporcion.h"
@@ -34,6 +35,7 @@ class FrmViewUnfold : public QDialog {
   void Teclas();
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
+  void DespliegaHoja();
   void CmdSave();
   void CmdExacto();
   void CmdSolido();
@@ -45,6 +47,7 @@ class FrmViewUnfold : public QDialog {
   void LimpiaEstado();
   void PonEstado(const QString& linea);
   void PonHecho(const QString& hecho);
+  void MuestraArrastre(const QString& solapes);
   void MuestraVeredicto(const Corrida& corrida);
 
   Proporcion proporcion_;
@@ -53,6 +56,7 @@ class FrmViewUnfold : public QDialog {
   Veredicto veredicto_;   // on it
   EWdraw EWdraw_, otra_;  // what shows; solid or pattern, whichever doesn't
   Lienzo* lienzo_;
+  Colocador* colocador_;
   QGroupBox *FrmView_, *FrmZoom_;
   QPushButton *CmdDesplegado_, *CmdSave_, *CmdExacto_, *CmdSolido_, *cmdAlambre_;
   Exportador* CmdExport_;

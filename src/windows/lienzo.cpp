@@ -115,6 +115,7 @@ void Lienzo::PermiteOrbitar(bool permite) {
   orbita_ = permite;
   if (!permite) arrastre_.reset();
   if (!permite && mando_ == MandoVista::orbit) TerminaMando();
+  emit orbitable(permite);
 }
 
 void Lienzo::PonPuntero() {
@@ -215,6 +216,7 @@ void Lienzo::paintEvent(QPaintEvent*) {
   } else {
     Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
   }
+  if (encima_) encima_(pintor, encuadre_);
   if (eleccion_) PintaFantasma(pintor);
   if (arrastre_ == MandoVista::zoomWindow) {
     pintor.setPen(QPen(Qt::white, 0, Qt::DashLine));

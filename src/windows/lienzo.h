@@ -4,6 +4,7 @@
 // command says. A pick gives the left button to the placing of a shape, which hangs on the pointer meanwhile.
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -35,6 +36,13 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void PermiteOrbitar(bool permite);
   /// Shows this solid, shaded, in place of the model's lines, which still say what is in view; null: the lines.
   void PonSolido(const Solido* solido);
+  bool Orbitable() const { return orbita_; }
+  bool ConMando() const { return mando_.has_value(); }
+  /// Where the model is under a place of the widget.
+  QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
+  QPointF Puntero() const { return Modelo(raton_); }
+  /// What is painted over the model.
+  void PonEncima(std::function<void(QPainter&, const Encuadre&)> pinta) { encima_ = std::move(pinta); }
 
  signals:
   /// Coordinates of the pointer during a pick, in model units.
@@ -43,6 +51,8 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void pasa(QPointF punto, double alcance);
   /// A pick begins or ends.
   void eligiendo(bool empieza);
+  /// Whether the model may be turned.
+  void orbitable(bool permite);
   /// The command of the left button, null for none.
   void mandoCambiado(std::optional<duktores::MandoVista> mando);
   /// The model has been turned by hand.
@@ -59,7 +69,6 @@ class Lienzo : public QWidget, public VistaEWdraw {
  private:
   struct Eleccion;  // a waiting pick; outlives the widget if need be
 
-  QPointF Modelo(QPointF raton) const { return encuadre_.DelDispositivo(raton, size()); }
   void Encuadra(QRectF plano);
   void EncuadraEleccion();
   void EmpiezaOrbita();
@@ -84,6 +93,7 @@ class Lienzo : public QWidget, public VistaEWdraw {
     Punto3 direccion;
   } orbitado_;
   std::shared_ptr<Eleccion> eleccion_;
+  std::function<void(QPainter&, const Encuadre&)> encima_;
 };
 
 }  // namespace duktores

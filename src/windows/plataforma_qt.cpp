@@ -57,12 +57,15 @@ void PlataformaQt::CajaMensaje(std::string_view texto, EstiloMensaje estilo, std
   QMessageBox caja(icono, Q(titulo), {}, QMessageBox::Ok, Padre());
   caja.setTextFormat(Qt::PlainText);
   caja.setText(Q(texto));
+  caja.setInformativeText(Q(detalle_));
   caja.exec();
 }
 
 void PlataformaQt::VentanaMensaje(std::string_view texto) {
   QDialog ventana(Padre());
   ventana.setObjectName("FrMsgbox");
+  auto* detalle = new QLabel(Q(detalle_), &ventana);
+  detalle->setHidden(detalle_.empty());
   auto* lblmsgbox = new QLabel;
   lblmsgbox->setTextFormat(Qt::PlainText);
   lblmsgbox->setWordWrap(true);
@@ -73,6 +76,7 @@ void PlataformaQt::VentanaMensaje(std::string_view texto) {
   aceptar->setObjectName("CmdAceptar");
   auto* columna = new QVBoxLayout(&ventana);
   columna->addWidget(lblmsgbox);
+  columna->addWidget(detalle);
   columna->addWidget(aceptar, 0, Qt::AlignHCenter);
   columna->setSizeConstraint(QLayout::SetFixedSize);
   QObject::connect(aceptar, &QPushButton::clicked, &ventana, &QDialog::accept);

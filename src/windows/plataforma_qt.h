@@ -1,6 +1,8 @@
 #pragma once
 // The world outside as Qt shows it. The host's window can be had under X11 alone; elsewhere there is none.
 
+#include <string>
+
 #include "platform/plataforma.h"
 
 class QWidget;
@@ -11,6 +13,7 @@ class PlataformaQt : public Plataforma {
  public:
   void CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) override;
   void VentanaMensaje(std::string_view texto) override;
+  void PonDetalle(std::string_view detalle) override { detalle_ = detalle; }
   void PonCursorEspera(bool espera) override;
   /// 0 if the active window is one of this program's.
   Ventana VentanaActiva() override;
@@ -24,6 +27,7 @@ class PlataformaQt : public Plataforma {
  private:
   QWidget* principal_ = nullptr;
   bool espera_ = false;
+  std::string detalle_;
 };
 
 }  // namespace duktores

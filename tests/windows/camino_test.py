@@ -1,5 +1,6 @@
-"""One road through the installed program under an X server: choose, type, unfold in two pieces, save, leave. The file
-must hold what duktores-batch makes of the same values. Usage: camino_test.py PROGRAM"""
+"""Two roads through the installed program under an X server: choose, type, unfold in two pieces by clicks, save, leave;
+and a piece of eight shapes with everything placed by one key, in six actions from its dialog to the file. The files must
+be what duktores-batch makes of the same values. Usage: camino_test.py PROGRAM"""
 
 import contextlib
 import json
@@ -16,6 +17,9 @@ import ezdxf
 TOOLS = ("setpriv", "Xvfb", "openbox", "xdotool")
 FIELDS = {"H": 300, "RS": 95.5, "LI": 400, "AI": 300, "AX": 0, "AY": 25, "Alfa": -10}
 JOB = {"name": "pieza", "piece": "TransCR", **FIELDS, "Divisions": 24, "Start": 2, "Pieces": 2}
+ROUNDED = {"H": 300, "r11": 40, "r12": 40, "r13": 40, "r14": 40, "r21": 80, "r22": 80, "r23": 80, "r24": 80,
+           "LX1": 300, "LY1": 250, "LX2": 500, "LY2": 400, "AX": 0, "AY": 10, "Alfa": 0, "Beta": 0, "Divisions": 16}
+JOB_ROUNDED = {"name": "rounded", "piece": "TransEsp1", **ROUNDED}
 CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickness=2\nSizetxt=10\nFiber=2\n"
           "BendColour=3\nDimensions=1\nDensity=7.85\nBox=1\n")
 # Places in the windows at their design sizes.
@@ -152,6 +156,36 @@ def road(screen, program, file):
     until("the host's window", lambda: screen.active("Duktors") == host)
 
 
+def short_road(screen, program, file):
+    """Everything placed by Enter. An Enter that is still held from the prompt's box doesn't place."""
+    host = screen.active("Duktors")
+    process = screen.start(str(program))
+    screen.window("Duktors", but=host)
+    screen.xdotool("key", *["Down"] * 8, "Return")
+    dialog = screen.window("Round 4 Vert. Transf.")
+    for value in ROUNDED.values():
+        screen.xdotool("type", "--delay", 2, "--", value)
+        screen.xdotool("key", "Return")
+    screen.xdotool("key", "Return")
+    viewer = screen.window("Round 4 Vert. Transf.", but=dialog)
+
+    screen.click(viewer, UNFOLD)  # 1
+    screen.window(MESSAGE)
+    screen.xdotool("keydown", "Return")  # 2
+    until("the end of the prompt", lambda: screen.active("Round 4 Vert. Transf.") == viewer)
+    time.sleep(1.2)  # the key repeats itself after 0.66 s
+    screen.xdotool("keyup", "Return")
+    screen.click(viewer, SAVE)  # nothing to save yet
+    assert screen.active("Round 4 Vert. Transf.") == viewer, "placed by the key that has closed the prompt"
+    screen.xdotool("key", "Return")  # 3
+    screen.click_until("Save the DXF", viewer, SAVE)  # 4
+    screen.xdotool("type", "--delay", 2, file.stem)
+    screen.xdotool("key", "Return")  # 5
+    screen.answer(MESSAGE)  # 6
+    screen.click(viewer, LEAVE)
+    assert process.wait(15) == 0, "exit status"
+
+
 def seen(file):
     """What is drawn, without its places: the lengths stand in the tables."""
     return [(e.dxftype(), e.dxf.color, e.dxf.text if e.dxftype() == "TEXT" else "")
@@ -172,13 +206,16 @@ def main():
         file = folder / "pieza.dxf"
         try:
             road(screen, duct / program.name, file)
+            short_road(screen, duct / program.name, folder / "rounded.dxf")
         except Exception:
             screen.log.seek(0)
             print(screen.log.read())
             raise
-        subprocess.run([duct / "duktores-batch", "-", "--out", folder / "batch"], input=json.dumps([JOB]).encode(),
+        subprocess.run([duct / "duktores-batch", "-", "--out", folder / "batch"], input=json.dumps([JOB, JOB_ROUNDED]).encode(),
                        check=True, stdout=subprocess.DEVNULL, timeout=60)
         assert seen(file) == seen(folder / "batch/pieza.dxf"), "another drawing than the batch's"
+        rounded = [(where / "rounded.dxf").read_bytes() for where in (folder, folder / "batch")]
+        assert rounded[0] == rounded[1], "not placed as the batch program does"
     return 0
 
 

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "dxf/dibujo.h"
+#include "mesa.h"
 #include "pieza_tecleada.h"
 #include "shell/visor.h"
 #include "state/textos.h"
@@ -255,6 +256,63 @@ TEST_F(Visor, ClosingItEndsAPick) {
     EXPECT_FALSE(visor_.isVisible() || lienzo_->Eligiendo());
     EXPECT_EQ(estado.oDrawing->Count(), 0);
   }
+}
+
+// Without a window: the drawing of who clicks these places.
+std::string Directo(const std::vector<Punto2>& sitios) {
+  const auto guarda = std::exchange(estado.plataforma, nullptr);
+  Mesa mesa;
+  for (const Punto2 p : sitios) mesa.puntos.push_back({p.x, p.y, 0});
+  EWdraw axew;
+  axew.PonVista(&mesa);
+  Desplegado(axew);
+  estado.plataforma = guarda;
+  return estado.oDrawing->GetEntities();
+}
+
+TEST_F(Visor, KeysAndMousePlaceAndMove) {
+  auto sitios = Reparte(DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)).patron, FormatoDeEstado());
+  const std::string todas = Directo(sitios);
+  const auto dibujado = [] { return estado.oDrawing->GetEntities(); };
+  const auto raton = [this](Punto2 p) {
+    const QPointF cero = lienzo_->Modelo({0, 0}), paso = lienzo_->Modelo({1, 1}) - cero;
+    return QPoint(qRound((p.x - cero.x()) / paso.x()), qRound((p.y - cero.y()) / paso.y()));
+  };
+  // Enter that is held since the prompt doesn't place; a new one does, wherever the focus is.
+  Responde(63, [&] {
+    visor_.activateWindow();  // what a window manager does
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&visor_));
+    Hijo(visor_, "CmdCancelar").setFocus();
+    QTest::simulateEvent(&Hijo(visor_, "CmdCancelar"), true, Qt::Key_Return, {}, "\r", true);
+    QTest::keyClick(&visor_, Qt::Key_Backspace);  // nothing to take back
+    EXPECT_TRUE(lienzo_->Eligiendo() && visor_.isVisible());
+    QTest::keyClick(&Hijo(visor_, "CmdCancelar"), Qt::Key_Return);
+  });
+  AlAbrir([&] {
+    Pulsa(visor_, "CmdDesplegado");
+    EXPECT_TRUE(dibujado() == todas && Habilitado("CmdSave") && visor_.isVisible());
+    // The second block onto the first one, by its middle.
+    const QImage antes = Imagen();
+    const QPoint desde = raton(sitios[3] + Punto2{300, -300}), hasta = raton(sitios[1] + Punto2{310, -280});
+    Arrastra(*lienzo_, Qt::LeftButton, desde, hasta);
+    const QPointF mas = lienzo_->Modelo(hasta) - lienzo_->Modelo(desde);
+    sitios[3] = sitios[3] + Punto2{mas.x(), mas.y()};
+    const std::string movidas = dibujado();
+    EXPECT_TRUE(movidas == Directo(sitios));
+    EXPECT_TRUE(Hijo<QLabel>(visor_, "LblEstado").text().startsWith(QString::fromStdString(Texto(204))));
+    QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(dibujado() == todas && Imagen() == antes) << "the view stays";
+    QTest::keyClick(&visor_, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_TRUE(dibujado() == movidas);
+    Pulsa(visor_, "CmdNombres");
+    EXPECT_NE(Imagen(), antes);
+    QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
+    // What was placed at once is taken back at once, and hangs on the pointer without a prompt.
+    usuario_.Cuando("pick", [&](QWidget&) { Pulsa(visor_, "CmdTodas"); });
+    QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(dibujado() == todas);
+    visor_.close();
+  });
 }
 
 class UnLienzo : public ConVentanas {
