@@ -66,7 +66,7 @@ void ExigeDesarrollo() {
   EWdraw vista, axew;
   Dibuja3D(vista);
   axew.PonVista(&mesa);
-  const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
+  const auto [fin, hoja, dados] = Desplegado(axew, std::move(desarrollo));
   assert(fin != FinCorrida::eleccionRechazada && mesa.mensajes == (fin == FinCorrida::error ? 1 : 0));
   Juzga(*estado.pieza, solido, hoja);
   ExigeDxf(estado.oDrawing->GetEntities());

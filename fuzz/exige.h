@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "batch/lista.h"
+#include "jobs/lista.h"
 
 namespace duktores {
 

@@ -23,6 +23,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "jobs/piezas.h"
 #include "piece/numeros_texto.h"
 #include "shell/lista.h"
 #include "state/arranque.h"
@@ -31,6 +32,7 @@
 #include "state/textos.h"
 #include "windows/fr_ajustes.h"
 #include "windows/fr_dialogo.h"
+#include "windows/fr_elige_pieza.h"
 #include "windows/fr_lista_duktores.h"
 #include "windows/frm_view_unfold.h"
 #include "windows/lienzo.h"
@@ -59,6 +61,12 @@ constexpr Tecleada kTolva{TipoPieza::cr, "300 100 400 300 50 0 0 24 1"};
 constexpr Tecleada kRadioGrande{TipoPieza::cr, "300 250 400 300 0 0 0 24 1"};
 constexpr Tecleada kInclinada{TipoPieza::elip, "300 200 150 400 300 30 0 20 12 1"};
 constexpr Tecleada kRedondeada{TipoPieza::esp1, "300 40 40 60 60 80 80 100 100 300 250 500 400 0 20 0 0 16"};
+constexpr std::string_view kLista = R"([
+  {"name": "hood-400", "piece": "TransCR", "H": 300, "RS": 100, "LI": 400, "AI": 400, "AX": 0, "AY": 0},
+  {"name": "cowl-350", "piece": "TransRC", "H": 250, "RI": 220, "LS": 300, "AS": 300, "AX": 0, "AY": 0},
+  {"name": "oval-400x200", "piece": "TransElip", "H": 300, "eMaS": 400, "eMeS": 200, "Li": 450, "Ai": 300},
+  {"name": "end-600", "piece": "TransEsp2", "H": 300, "r": 120, "Lx": 600, "Ly": 300, "Ax": 0, "Ay": 0}
+])";
 
 std::vector<std::string> Textos(const Tecleada& pieza) {
   std::istringstream palabras(pieza.textos);
@@ -199,6 +207,19 @@ QImage Ajustes(int pagina) {
   return Foto(ventana);
 }
 
+QImage Lista() {
+  const LecturaPiezas lectura = LeePiezasDe(kLista);
+  FrListaDuktores catalogo;
+  QImage foto;
+  QTimer::singleShot(0, &catalogo, [&] {
+    QWidget* ventana = QApplication::activeModalWidget();
+    foto = Foto(*ventana);
+    ventana->close();
+  });
+  EligePieza(catalogo, lectura.trabajos);
+  return foto;
+}
+
 struct Lamina {
   const char* nombre;
   std::function<QImage()> hace;
@@ -221,6 +242,7 @@ std::vector<Lamina> Laminas() {
       {"special-pattern", [] { return Desarrollada(kRedondeada); }},
       {"exact", DosReglas},
       {"export", Exportacion},
+      {"lists", Lista},
       {"settings", [] { return Ajustes(0); }},
       {"machine", [] { return Ajustes(1); }},
       {"message", [] { return Medidas(kRadioGrande, true); }},

@@ -70,7 +70,8 @@ void TecleaMedidas(Dialogo& dialogo, const std::map<std::string, double>& m, std
       dialogo.Elige(static_cast<int>(i), campo.valores[azar() % campo.valores.size()]);
     } else {
       const double v = m.contains(palabra) ? m.at(palabra) : std::uniform_real_distribution<double>(50, 500)(azar);
-      dialogo.CampoDe(static_cast<int>(i)).texto = campo.divisiones ? std::to_string(std::lround(v)) : Texto2(v);
+      dialogo.CampoDe(static_cast<int>(i)).texto =
+          campo.uso == Uso::divisiones ? std::to_string(std::lround(v)) : Texto2(v);
     }
   }
 }

@@ -82,7 +82,7 @@ void Configura(Azar& azar) {
 
 // From 0.01 to 99999.99, what stands already in another field, or an edge.
 std::string Salvaje(Azar& azar, const Dialogo& dialogo, std::size_t campo) {
-  if (dialogo.Definicion().campos[campo].divisiones)
+  if (dialogo.Definicion().campos[campo].uso == Uso::divisiones)
     return std::to_string(azar.Una(20) ? azar.Hasta(1000) : 4 + 4 * azar.Hasta(azar.Una(8) ? 30 : 6));
   const std::string signo = azar.Una(3) ? "-" : "";
   if (azar.Una(4)) return signo + azar.Uno({"0", "0.01", "99999.99", "90", "89.99", "45", "1", "0.005", "180", "5."});
@@ -153,7 +153,7 @@ struct Cuenta {
 std::string Trabaja(EWdraw& axew, const Mesa& mesa, Cuenta& cuenta, const std::string& fichero) {
   Dibuja3D(axew);
   const Solido solido = SolidoDe(*estado.pieza);
-  const auto [fin, hoja] = Desplegado(axew);
+  const auto [fin, hoja, dados] = Desplegado(axew);
   cuenta.sinPunto += fin == FinCorrida::eleccionRechazada;
   cuenta.errores += fin == FinCorrida::error;
   if (fin == FinCorrida::error && mesa.mensajes != 1) return "ended, but not told once";

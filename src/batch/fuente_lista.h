@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "batch/flujo_lista.h"
+#include "jobs/flujo_lista.h"
 #include "state/descriptor.h"
 
 namespace duktores {

@@ -12,11 +12,11 @@
 
 #include "batch/fuente_lista.h"
 #include "batch/informe.h"
-#include "batch/lista.h"
 #include "batch/obreros.h"
 #include "batch/ordenes.h"
 #include "batch/senales.h"
 #include "dxf/composicion.h"
+#include "jobs/lista.h"
 #include "piece/numeros_texto.h"
 #include "state/arranque.h"
 #include "state/estado.h"

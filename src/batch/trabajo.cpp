@@ -1,19 +1,18 @@
 #include "batch/trabajo.h"
 
-#include <algorithm>
 #include <filesystem>
 
 #include "batch/puntos_lote.h"
 #include "dxf/escritor.h"
+#include "jobs/llenado.h"
 #include "piece/numeros_texto.h"
 #include "sheet/hoja.h"
 #include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/lista.h"
-#include "shell/nombres.h"
+#include "state/nombres.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
-#include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/textos.h"
 
@@ -43,45 +42,8 @@ std::string Palabra(const Dialogo& dialogo, int campo) {
   return std::string(dialogo.Definicion().campos[static_cast<std::size_t>(campo)].palabra);
 }
 
-std::string Lista(std::span<const std::string_view> valores) {
-  std::string lista;
-  for (const auto valor : valores) (lista += lista.empty() ? "" : ", ") += valor;
-  return lista;
-}
-
-// Key by key, as a person would.
-std::optional<std::string> EscribeCampo(Dialogo& dialogo, int campo, const std::string& texto) {
-  const DefCampo& def = dialogo.Definicion().campos[static_cast<std::size_t>(campo)];
-  if (!def.filtro) {
-    if (dialogo.Elige(campo, texto)) return std::nullopt;
-    return std::string(def.palabra) + " must be one of " + Lista(def.valores) + ", not \"" + texto + "\".";
-  }
-  SeleccionaTodo(dialogo.CampoDe(campo));
-  for (const char16_t tecla : Utf16(texto)) {
-    if (!Teclea(tecla, dialogo.CampoDe(campo), def.filtro)) {
-      return "\"" + texto + "\" can't be typed into the field " + std::string(def.palabra) + ".";
-    }
-  }
-  return std::nullopt;
-}
-
-std::optional<std::string> EscribeValor(Dialogo& dialogo, const std::string& clave, const std::string& texto) {
-  const auto campos = dialogo.Definicion().campos;
-  if (clave == "Pieces" && dialogo.Definicion().opcionPiezas) {
-    if (texto != "1" && texto != "2") return "Pieces must be one of 1, 2, not \"" + texto + "\".";
-    dialogo.dosPiezas = texto == "2";
-    return std::nullopt;
-  }
-  const auto campo = std::find_if(campos.begin(), campos.end(), [&](const DefCampo& c) { return c.palabra == clave; });
-  if (campo == campos.end())
-    return "\"" + clave + "\" is no key of the piece " + std::string(dialogo.Definicion().clave) + ".";
-  return EscribeCampo(dialogo, static_cast<int>(campo - campos.begin()), texto);
-}
-
 std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, const PlataformaLote& plataforma) {
-  for (const auto& [clave, texto] : trabajo.valores) {
-    if (auto motivo = EscribeValor(dialogo, clave, texto)) return Rechazo{clave, *motivo};
-  }
+  if (auto rechazo = LlenaDialogo(dialogo, trabajo)) return rechazo;
   switch (dialogo.CmdAceptar()) {
     case Respuesta::campoVacio:
       return Rechazo{Palabra(dialogo, dialogo.Foco()), plataforma.mensaje};
@@ -100,7 +62,7 @@ std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Sol
   Puntos puntos(sitios, plataforma.mensaje);
   axew.PonVista(&puntos);
   plataforma.mensaje.clear();
-  const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
+  const auto [fin, hoja, dados] = Desplegado(axew, std::move(desarrollo));
   axew.PonVista(nullptr);
   switch (fin) {
     case FinCorrida::completo:

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "batch/lista.h"
+#include "jobs/lista.h"
 #include "paint/pintura.h"
 #include "shell/csv.h"
 

@@ -11,7 +11,7 @@ namespace duktores {
 
 Dialogo::Dialogo(const DefDialogo& def) : def_(&def), campos_(def.campos.size()) {
   for (std::size_t i = 0; i < campos_.size(); ++i) {
-    if (def.campos[i].divisiones) campos_[i].texto = std::to_string(estado.iDivisiones);
+    if (def.campos[i].uso == Uso::divisiones) campos_[i].texto = std::to_string(estado.iDivisiones);
   }
 }
 
@@ -46,6 +46,12 @@ bool Dialogo::Elige(int campo, std::string_view valor) {
   if (std::find(valores.begin(), valores.end(), valor) == valores.end()) return false;
   CampoDe(campo).texto = valor;
   return true;
+}
+
+void Dialogo::PonCeros() {
+  for (std::size_t i = 0; i < campos_.size(); ++i) {
+    if (def_->campos[i].uso == Uso::desvio && campos_[i].texto.empty()) campos_[i].texto = "0";
+  }
 }
 
 void Dialogo::Activa() {

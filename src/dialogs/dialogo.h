@@ -23,6 +23,10 @@ enum class Rotulo {
   textoDosPuntos,  ///< a text that ends in a colon, which Chinese leaves out
 };
 
+/// What a field is for: a size of the piece, an offset or a tilt, which are 0 in a straight one, or the divisions,
+/// which are `estado.iDivisiones` at first and not empty.
+enum class Uso { medida, desvio, divisiones };
+
 struct DefCampo {
   std::string_view nombre;   ///< of the control
   std::string_view palabra;  ///< on the label, and key of a job
@@ -30,7 +34,7 @@ struct DefCampo {
   int textoRotulo;                            ///< of `texto` and `textoDosPuntos`; of `angulo` in Chinese
   Filtro filtro;                              ///< null: a combo box, which the keyboard can't fill
   std::span<const std::string_view> valores;  ///< of a combo box
-  bool divisiones = false;                    ///< shows `estado.iDivisiones` at first, not empty
+  Uso uso = Uso::medida;
 };
 
 /// The numbers of the fields, in their order.
@@ -88,6 +92,9 @@ class Dialogo {
   const Campo& CampoDe(int campo) const { return campos_.at(static_cast<std::size_t>(campo)); }
   /// Takes one of a combo box's values; false for any other text.
   bool Elige(int campo, std::string_view valor);
+
+  /// Fills the empty offsets and tilts with 0.
+  void PonCeros();
 
   bool dosPiezas = true;
 

@@ -24,9 +24,9 @@ constexpr std::array kCampos{
     DefCampo{"TxteMeS",   "eMeS",      Rotulo::textoLongitud, texto::kEjeMenor,            FiltraNumero, {}},
     DefCampo{"TxtL",      "Li",        Rotulo::textoLongitud, texto::kLi,                  FiltraNumero, {}},
     DefCampo{"TxtA",      "Ai",        Rotulo::textoLongitud, texto::kAi,                  FiltraNumero, {}},
-    DefCampo{"TxtAX",     "AX",        Rotulo::textoLongitud, texto::kAX,                  FiltraNumero, {}},
-    DefCampo{"TxtAY",     "AY",        Rotulo::textoLongitud, texto::kAY,                  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",   "Alfa",      Rotulo::angulo,        texto::kAlfaChino,           FiltraNumero, {}},
+    DefCampo{"TxtAX",     "AX",        Rotulo::textoLongitud, texto::kAX, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",     "AY",        Rotulo::textoLongitud, texto::kAY, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",   "Alfa",      Rotulo::angulo,        texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
     DefCampo{"CmbDivi",   "Divisions", Rotulo::texto,         texto::kDivisionesElip,      nullptr,      kDivisiones},
     DefCampo{"CmbPosIni", "Start",     Rotulo::texto,         texto::kPosicionInicioElip,  nullptr,      kPosiciones},
 };

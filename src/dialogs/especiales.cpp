@@ -30,11 +30,11 @@ constexpr std::array kCampos1{
     DefCampo{"TxtLY1",         "LY1",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX2",         "LX2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY2",         "LY2",  Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos2{
@@ -42,11 +42,11 @@ constexpr std::array kCampos2{
     DefCampo{"TxtR",           "r",    Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "Lx",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos3{
@@ -54,11 +54,11 @@ constexpr std::array kCampos3{
     DefCampo{"TxtR",           "R",    Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "LX",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "LY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "AX",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "AY",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos4{
@@ -70,11 +70,11 @@ constexpr std::array kCampos4{
     DefCampo{"TxtR24",         "r24",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX",          "Lx",   Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY",          "Ly",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraNumero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraNumero, {}, Uso::divisiones},
 };
 
 constexpr std::array kCampos5{
@@ -87,11 +87,11 @@ constexpr std::array kCampos5{
     DefCampo{"TxtLY1",         "Ly1",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLX2",         "Lx2",  Rotulo::longitud,  0,  FiltraNumero, {}},
     DefCampo{"TxtLY2",         "Ly2",  Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}},
-    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}},
-    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}},
-    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, true},
+    DefCampo{"TxtAX",          "Ax",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAY",          "Ay",   Rotulo::longitud,  0,  FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtAlfa",        "Alfa", Rotulo::angulo,    texto::kAlfaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtBeta",        "Beta", Rotulo::angulo,    texto::kBetaChino, FiltraNumero, {}, Uso::desvio},
+    DefCampo{"TxtDivisiones", "Divisions", Rotulo::texto, texto::kDivisiones, FiltraEntero, {}, Uso::divisiones},
 };
 
 // clang-format on

@@ -27,9 +27,9 @@ constexpr Campos CamposDe(std::array<std::string_view, 3> nombres, std::array<st
       {nombres[0],   palabras[0], Rotulo::longitud,        0,   FiltraNumero,      {}},
       {nombres[1],   palabras[1], Rotulo::longitud,        0,   FiltraNumero,      {}},
       {nombres[2],   palabras[2], Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAX",      "AX",        Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAY",      "AY",        Rotulo::longitud,        0,   FiltraNumero,      {}},
-      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         texto::kAlfaChino,      FiltraNumeroSigno, {}},
+      {"TxtAX",      "AX",        Rotulo::longitud,        0,   FiltraNumero,      {}, Uso::desvio},
+      {"TxtAY",      "AY",        Rotulo::longitud,        0,   FiltraNumero,      {}, Uso::desvio},
+      {"TxtAlfa",    "Alfa",      Rotulo::angulo,         texto::kAlfaChino,      FiltraNumeroSigno, {}, Uso::desvio},
       {"CmbDivi",    "Divisions", Rotulo::texto,          texto::kDivisiones,     nullptr,           kDivisiones},
       {"CmbPosIni",  "Start",     Rotulo::textoDosPuntos, texto::kPosicionInicio, nullptr,           kPosiciones},
   }};

@@ -108,6 +108,14 @@ inline constexpr int kCapaCorte = 277, kCapaArriba = 278, kCapaAbajo = 279, kCap
 inline constexpr int kDoblecesCorte = 281, kNombreMarcado = 282, kTolerancia = 283, kDoblezMinimo = 284;
 inline constexpr int kArcos = 285, kUnFichero = 286, kNinguno = 287, kLineasEnteras = 288, kTrazos = 289;
 
+// Values and files of pieces.
+inline constexpr int kUltimosValores = 290, kCeros = 291, kAbrePieza = 292, kGuardaPieza = 293, kEligePieza = 294;
+inline constexpr int kSinPiezas = 295, kDemasiadoGrande = 296, kNoSeLee = 297, kValorNoSirve = 298;
+inline constexpr int kPiezaDesconocida = 299, kAnade = 300, kReemplaza = 301, kYaHayPiezas = 302;
+inline constexpr int kNombrePieza = 303, kNombreMalo = 304, kPiezaIlegible = 308, kSinFichero = 309;
+// The end of the program with a pattern that isn't saved.
+inline constexpr int kSinGuardar = 305, kDescarta = 306, kSeQueda = 307, kGuardaYSale = 310;
+
 // What is wrong with a text that was to go into a field.
 inline constexpr int kSoloNumero = 320, kSoloCifras = 321, kDecimalesDeMas = 322, kSignoDelante = 323;
 

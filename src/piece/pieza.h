@@ -56,6 +56,7 @@ struct Pieza {
   bool dosPiezas = false;  ///< the pattern is made in two pieces; likewise
   Fibra fibra{};
   double espesor = 0;  ///< of the sheet
+  friend bool operator==(const Pieza&, const Pieza&) = default;
 };
 
 }  // namespace duktores

@@ -13,6 +13,7 @@ struct FormatoHoja {
   double pasoX = 0, pasoY = 0;       ///< from a pattern to its dimensions, and between them, in drawing units
   int caja = 0;                      ///< 0: no title block
   double densidad = 0, espesor = 0;  ///< of the sheet, for the figures of a title block
+  friend bool operator==(const FormatoHoja&, const FormatoHoja&) = default;
 };
 
 /// Of so much sheet: in grams with a density per cubic centimetre, in inches as the density says.

@@ -57,6 +57,12 @@ Desarrollo Colocacion::Desarrolla() {
     cosas_ = Ensaya(desarrollo_->patron, FormatoDeEstado());
     fijas_ = !cosas_.empty() && cosas_.front().fija ? 1 : 0;
     historia_ = {Sitios(fijas_)};
+    conocidos_.resize(std::min(conocidos_.size(), cosas_.size() - fijas_));
+    if (!conocidos_.empty()) {
+      Sitios sitios = Puestas();
+      sitios.insert(sitios.end(), conocidos_.begin(), conocidos_.end());
+      Apunta(std::move(sitios));
+    }
   }
   return *desarrollo_;
 }

@@ -16,8 +16,9 @@ using Sitios = std::vector<Punto2>;
 
 class Colocacion {
  public:
-  /// `hace` makes the pattern of the accepted piece, once.
-  explicit Colocacion(HaceDesarrollo hace) : hace_(std::move(hace)) {}
+  /// `hace` makes the pattern of the accepted piece, once. Those that are asked for first stand at places known before.
+  explicit Colocacion(HaceDesarrollo hace, Sitios conocidos = {})
+      : hace_(std::move(hace)), conocidos_(std::move(conocidos)) {}
 
   /// Draws what has a place and asks for the rest, a prompt's box with each that follows a click. A change during a
   /// pick begins the drawing anew as soon as the pick is refused.
@@ -52,6 +53,7 @@ class Colocacion {
   void Apunta(Sitios sitios);
 
   HaceDesarrollo hace_;
+  Sitios conocidos_;
   std::optional<Desarrollo> desarrollo_;
   std::vector<Cosa> cosas_;
   std::size_t fijas_ = 0;                      // of the things, those that lie where they are

@@ -75,16 +75,22 @@ FormatoHoja FormatoDeEstado() {
 }
 
 Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pide) {
-  if (!estado.pieza) return {};
+  Corrida corrida;
+  if (!estado.pieza) return corrida;
   estado.oDrawing = std::make_shared<cDrawing>();
   estado.oDXF = std::make_shared<cDXF>();
   try {
     Desarrollo desarrollo = hace();
     if (estado.pieza->regla == Regla::exacta) estado.oDrawing->UnaVez();
     FilaDe(estado.pieza->tipo).deja(*estado.pieza, desarrollo);
-    return {FinCorrida::completo, DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), pide)};
+    const auto anota = [&, &sitios = corrida.sitios](const Encargo& encargo) {
+      sitios.push_back(pide(encargo));
+      return sitios.back();
+    };
+    corrida.hoja = DibujaPatron(axew, std::move(desarrollo.patron), FormatoDeEstado(), anota);
+    corrida.fin = FinCorrida::completo;
   } catch (const EleccionRechazada&) {
-    return {FinCorrida::eleccionRechazada, {}};
+    corrida.fin = FinCorrida::eleccionRechazada;
   } catch (const ErrorCorrida& error) {
     MuestraMensaje(Texto(error.NumeroTexto()), EstiloMensaje::exclamacion, "");
   } catch (const std::bad_alloc&) {
@@ -92,7 +98,7 @@ Corrida Despliega(EWdraw& axew, const HaceDesarrollo& hace, const PideSitio& pid
   } catch (const std::exception&) {
     // An error without a text of its own: the run ends with what has been drawn.
   }
-  return {};
+  return corrida;
 }
 
 Corrida Despliega(EWdraw& axew) {

@@ -3,6 +3,7 @@
 // type it is. Without one nothing is drawn.
 
 #include <functional>
+#include <vector>
 
 #include "piece/patron.h"
 #include "sheet/formato_hoja.h"
@@ -30,7 +31,8 @@ enum class FinCorrida { completo, eleccionRechazada, error };
 
 struct Corrida {
   FinCorrida fin = FinCorrida::error;
-  Patron hoja;  ///< of a complete one: the pattern as it stands on the sheet
+  Patron hoja{};                 ///< of a complete one: the pattern as it stands on the sheet
+  std::vector<Punto2> sitios{};  ///< the places that its shapes and blocks have got, in the order in which it asks
 };
 
 /// Unfolds the accepted piece into the emptied control and a new `estado.oDrawing`. Never throws: a refused pick ends

@@ -4,9 +4,9 @@
 #include <filesystem>
 
 #include "piece/numeros_texto.h"
-#include "shell/nombres.h"
 #include "shell/texto_veredicto.h"
 #include "state/estado.h"
+#include "state/nombres.h"
 #include "state/textos.h"
 
 namespace duktores {

@@ -22,6 +22,7 @@ struct FilaTexto {
 
 constexpr FilaTexto kTextos[] = {
 #include "state/textos_tabla.inc"
+#include "state/textos_ventanas.inc"
 };
 
 }  // namespace

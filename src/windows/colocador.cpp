@@ -83,8 +83,8 @@ void Colocador::Teclas() {
   tecla(Qt::Key_L, false, [this] { CmdNombres_->toggle(); });
 }
 
-void Colocador::Empieza(HaceDesarrollo hace) {
-  colocacion_.emplace(std::move(hace));
+void Colocador::Empieza(HaceDesarrollo hace, Sitios conocidos) {
+  colocacion_.emplace(std::move(hace), std::move(conocidos));
   nombres_.clear();
 }
 

@@ -21,8 +21,8 @@ class Colocador : public QObject {
   /// Lives and dies with the widget, and works while a flat pattern shows there.
   Colocador(EWdraw& axew, Lienzo& lienzo);
 
-  /// A new pattern: nothing has a place.
-  void Empieza(HaceDesarrollo hace);
+  /// A new pattern: but for the first, at places known before, nothing has a place.
+  void Empieza(HaceDesarrollo hace, Sitios conocidos);
   /// Draws the pattern, asking for places that are missing.
   Corrida Despliega();
 

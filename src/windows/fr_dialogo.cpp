@@ -2,14 +2,20 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <algorithm>
+#include <utility>
 
+#include "jobs/llenado.h"
+#include "jobs/memoria.h"
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/boton_abre.h"
 #include "windows/campo_texto.h"
+#include "windows/ficheros_pieza.h"
 #include "windows/fr_ajustes.h"
-#include "windows/frm_view_unfold.h"
+#include "windows/fr_manual.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
 #include "windows/registros.h"
@@ -23,8 +29,8 @@ namespace {
 
 constexpr int kMargen = 12, kAltoFila = 31, kAltoControl = 26;
 constexpr int kAnchoRotulo = 186, kAnchoControl = 96, kAnchoColumna = kAnchoRotulo + kAnchoControl + 24;
-constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46, kAltoAjustes = 34;
-constexpr int kFilasPorColumna = 11;
+constexpr int kAnchoImagen = 420, kAltoImagen = 340, kAltoPie = 46, kAltoAjustes = 34, kAltoBarra = 44;
+constexpr int kFilasPorColumna = 11, kAltoBoton = 34;
 
 int Columnas(const DefDialogo& def) { return static_cast<int>(def.campos.size()) > kFilasPorColumna ? 2 : 1; }
 
@@ -40,7 +46,7 @@ QRect LugarVivo(const DefDialogo& def) {
 
 QSize Diseno(const DefDialogo& def) {
   const QRect vivo = LugarVivo(def);
-  return {vivo.x() + vivo.width() + kMargen, vivo.y() + vivo.height() + kMargen + kAltoAjustes + kAltoPie};
+  return {vivo.x() + vivo.width() + kMargen, vivo.y() + vivo.height() + kMargen + kAltoAjustes + kAltoPie + kAltoBarra};
 }
 
 QString Q(std::string_view texto) { return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())); }
@@ -58,13 +64,15 @@ FrDialogo::FrDialogo(const FilaPieza& fila, QWidget* padre)
   auto* image1 = new Imagen(this);
   image1->setObjectName("Image1");
   image1->Carga(fila.imagen);
-  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, Diseno(def).height() - kAltoPie - 2 * kMargen});
+  const int pie = Diseno(def).height() - kAltoBarra - kAltoPie;
+  proporcion_.Coloca(*image1, {kMargen, kMargen, kAnchoImagen, pie - 2 * kMargen});
   Campos();
   vivo_ = new SolidoVivo(this);
   proporcion_.Coloca(*vivo_, LugarVivo(def));
   Vivo();
-  Ajustes(Diseno(def).height() - kAltoPie - kAltoAjustes);
-  Pie(Diseno(def).height() - kAltoPie);
+  Ajustes(pie - kAltoAjustes);
+  Pie(pie);
+  Barra(pie + kAltoPie);
   PonAyuda(*this);
 }
 
@@ -143,12 +151,16 @@ void FrDialogo::Ajustes(int y) {
     PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + " (Ctrl+,)");
   });
   ConectaAjustes(*ajustes);
-  const int x = 2 * kMargen + kAnchoImagen;
-  proporcion_.Coloca(*ajustes, {x, y, Diseno(dialogo_.Definicion()).width() - kMargen - x, kAltoAjustes - 4});
+  auto* manual = new QPushButton(this);
+  textos_.Pon([manual] { PonBoton(*manual, "CmdManual", Q(Texto(texto::kManual))); });
+  ConectaManual(*manual);
+  const int x = 2 * kMargen + kAnchoImagen, fin = Diseno(dialogo_.Definicion()).width() - kMargen;
+  proporcion_.Coloca(*ajustes, {x, y, fin - kAltoBoton - kMargen - x, kAltoAjustes - 4});
+  proporcion_.Coloca(*manual, {fin - kAltoBoton, y, kAltoBoton, kAltoAjustes - 4});
 }
 
 void FrDialogo::Pie(int y) {
-  constexpr int kAnchoBoton = 130, kAltoBoton = 34;
+  constexpr int kAnchoBoton = 130;
   lblerror_ = new QLabel(this);
   lblerror_->setObjectName("lblerror");
   lblerror_->setAlignment(Qt::AlignCenter);
@@ -188,6 +200,87 @@ void FrDialogo::OlvidaError(int campo) {
   if (campo == campoError_) lblerror_->hide();
 }
 
+// What spares typing, in four cells of one width.
+void FrDialogo::Barra(int y) {
+  constexpr int kHueco = 6, kCeldas = 4;
+  const int ancho = (Diseno(dialogo_.Definicion()).width() - 2 * kMargen - (kCeldas - 1) * kHueco) / kCeldas;
+  int x = kMargen;
+  const auto coloca = [&](QAbstractButton& boton) {
+    boton.setIconSize({18, 18});
+    proporcion_.Coloca(boton, {x, y, ancho, kAltoBoton});
+    x += ancho + kHueco;
+  };
+  const auto boton = [&](std::string_view nombre, int texto, const QString& teclas, auto hace) {
+    auto* nuevo = new QPushButton(this);
+    textos_.Pon([=] {
+      nuevo->setText(Q(Texto(texto)));
+      PonBoton(*nuevo, nombre, nuevo->text() + teclas);
+    });
+    nuevo->setAutoDefault(false);
+    coloca(*nuevo);
+    connect(nuevo, &QPushButton::clicked, this, hace);
+    return nuevo;
+  };
+  auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, " (Ctrl+L)", [this] {
+    if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
+  });
+  connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, ultimos, &QPushButton::click);
+  QStringList ceros;
+  for (const DefCampo& campo : dialogo_.Definicion().campos) {
+    if (campo.uso == Uso::desvio) ceros += Q(campo.palabra);
+  }
+  auto* cero = boton("CmdCeros", texto::kCeros, {}, [this] {
+    Dialogo lleno = dialogo_;
+    lleno.PonCeros();
+    Pon(lleno);
+  });
+  textos_.Pon([=] { cero->setText(ceros.join(", ") + " = 0"); });
+  auto* abre = new BotonAbre(this);
+  textos_.Pon([abre] { abre->PonTexto(); });
+  coloca(*abre);
+  connect(abre, &BotonAbre::elegido, this, &FrDialogo::CmdAbre);
+  boton("CmdGuardaPieza", texto::kGuardaPieza, {}, [this] { GuardaPieza(*this, Pieza()); });
+}
+
+void FrDialogo::Pon(const Dialogo& lleno) {
+  dialogo_ = lleno;
+  for (std::size_t i = 0; i < controles_.size(); ++i) {
+    const QString texto = Q(lleno.CampoDe(static_cast<int>(i)).texto);
+    if (auto* campo = qobject_cast<QLineEdit*>(controles_[i])) {
+      if (campo->text() != texto) campo->setText(texto);
+    } else if (auto* lista = qobject_cast<QComboBox*>(controles_[i])) {
+      lista->setCurrentIndex(lista->findText(texto));
+    }
+  }
+  for (const char* opcion : {"OpUnapieza", "OpDosPiezas"}) {
+    auto* boton = findChild<QRadioButton*>(opcion);
+    if (boton && (boton->objectName() == "OpDosPiezas") == lleno.dosPiezas) boton->setChecked(true);
+  }
+}
+
+void FrDialogo::Pon(const PiezaAbierta& abierta) {
+  Pon(abierta.dialogo);
+  abierta_ = TrabajoDe(dialogo_, abierta.trabajo.nombre);
+  abierta_.puntos = abierta.trabajo.puntos;
+  if (abierta_.puntos) visor_.reset();  // which may show the same values in other places
+  recienAbierta_ = !isVisible();
+}
+
+Trabajo FrDialogo::Pieza() const {
+  Trabajo trabajo = TrabajoDe(dialogo_, abierta_.nombre);
+  if (trabajo.valores == abierta_.valores) trabajo.puntos = abierta_.puntos;
+  if (visor_ && trabajo.valores == aceptados_ && !visor_->Sitios().empty()) trabajo.puntos = visor_->Sitios();
+  return trabajo;
+}
+
+void FrDialogo::CmdAbre(const QString& ruta) {
+  const auto abierta = AbrePieza(*this, ruta.toStdString());
+  if (!abierta) return;
+  if (abierta->fila.tipo == dialogo_.Definicion().tipo) return Pon(*abierta);
+  emit otraPieza(*abierta);
+  reject();
+}
+
 void FrDialogo::Activa() {
   dialogo_.Activa();
   if (auto* dos = findChild<QRadioButton*>("OpDosPiezas"); dos && dialogo_.dosPiezas) dos->setChecked(true);
@@ -196,7 +289,9 @@ void FrDialogo::Activa() {
 
 void FrDialogo::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
+  const Dialogo abierto = dialogo_;
   Activa();
+  if (std::exchange(recienAbierta_, false)) Pon(abierto);  // with the file's choice of pieces
 }
 
 void FrDialogo::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
@@ -216,8 +311,13 @@ void FrDialogo::CmdAceptar() {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;
   }
-  FrmViewUnfold visor(this);
-  visor.exec();
+  PonUltimos(dialogo_);
+  aceptados_ = TrabajoDe(dialogo_, {}).valores;
+  if (!visor_ || !visor_->Muestra(*estado.pieza)) {
+    const bool deFichero = aceptados_ == abierta_.valores && abierta_.puntos;
+    visor_ = std::make_unique<FrmViewUnfold>(this, deFichero ? *abierta_.puntos : std::vector<Punto2>());
+  }
+  visor_->exec();
   Activa();
 }
 

@@ -1,25 +1,38 @@
 #pragma once
 // The window of any dialog: a picture of the piece, a row for each field, the choice of pieces, the solid of what is
-// typed so far, what a piece is made of by the settings, the error label and two buttons. What the fields are and take
-// is the dialog object's.
+// typed so far, what a piece is made of by the settings, the error label and two buttons; below them what spares
+// typing: the last values, zeros, pieces from files. What the fields are and take is the dialog object's. It keeps them
+// while it is hidden, and so does the viewer with its pattern.
 
 #include <QDialog>
 #include <QLabel>
+#include <memory>
 #include <vector>
 
+#include "jobs/lista.h"
 #include "shell/lista.h"
+#include "windows/frm_view_unfold.h"
 #include "windows/proporcion.h"
 #include "windows/textos_vivos.h"
 
 namespace duktores {
 
-class Imagen;
 class SolidoVivo;
+struct PiezaAbierta;
 
 class FrDialogo : public QDialog {
   Q_OBJECT
  public:
   FrDialogo(const FilaPieza& fila, QWidget* padre);
+
+  /// Takes over the values of a piece of its type.
+  void Pon(const PiezaAbierta& abierta);
+  /// What is typed, with the places of the shapes where they are known. Its name is that of the file's piece.
+  Trabajo Pieza() const;
+
+ signals:
+  /// A piece of another type has been opened; the dialog is closing.
+  void otraPieza(const duktores::PiezaAbierta& abierta);
 
  protected:
   void showEvent(QShowEvent* suceso) override;
@@ -32,6 +45,9 @@ class FrDialogo : public QDialog {
   void Vivo();
   void Ajustes(int y);
   void Pie(int y);
+  void Barra(int y);
+  void Pon(const Dialogo& lleno);
+  void CmdAbre(const QString& ruta);
   void Activa();
   void CmdAceptar();
   void MuestraError(int campo, const QString& texto);
@@ -45,6 +61,10 @@ class FrDialogo : public QDialog {
   QLabel* lblerror_ = nullptr;
   TextosVivos textos_;
   int campoError_ = 0;  // the field that it names
+  std::unique_ptr<FrmViewUnfold> visor_;
+  decltype(Trabajo::valores) aceptados_;  // which the viewer shows
+  Trabajo abierta_;                       // of a file: its places hold for its values
+  bool recienAbierta_ = false;            // and not shown yet
 };
 
 }  // namespace duktores

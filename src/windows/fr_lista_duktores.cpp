@@ -1,13 +1,21 @@
 #include "windows/fr_lista_duktores.h"
 
+#include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
 
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/boton_abre.h"
+#include "windows/ficheros_pieza.h"
 #include "windows/fr_ajustes.h"
-#include "windows/fr_dialogo.h"
+#include "windows/fr_manual.h"
 #include "windows/iconos.h"
 #include "windows/teclas.h"
 #include "windows/ventanas.h"
@@ -26,7 +34,8 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
       LstDuktores_(new QListWidget(this)),
       LblGeneral_(new QLabel(this)),
       LblAviso_(new QLabel(this)),
-      PicDuktores_(new Imagen(this)) {
+      PicDuktores_(new Imagen(this)),
+      CmdGuardaPieza_(new QPushButton(this)) {
   setObjectName("FrListaDuktores");
   LstDuktores_->setObjectName("LstDuktores");
   LblGeneral_->setObjectName("LblGeneral");
@@ -38,6 +47,7 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   auto* continuar = new QPushButton(this);
   auto* salir = new QPushButton(this);
   auto* ajustes = new QPushButton(this);
+  auto* manual = new QPushButton(this);
   textos_.Pon([=, this] {
     const bool chino = estado.dIdioma == kChino;
     continuar->setText(QString::fromStdString(Texto(texto::kContinuar)));
@@ -45,9 +55,11 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
     PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
     PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
     PonBoton(*ajustes, "CmdAjustes", QString::fromStdString(Texto(texto::kAjustes)) + " (Ctrl+,)");
+    PonBoton(*manual, "CmdManual", QString::fromStdString(Texto(texto::kManual)));
     setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
   });
   ConectaAjustes(*ajustes);
+  ConectaManual(*manual);
 
   QFont negrita = font();
   negrita.setBold(true);
@@ -59,9 +71,11 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   proporcion_.Coloca(*PicDuktores_, {358, 66, 420, 340});
   proporcion_.Coloca(*continuar, {508, 430, 130, 34});
   proporcion_.Coloca(*salir, {648, 430, 130, 34});
-  proporcion_.Coloca(*ajustes, {12, 430, 38, 34});
-  proporcion_.Coloca(*LblAviso_, {58, 424, 438, 46});
+  proporcion_.Coloca(*ajustes, {12, 430, 44, 34});
+  proporcion_.Coloca(*manual, {744, 12, 34, 34});  // no title reaches so far
+  proporcion_.Coloca(*LblAviso_, {180, 424, 318, 46});
 
+  AnadeFicheros();
   AnadeLista();
   textos_.Pon([this] {
     for (std::size_t i = 0; i < FilasCatalogo().size(); ++i) {
@@ -108,6 +122,7 @@ void FrListaDuktores::EligeFila() {
   PicDuktores_->Carga(fila.imagen);
   LblGeneral_->setText(QString::fromStdString(RotuloFila(fila)));
   LblGeneral_->setVisible(!RotuloFila(fila).empty());
+  CmdGuardaPieza_->setEnabled(fila.pieza && dialogos_.at(static_cast<std::size_t>(*fila.pieza)));
 }
 
 void FrListaDuktores::Activa() {
@@ -118,10 +133,66 @@ void FrListaDuktores::Activa() {
 void FrListaDuktores::CmdContinuar() {
   estado.sTipoPieza = TextoFila(Fila());
   if (!Fila().pieza) return;
-  FrDialogo(FilaDe(*Fila().pieza), this).exec();
+  Muestra(DialogoDe(*Fila().pieza));
+}
+
+FrDialogo& FrListaDuktores::DialogoDe(TipoPieza tipo) {
+  FrDialogo*& dialogo = dialogos_.at(static_cast<std::size_t>(tipo));
+  if (!dialogo) {
+    dialogo = new FrDialogo(FilaDe(tipo), this);
+    connect(dialogo, &FrDialogo::otraPieza, this,
+            [this](const PiezaAbierta& abierta) { siguiente_ = &Prepara(abierta); });
+  }
+  return *dialogo;
+}
+
+// As if its row had been chosen.
+FrDialogo& FrListaDuktores::Prepara(const PiezaAbierta& abierta) {
+  const auto filas = FilasCatalogo();
+  const auto fila = std::ranges::find(filas, std::optional(abierta.fila.tipo), &FilaCatalogo::pieza);
+  LstDuktores_->setCurrentRow(static_cast<int>(fila - filas.begin()));
+  estado.sTipoPieza = TextoFila(Fila());
+  FrDialogo& dialogo = DialogoDe(abierta.fila.tipo);
+  dialogo.Pon(abierta);
+  return dialogo;
+}
+
+void FrListaDuktores::Muestra(FrDialogo& primero) {
+  for (FrDialogo* dialogo = &primero; dialogo; dialogo = std::exchange(siguiente_, nullptr)) dialogo->exec();
   if (!isVisible()) return;  // the program is ending
   TraeAlFrente(*this);
   Activa();
+}
+
+void FrListaDuktores::AnadeFicheros() {
+  auto* abre = new BotonAbre(this);
+  abre->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  proporcion_.Coloca(*abre, {62, 430, 60, 34});
+  connect(abre, &BotonAbre::elegido, this, &FrListaDuktores::CmdAbre);
+  textos_.Pon([this, abre] {
+    abre->PonTexto();
+    PonBoton(*CmdGuardaPieza_, "CmdGuardaPieza", QString::fromStdString(Texto(texto::kGuardaPieza)));
+  });
+  proporcion_.Coloca(*CmdGuardaPieza_, {128, 430, 44, 34});
+  connect(CmdGuardaPieza_, &QPushButton::clicked, this,
+          [this] { GuardaPieza(*this, DialogoDe(*Fila().pieza).Pieza()); });
+  setAcceptDrops(true);
+}
+
+void FrListaDuktores::CmdAbre(const QString& ruta) {
+  if (const auto abierta = AbrePieza(*this, ruta.toStdString())) Muestra(Prepara(*abierta));
+}
+
+void FrListaDuktores::dragEnterEvent(QDragEnterEvent* suceso) {
+  const bool fichero = suceso->mimeData()->hasUrls() && suceso->mimeData()->urls().front().isLocalFile();
+  if (fichero && !QApplication::activeModalWidget()) suceso->acceptProposedAction();
+}
+
+// The sender waits for the answer, the file doesn't.
+void FrListaDuktores::dropEvent(QDropEvent* suceso) {
+  suceso->acceptProposedAction();
+  const QString ruta = suceso->mimeData()->urls().front().toLocalFile();
+  QTimer::singleShot(0, this, [this, ruta] { CmdAbre(ruta); });
 }
 
 void FrListaDuktores::showEvent(QShowEvent* suceso) {
@@ -131,7 +202,7 @@ void FrListaDuktores::showEvent(QShowEvent* suceso) {
 
 void FrListaDuktores::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
 
-void FrListaDuktores::closeEvent(QCloseEvent*) { Termina(); }
+void FrListaDuktores::closeEvent(QCloseEvent* suceso) { suceso->setAccepted(Termina()); }
 
 void FrListaDuktores::customEvent(QEvent* suceso) {
   if (suceso->type() != ConfiguracionLeida::Tipo()) return;

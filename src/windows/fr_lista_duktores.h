@@ -1,14 +1,17 @@
 #pragma once
-// The catalogue: the list of the pieces, the picture of the selected one, and the way to its dialog. Closing it ends
-// the program.
+// The catalogue: the list of the pieces, the picture of the selected one, and the way to its dialog, which is made once
+// and kept. A file of pieces opens by its button or dropped on it. Closing it ends the program.
 
 #include <QLabel>
 #include <QListWidget>
 #include <QWidget>
+#include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "shell/catalogo.h"
+#include "windows/fr_dialogo.h"
 #include "windows/imagen.h"
 #include "windows/proporcion.h"
 #include "windows/textos_vivos.h"
@@ -28,6 +31,8 @@ class FrListaDuktores : public QWidget {
   void closeEvent(QCloseEvent* suceso) override;
   void customEvent(QEvent* suceso) override;
   void keyPressEvent(QKeyEvent* suceso) override;
+  void dragEnterEvent(QDragEnterEvent* suceso) override;
+  void dropEvent(QDropEvent* suceso) override;
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
@@ -37,11 +42,19 @@ class FrListaDuktores : public QWidget {
   void EligeFila();
   void Activa();
   void CmdContinuar();
+  void AnadeFicheros();
+  void CmdAbre(const QString& ruta);
+  FrDialogo& DialogoDe(TipoPieza tipo);
+  FrDialogo& Prepara(const PiezaAbierta& abierta);
+  void Muestra(FrDialogo& primero);
 
   Proporcion proporcion_;
   QListWidget* LstDuktores_;
   QLabel *LblGeneral_, *LblAviso_;
   Imagen* PicDuktores_;
+  QPushButton* CmdGuardaPieza_;
+  std::array<FrDialogo*, kTiposPieza> dialogos_{};  // by type; null until it is opened
+  FrDialogo* siguiente_ = nullptr;                  // to be shown behind the present one
   TextosVivos textos_;
 };
 

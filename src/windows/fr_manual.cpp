@@ -1,6 +1,5 @@
 #include "windows/fr_manual.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -77,9 +76,10 @@ void AbreManual(QWidget& padre) {
   ventana->show();
 }
 
-void ConectaManual(QAbstractButton& boton) {
+void ConectaManual(QPushButton& boton) {
+  boton.setAutoDefault(false);
   boton.setFocusPolicy(Qt::NoFocus);
-  QObject::connect(&boton, &QAbstractButton::clicked, &boton, [&boton] { AbreManual(*boton.window()); });
+  QObject::connect(&boton, &QPushButton::clicked, &boton, [&boton] { AbreManual(*boton.window()); });
 }
 
 }  // namespace duktores

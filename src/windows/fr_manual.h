@@ -2,7 +2,7 @@
 // The manual: pages of the installation, Manual/es for the Spanish configuration and Manual/en for all others, in a
 // window that stays open beside the work. Nothing outside the installation is opened.
 
-class QAbstractButton;
+class QPushButton;
 class QWidget;
 
 namespace duktores {
@@ -11,6 +11,6 @@ namespace duktores {
 void AbreManual(QWidget& padre);
 
 /// Makes a button open the manual over its window. The focus stays where it is.
-void ConectaManual(QAbstractButton& boton);
+void ConectaManual(QPushButton& boton);
 
 }  // namespace duktores

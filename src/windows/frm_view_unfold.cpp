@@ -4,17 +4,15 @@
 #include <QPointer>
 #include <QShortcut>
 #include <array>
+#include <utility>
 
 #include "dxf/dibujo.h"
 #include "piece/numeros_texto.h"
-#include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/nombre_pieza.h"
-#include "shell/nombres.h"
-#include "shell/texto_linea.h"
-#include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
+#include "state/nombres.h"
 #include "state/textos.h"
 #include "windows/guarda.h"
 #include "windows/iconos.h"
@@ -41,19 +39,23 @@ constexpr std::array kZoom{
     BotonZoom{"CmdZoomAll", texto::kZoomTodo, MandoVista::zoomAll, &EWdraw::EwZoomAll},
     BotonZoom{"CmdZoomwindow", texto::kZoomVentana, MandoVista::zoomWindow, &EWdraw::EwZoomWindow},
 };
-constexpr const char* kAviso = "background: #c00000; color: white; font-weight: bold;";
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
 
-FrmViewUnfold::FrmViewUnfold(QWidget* padre)
+FrmViewUnfold::FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
       lienzo_(new Lienzo(EWdraw_, this)),
       colocador_(new Colocador(EWdraw_, *lienzo_)),
       FrmView_(new QGroupBox(this)),
       FrmZoom_(new QGroupBox(this)),
-      LblEstado_(new QLabel(this)) {
+      LblEstado_(new QLabel(this)),
+      aceptada_(*estado.pieza),
+      formato_(FormatoDeEstado()),
+      idioma_(estado.dIdioma),
+      pieza_(aceptada_),
+      conocidos_(std::move(conocidos)) {
   setObjectName("FrmViewUnfold");
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   const int nombre = FilaDe(estado.pieza.value().tipo).dialogo.textoTitulo;
@@ -173,7 +175,8 @@ void FrmViewUnfold::Teclas() {
 FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
 
 void FrmViewUnfold::CmdDesplegado() {
-  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); });
+  guardados_ = std::exchange(conocidos_, {});
+  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); }, guardados_);
   DespliegaHoja();
 }
 
@@ -182,6 +185,8 @@ void FrmViewUnfold::DespliegaHoja() {
   const QPointer<FrmViewUnfold> vivo(this);
   lienzo_->setFocus();  // a disabled button would hand its focus to the one that closes the window
   hoja_ = {};
+  sitios_.clear();
+  pendiente_ = descartada_ = false;
   LimpiaEstado();
   CmdSave_->setEnabled(false);
   CmdExport_->setEnabled(false);
@@ -192,6 +197,9 @@ void FrmViewUnfold::DespliegaHoja() {
   MuestraSolido(false);
   Corrida corrida = colocador_->Despliega();
   if (!vivo) return;
+  pendiente_ = corrida.sitios != guardados_ && estado.oDrawing->Count() > 0;
+  if (corrida.fin == FinCorrida::completo) sitios_ = std::move(corrida.sitios);
+  AnotaEstado();
   MuestraVeredicto(corrida);
   hoja_ = std::move(corrida.hoja);
   CmdDesplegado_->setEnabled(true);
@@ -204,6 +212,7 @@ void FrmViewUnfold::DespliegaHoja() {
 // The other rule has another solid, and another pattern where one stands.
 void FrmViewUnfold::CmdExacto() {
   CambiaRegla();
+  AnotaEstado();
   solido_ = SolidoDe(*estado.pieza);
   DibujaSolido(FrmView_->isEnabled() ? EWdraw_ : otra_, solido_);
   if (CmdSolido_->isEnabled()) return CmdDesplegado();
@@ -232,68 +241,37 @@ void FrmViewUnfold::MarcaVista() {
   }
 }
 
-void FrmViewUnfold::CmdSave() {
+bool FrmViewUnfold::CmdSave() {
+  RecuperaEstado();
   const std::string fichero = GuardaConNombre(*this);
-  if (fichero.empty()) return;
+  if (fichero.empty()) return false;
+  pendiente_ = false;
+  guardados_ = sitios_;
   const bool portatil = EsNombrePortatil(fichero.substr(fichero.rfind('/') + 1));
   PonHecho(Q(Texto(texto::kGuardadoEn) + " " + fichero + (portatil ? "" : " - " + Texto(texto::kNombreAjeno))));
+  return true;
 }
 
-void FrmViewUnfold::PonHecho(const QString& hecho) { PonEstado(hecho + " - " + lineaVeredicto_); }
-
-void FrmViewUnfold::LimpiaEstado() {
-  LblEstado_->clear();
-  LblEstado_->setToolTip({});
-  LblEstado_->setStyleSheet({});
+bool FrmViewUnfold::Muestra(const Pieza& pieza) const {
+  return pieza == aceptada_ && FormatoDeEstado() == formato_ && estado.dIdioma == idioma_;
 }
 
-// What stands there while nothing is pointed at. The tooltip has what the line has no room for.
-void FrmViewUnfold::PonEstado(const QString& linea) {
-  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
-  LblEstado_->setToolTip(linea);
+FrmViewUnfold::Pendiente FrmViewUnfold::SinGuardar() const {
+  if (descartada_) return Pendiente::nada;
+  if (lienzo_->Eligiendo()) return estado.oDrawing->Count() > 0 ? Pendiente::parte : Pendiente::nada;
+  return pendiente_ ? Pendiente::patron : Pendiente::nada;
 }
 
-void FrmViewUnfold::MuestraEleccion(bool empieza) {
-  CursorEspera(!empieza);
-  FrmZoom_->setEnabled(!empieza);  // the left button places the shape; wheel and middle button still move the view
-  LimpiaEstado();
-  if (empieza) lienzo_->setFocus();
+void FrmViewUnfold::AnotaEstado() {
+  pieza_ = *estado.pieza;
+  oDrawing_ = estado.oDrawing;
+  oDXF_ = estado.oDXF;
 }
 
-void FrmViewUnfold::MuestraPunto(QPointF punto) {
-  const int decimales = estado.iUnidad == 1 ? 2 : 3;
-  const std::string& rotulo = EWdraw_.RotuloFantasma();
-  const QString solapes = colocador_->SolapesEn(punto), estilo = solapes.isEmpty() ? "" : kAviso;
-  if (LblEstado_->styleSheet() != estilo) LblEstado_->setStyleSheet(estilo);
-  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") +
-                      (solapes.isEmpty() ? Q(Texto(texto::kElige)) : solapes) +
-                      QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
-}
-
-// A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
-void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
-  const bool completo = corrida.fin == FinCorrida::completo;
-  veredicto_ = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
-  const QString solapes = colocador_->Solapes();
-  lineaVeredicto_ = (solapes.isEmpty() ? QString() : solapes + ". ") +
-                    Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
-  const bool bien = completo && veredicto_.Cierto() && solapes.isEmpty();
-  LblEstado_->setStyleSheet(bien ? "" : kAviso);
-  LblEstado_->ensurePolished();  // bold letters are wider
-  PonEstado(lineaVeredicto_);
-}
-
-// What the line under the pointer is; away from all lines the verdict.
-void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
-  if (hoja_.formas.empty()) return;
-  const auto cercana = FrmView_->isEnabled() ? std::nullopt : LineaCercana(hoja_, {punto.x(), punto.y()}, alcance);
-  cercana ? LblEstado_->setText(Q(TextoLinea(*cercana, solido_))) : MuestraArrastre({});
-}
-
-// What is dragged onto something; else the verdict.
-void FrmViewUnfold::MuestraArrastre(const QString& solapes) {
-  const QString linea = solapes.isEmpty() ? LblEstado_->toolTip() : solapes;
-  LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
+void FrmViewUnfold::RecuperaEstado() {
+  estado.pieza = pieza_;
+  estado.oDrawing = oDrawing_;
+  estado.oDXF = oDXF_;
 }
 
 void FrmViewUnfold::done(int resultado) {
@@ -303,6 +281,7 @@ void FrmViewUnfold::done(int resultado) {
 
 void FrmViewUnfold::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
+  RecuperaEstado();
   TraeAlFrente(*this);
 }
 

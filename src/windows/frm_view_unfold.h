@@ -1,10 +1,13 @@
 #pragma once
-// The viewer: first the solid of the accepted piece, on command its flat pattern, and from there the DXF file.
+// The viewer: first the solid of the accepted piece, on command its flat pattern, and from there the DXF file. It may
+// be shown again, with all that it showed; what of `estado` belongs to that comes back with it.
 
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <memory>
+#include <vector>
 
 #include "shell/corrida.h"
 #include "viewer/ewdraw.h"
@@ -15,15 +18,31 @@
 
 namespace duktores {
 
+class cDrawing;
+class cDXF;
+
 class FrmViewUnfold : public QDialog {
   Q_OBJECT
  public:
-  /// Draws the solid of the accepted piece.
-  explicit FrmViewUnfold(QWidget* padre);
+  /// Draws the solid of the accepted piece. The first unfolding puts the shapes at these places and asks for the
+  /// others.
+  explicit FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos = {});
   ~FrmViewUnfold() override;
 
   /// All ways to close the window come through here; a waiting pick ends first.
   void done(int resultado) override;
+
+  /// Whether it was made for this piece, and drawn as `estado` says now.
+  bool Muestra(const Pieza& pieza) const;
+  /// The places of a complete pattern, in the order in which they are asked for.
+  const std::vector<Punto2>& Sitios() const { return sitios_; }
+
+  /// What a person has placed since the last save: nothing, part of a pattern that is being placed, a pattern.
+  enum class Pendiente { nada, parte, patron };
+  Pendiente SinGuardar() const;
+  void Descarta() { descartada_ = true; }
+  /// False if the user has not saved it.
+  bool CmdSave();
 
  protected:
   void showEvent(QShowEvent* suceso) override;
@@ -36,7 +55,6 @@ class FrmViewUnfold : public QDialog {
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
   void DespliegaHoja();
-  void CmdSave();
   void CmdExacto();
   void CmdSolido();
   void MuestraSolido(bool solido);
@@ -49,6 +67,8 @@ class FrmViewUnfold : public QDialog {
   void PonHecho(const QString& hecho);
   void MuestraArrastre(const QString& solapes);
   void MuestraVeredicto(const Corrida& corrida);
+  void AnotaEstado();
+  void RecuperaEstado();
 
   Proporcion proporcion_;
   Solido solido_;
@@ -62,6 +82,15 @@ class FrmViewUnfold : public QDialog {
   Exportador* CmdExport_;
   QLabel* LblEstado_;
   QString lineaVeredicto_;
+
+  const Pieza aceptada_;
+  const FormatoHoja formato_;
+  const double idioma_;
+  Pieza pieza_;  // the same, under the rule that shows; with it what of `estado` is this viewer's
+  std::shared_ptr<cDrawing> oDrawing_;
+  std::shared_ptr<cDXF> oDXF_;
+  std::vector<Punto2> conocidos_, sitios_, guardados_;  // to begin with; of the pattern; those that a file has
+  bool pendiente_ = false, descartada_ = false;         // placed by hand and not saved; which the user doesn't mind
 };
 
 }  // namespace duktores

@@ -1,10 +1,10 @@
 #include "windows/iconos.h"
 
+#include <QAbstractButton>
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
-#include <QPushButton>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <array>
@@ -57,6 +57,11 @@ constexpr std::array kDibujos{
     Dibujo{"CmdAjustes",    "M3 6H21M3 12H21M3 18H21",
            "M8 3.5A2.5 2.5 0 1 0 8 8.5A2.5 2.5 0 1 0 8 3.5ZM16 9.5A2.5 2.5 0 1 0 16 14.5A2.5 2.5 0 1 0 16 9.5Z"
            "M8 15.5A2.5 2.5 0 1 0 8 20.5A2.5 2.5 0 1 0 8 15.5Z"},
+    Dibujo{"CmdUltimos",    "M4 12A8 8 0 1 0 7 5.5M3 4L7 5.5L6 10M12 7V12L16 14",  ""},
+    Dibujo{"CmdCeros",      "M12 5A5 7 0 1 0 12 19A5 7 0 1 0 12 5",              ""},
+    Dibujo{"CmdAbre",       "M3 19V5H9L11 8H19V11M3 19L7 11H22L18 19Z",          ""},
+    Dibujo{"CmdGuardaPieza", "M6 3H14L18 7V21H6ZM14 3V7H18M12 10V17M9 14L12 17L15 14", ""},
+    Dibujo{"CmdManual",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M9 9.5A3 3 0 1 1 13 12.3Q12 12.8 12 14.2M12 16.9V17", ""},
     Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
 };
 // clang-format on
@@ -86,7 +91,7 @@ QIcon Icono(const Dibujo& dibujo, const QColor& color) {
 
 }  // namespace
 
-void PonBoton(QPushButton& boton, std::string_view nombre, const QString& ayuda) {
+void PonBoton(QAbstractButton& boton, std::string_view nombre, const QString& ayuda) {
   boton.setObjectName(QString::fromUtf8(nombre.data(), static_cast<qsizetype>(nombre.size())));
   boton.setToolTip(ayuda);
   boton.setAccessibleName(ayuda);

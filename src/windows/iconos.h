@@ -4,11 +4,11 @@
 #include <QString>
 #include <string_view>
 
-class QPushButton;
+class QAbstractButton;
 
 namespace duktores {
 
 /// Gives a button its name, its icon by that name, and its tooltip, which stays unset if empty.
-void PonBoton(QPushButton& boton, std::string_view nombre, const QString& ayuda);
+void PonBoton(QAbstractButton& boton, std::string_view nombre, const QString& ayuda);
 
 }  // namespace duktores

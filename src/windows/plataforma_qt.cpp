@@ -16,6 +16,7 @@
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/sin_guardar.h"
 #include "windows/ventanas.h"
 
 namespace duktores {
@@ -113,9 +114,11 @@ void TraeAlFrente(QWidget& ventana) {
   ventana.activateWindow();
 }
 
-void Termina() {
+bool Termina() {
+  if (!PuedeTerminar()) return false;
   if (estado.plataforma) estado.plataforma->HabilitaVentana(estado.hVentanaHost, true);
   QApplication::quit();
+  return true;
 }
 
 }  // namespace duktores

@@ -36,6 +36,7 @@ constexpr std::array kTeclas{
     FilaTecla{texto::kMedidas,  "",              "Tab; Return",               texto::kCampoSiguiente},
     FilaTecla{texto::kMedidas,  "",              "F4; Alt+Down",              texto::kAbreLista},
     FilaTecla{texto::kMedidas,  "",              "Ctrl+,",                    texto::kAjustes},
+    FilaTecla{texto::kMedidas,  "",              "Ctrl+L",                    texto::kUltimosValores},
     FilaTecla{texto::kMedidas,  "",              "Esc",                       texto::kCancelar},
     FilaTecla{texto::kVisor,    "CmdDesplegado", "U",                         texto::kDesplegado},
     FilaTecla{texto::kVisor,    "CmdExacto",     "E",                         texto::kExacto},

@@ -198,7 +198,7 @@ class Hojas : public testing::TestWithParam<TipoPieza> {
     estado.plataforma = &mesa;
     EWdraw axew;
     axew.PonVista(&mesa);
-    const auto [fin, hoja] = Desplegado(axew, std::move(desarrollo));
+    const auto [fin, hoja, dados] = Desplegado(axew, std::move(desarrollo));
     ASSERT_EQ(fin, FinCorrida::completo);
     const Leido leido(axew.Entidades());
     ExpectMismos(leido.patron, Esperado(hoja));

@@ -71,7 +71,7 @@ TEST_F(Corridas, TheSecondOneDrawsWhatTheFirstDrew) {
   mesa.puntos.resize(32);
   const Solido solido = SolidoDe(*estado.pieza);
   const auto desarrolla = [&] {
-    const auto [fin, hoja] = Desplegado(axew);
+    const auto [fin, hoja, dados] = Desplegado(axew);
     EXPECT_EQ(fin, FinCorrida::completo);
     return estado.oDrawing->GetEntities() + Textos(axew.Entidades()) +
            TextoVeredicto(Juzga(*estado.pieza, solido, hoja));

@@ -25,6 +25,7 @@ CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickn
 # Places in the windows at their design sizes.
 UNFOLD, SAVE, LEAVE = (788, 33), (832, 33), (964, 33)
 DIALOG, VIEWER = "Rect. Circ. Transf.", "Rect. Circ. Transf. 400x300 R95.5"
+ROUNDED_VIEWER = "Round 4 Vert. Transf. 300x250 500x400"
 MESSAGE = "duktores"  # what window managers show for an empty title
 PICKS = (300, 400), (500, 150), (700, 430), (800, 200)  # each piece and its title block
 
@@ -162,21 +163,21 @@ def short_road(screen, program, file):
     process = screen.start(str(program))
     screen.window("Duktors", but=host)
     screen.xdotool("key", *["Down"] * 8, "Return")
-    dialog = screen.window("Round 4 Vert. Transf.")
+    screen.window("Round 4 Vert. Transf.")
     for value in ROUNDED.values():
         screen.xdotool("type", "--delay", 2, "--", value)
         screen.xdotool("key", "Return")
     screen.xdotool("key", "Return")
-    viewer = screen.window("Round 4 Vert. Transf.", but=dialog)
+    viewer = screen.window(ROUNDED_VIEWER)
 
     screen.click(viewer, UNFOLD)  # 1
     screen.window(MESSAGE)
     screen.xdotool("keydown", "Return")  # 2
-    until("the end of the prompt", lambda: screen.active("Round 4 Vert. Transf.") == viewer)
+    until("the end of the prompt", lambda: screen.active(ROUNDED_VIEWER) == viewer)
     time.sleep(1.2)  # the key repeats itself after 0.66 s
     screen.xdotool("keyup", "Return")
     screen.click(viewer, SAVE)  # nothing to save yet
-    assert screen.active("Round 4 Vert. Transf.") == viewer, "placed by the key that has closed the prompt"
+    assert screen.active(ROUNDED_VIEWER) == viewer, "placed by the key that has closed the prompt"
     screen.xdotool("key", "Return")  # 3
     screen.click_until("Save the DXF", viewer, SAVE)  # 4
     screen.xdotool("type", "--delay", 2, file.stem)

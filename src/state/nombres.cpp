@@ -1,4 +1,4 @@
-#include "shell/nombres.h"
+#include "state/nombres.h"
 
 #include <algorithm>
 #include <array>

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "batch/flujo_lista.h"
 #include "geometry/puntos.h"
+#include "jobs/flujo_lista.h"
 
 namespace duktores {
 
@@ -26,13 +26,26 @@ struct Trabajo {
   std::size_t linea = 0;   ///< where it begins
   std::string nombre;      ///< of the drawing; "#3" where the third job has none that will do
   std::string pieza;
-  std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key, in alphabetical order
+  std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key
   std::optional<std::vector<Punto2>> puntos;  ///< answers to the picks; none: the program places the shapes
   std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };
 
+/// Whether one object may stand where an array of them should.
+enum class Admite { lista, listaOUno };
+
 /// Hands on each job of a list as it is read. Throws ErrorLista, which tells line and job.
-void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma);
+void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma, Admite admite = Admite::lista);
+
+/// Reads what is in memory, which must outlive it.
+LeeTrozo DeMemoria(std::string_view json);
+
+/// Whether a text can be the name of a job.
+bool EsNombre(const std::string& nombre);
+/// What two names have in common that are one on some disk.
+std::string SinCaja(std::string nombre);
+/// A number as a person would type it: plain decimals, no exponent.
+std::string TextoTecleado(double valor);
 
 /// Which files are made of a job beside its drawing: no job may have their names.
 struct Adjuntos {

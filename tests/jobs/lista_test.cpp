@@ -1,13 +1,6 @@
-#include "batch/lista.h"
+#include "jobs/lista.h"
 
 #include <gtest/gtest.h>
-
-#include <tuple>
-
-#include "batch/trabajo.h"
-#include "piece/numeros_texto.h"
-#include "pieza_tecleada.h"
-#include "state/textos.h"
 
 namespace duktores {
 namespace {
@@ -18,7 +11,7 @@ TEST(LeeLista, TextsAndNumbersBecomeWhatIsTyped) {
   ASSERT_EQ(trabajos.size(), 1U);
   EXPECT_FALSE(trabajos[0].rechazo);
   const std::vector<std::pair<std::string, std::string>> valores{
-      {"AI", "12345678"}, {"AX", "0.00000015"}, {"H", "1000"}, {"LI", "4,5"}, {"RS", "0.1"}};
+      {"H", "1000"}, {"RS", "0.1"}, {"LI", "4,5"}, {"AI", "12345678"}, {"AX", "0.00000015"}};
   EXPECT_EQ(trabajos[0].valores, valores);
   EXPECT_EQ(*trabajos[0].puntos, (std::vector<Punto2>{{1, 2.5}, {-3, 0}}));
 }
@@ -82,23 +75,6 @@ TEST(LeeLista, WhatIsNoListSaysWhere) {
   EXPECT_EQ(LeeLista("[{}]")[0].nombre, "#1");
   EXPECT_TRUE(LeeLista(R"([{"name": "a", "piece": "x", "H": 1e400}])")[0].valores ==
               (Trabajo{}.valores = {{"H", "1e400"}}));
-}
-
-// The message of an error is its own, or that a run has ended early where it has none: never the prompt before it. In
-// a language without the texts of a title block its drawing ends without a text.
-TEST(Trabaja, APromptIsNoErrorsMessage) {
-  for (const auto& [idioma, alto, texto] :
-       {std::tuple(0.0, "99999999" + std::string(300, '9'), texto::kMedidaImposible),
-        {-40.0, "300", texto::kIncompleto}}) {
-    Configura();
-    estado.dIdioma = idioma;
-    auto trabajo = LeeLista(R"([{"name": "a", "piece": "TransCR", "RS": 90, "LI": 400, "AI": 300, "AX": 0, "AY": 0,
-                                 "Alfa": 0, "Divisions": 12, "Start": 1, "Pieces": 2, "picks": [[0, 0], [0, 0]]}])")[0];
-    trabajo.valores.emplace_back("H", alto);  // too long for a list
-    const Resultado resultado = Trabaja(trabajo, {});
-    ASSERT_TRUE(resultado.rechazo);
-    EXPECT_EQ(resultado.rechazo->clave + ": " + resultado.rechazo->texto, "piece: " + Texto(texto));
-  }
 }
 
 }  // namespace

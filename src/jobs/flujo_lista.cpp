@@ -1,4 +1,4 @@
-#include "batch/flujo_lista.h"
+#include "jobs/flujo_lista.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "batch/lista.h"
+#include "jobs/lista.h"
 
 #include <QString>
 #include <algorithm>
@@ -6,7 +6,7 @@
 #include <istream>
 #include <nlohmann/json.hpp>
 
-#include "shell/nombres.h"
+#include "state/nombres.h"
 #include "state/caracteres.h"
 
 namespace duktores {
@@ -18,14 +18,6 @@ using nlohmann::json;
 // Far more than any piece has or a person would type.
 constexpr std::size_t kMaximoClaves = 64, kMaximoClave = 64, kMaximoPuntos = 64, kMaximoNombre = 4096;
 constexpr int kMaximoTeclas = 32;
-
-// A number as a person would type it: plain decimals, no exponent.
-std::string TextoDe(double valor) {
-  std::string texto(400, '\0');
-  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor, std::chars_format::fixed);
-  texto.resize(static_cast<std::size_t>(fin.ptr - texto.data()));
-  return texto;
-}
 
 bool EsDeControl(char32_t c) {
   switch (QChar::category(c)) {
@@ -56,26 +48,11 @@ std::string ConBlancos(const std::string& texto) {
   return Utf8(unidades);
 }
 
-bool EsNombre(const std::string& nombre) {
-  if (nombre.empty() || nombre.size() > kMaximoNombre || nombre.find_first_of("/\\") != std::string::npos) return false;
-  return ConBlancos(nombre) == nombre;
-}
-
-/// The same for names that are one on some disk.
-std::string SinCaja(std::string nombre) {
-  if (EsAscii(nombre)) {
-    std::ranges::transform(nombre, nombre.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
-    return nombre;
-  }
-  const QString suelto = QString::fromStdString(nombre).normalized(QString::NormalizationForm_D);
-  return suelto.toCaseFolded().normalized(QString::NormalizationForm_D).toStdString();
-}
-
 /// Takes what the parser finds. Depth 1 is within the list, 2 within a job, 3 within its picks, 4 within a pick.
 class Lector : public nlohmann::json_sax<json> {
  public:
-  Lector(FlujoLista& flujo, const std::function<void(Trabajo&&)>& toma) : flujo_(flujo), toma_(toma) {}
+  Lector(FlujoLista& flujo, const std::function<void(Trabajo&&)>& toma, Admite admite)
+      : flujo_(flujo), toma_(toma), admite_(admite) {}
   std::size_t Jobs() const { return cuantos_; }
 
   bool null() override { return Otro(); }
@@ -83,7 +60,7 @@ class Lector : public nlohmann::json_sax<json> {
   bool binary(binary_t&) override { return Otro(); }
   bool number_integer(number_integer_t v) override { return Numero(std::to_string(v), static_cast<double>(v)); }
   bool number_unsigned(number_unsigned_t v) override { return Numero(std::to_string(v), static_cast<double>(v)); }
-  bool number_float(number_float_t v, const string_t&) override { return Numero(TextoDe(v), v); }
+  bool number_float(number_float_t v, const string_t&) override { return Numero(TextoTecleado(v), v); }
   bool string(string_t& texto) override {
     if (hondo_ != 2) return Otro();
     if (clave_ == "name") {
@@ -96,6 +73,7 @@ class Lector : public nlohmann::json_sax<json> {
     return true;
   }
   bool start_object(std::size_t) override {
+    if (hondo_ == 0 && admite_ == Admite::listaOUno) hondo_ = 1;
     if (hondo_ == 1) {
       Empieza();
     } else {
@@ -165,7 +143,6 @@ class Lector : public nlohmann::json_sax<json> {
       trabajo_.nombre = "#" + std::to_string(trabajo_.numero);
     }
     if (!esta("piece")) Rechaza("piece", "piece is missing");
-    std::ranges::sort(trabajo_.valores);
     toma_(std::move(trabajo_));
   }
   /// The first reason counts.
@@ -217,6 +194,7 @@ class Lector : public nlohmann::json_sax<json> {
 
   FlujoLista& flujo_;
   const std::function<void(Trabajo&&)>& toma_;
+  Admite admite_;
   int hondo_ = 0, coordenadas_ = 0;
   std::size_t cuantos_ = 0;
   Trabajo trabajo_;
@@ -227,10 +205,32 @@ class Lector : public nlohmann::json_sax<json> {
 
 }  // namespace
 
-void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma) {
+bool EsNombre(const std::string& nombre) {
+  if (nombre.empty() || nombre.size() > kMaximoNombre || nombre.find_first_of("/\\") != std::string::npos) return false;
+  return ConBlancos(nombre) == nombre;
+}
+
+std::string SinCaja(std::string nombre) {
+  if (EsAscii(nombre)) {
+    std::ranges::transform(nombre, nombre.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
+    return nombre;
+  }
+  const QString suelto = QString::fromStdString(nombre).normalized(QString::NormalizationForm_D);
+  return suelto.toCaseFolded().normalized(QString::NormalizationForm_D).toStdString();
+}
+
+std::string TextoTecleado(double valor) {
+  std::string texto(400, '\0');
+  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor, std::chars_format::fixed);
+  texto.resize(static_cast<std::size_t>(fin.ptr - texto.data()));
+  return texto;
+}
+
+void RecorreLista(const LeeTrozo& lee, const std::function<void(Trabajo&&)>& toma, Admite admite) {
   FlujoLista flujo(lee);
   std::istream texto(&flujo);
-  Lector lector(flujo, toma);
+  Lector lector(flujo, toma, admite);
   try {
     json::sax_parse(texto, &lector);
   } catch (const ErrorLista& motivo) {
@@ -280,15 +280,18 @@ void Nombres::Revisa(Trabajo& trabajo) const {
   if (motivo) trabajo.rechazo = {"name", std::string(motivo) + " (line " + std::to_string(trabajo.linea) + ")."};
 }
 
-std::vector<Trabajo> LeeLista(std::string_view json, Adjuntos adjuntos) {
-  std::vector<Trabajo> trabajos;
-  Nombres nombres(adjuntos);
-  const auto lee = [&](std::span<char> sitio) {
+LeeTrozo DeMemoria(std::string_view json) {
+  return [json](std::span<char> sitio) mutable {
     const std::size_t n = json.copy(sitio.data(), sitio.size());
     json.remove_prefix(n);
     return n;
   };
-  RecorreLista(lee, [&](Trabajo&& trabajo) {
+}
+
+std::vector<Trabajo> LeeLista(std::string_view json, Adjuntos adjuntos) {
+  std::vector<Trabajo> trabajos;
+  Nombres nombres(adjuntos);
+  RecorreLista(DeMemoria(json), [&](Trabajo&& trabajo) {
     nombres.Anota(trabajo);
     trabajos.push_back(std::move(trabajo));
   });
