@@ -25,6 +25,7 @@
 
 #include "jobs/piezas.h"
 #include "piece/numeros_texto.h"
+#include "shell/catalogo.h"
 #include "shell/lista.h"
 #include "state/arranque.h"
 #include "state/estado.h"
@@ -117,7 +118,9 @@ QImage Foto(QWidget& ventana) {
 
 QImage Catalogo() {
   FrListaDuktores lista;
-  Hijo<QListWidget>(lista, "LstDuktores").setCurrentRow(1);
+  const auto filas = FilasCatalogo();
+  const auto fila = std::ranges::find(filas, std::optional(kTolva.tipo), &FilaCatalogo::pieza);
+  Hijo<QListWidget>(lista, "LstDuktores").setCurrentRow(static_cast<int>(fila - filas.begin()));
   return Foto(lista);
 }
 
