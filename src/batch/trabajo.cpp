@@ -10,10 +10,10 @@
 #include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/lista.h"
-#include "state/nombres.h"
 #include "shell/texto_veredicto.h"
 #include "shell/visor.h"
 #include "state/estado.h"
+#include "state/nombres.h"
 #include "state/textos.h"
 
 namespace duktores {

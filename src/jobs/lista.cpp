@@ -6,8 +6,8 @@
 #include <istream>
 #include <nlohmann/json.hpp>
 
-#include "state/nombres.h"
 #include "state/caracteres.h"
+#include "state/nombres.h"
 
 namespace duktores {
 

@@ -51,6 +51,7 @@ void Colocador::Panel() {
     return nuevo;
   };
   CmdNombres_ = boton("CmdNombres", "Abc", texto::kNombres);
+  CmdNombres_->setToolTip(CmdNombres_->toolTip() + " (L)");
   CmdTodas_ = boton("CmdTodas", Q(Texto(texto::kPonTodas)) + " ⏎", texto::kPonTodasAyuda);
   CmdNombres_->setCheckable(true);
   CmdNombres_->setChecked(true);

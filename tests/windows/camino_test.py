@@ -25,7 +25,7 @@ CONFIG = ("[LANGUAGE]\nLanguage=ENGLISH\n[UNIT]\nUnit=0\n[DUCT]\nPath=%s\nThickn
 # Places in the windows at their design sizes.
 UNFOLD, SAVE, LEAVE = (788, 33), (832, 33), (964, 33)
 DIALOG, VIEWER = "Rect. Circ. Transf.", "Rect. Circ. Transf. 400x300 R95.5"
-ROUNDED_VIEWER = "Round 4 Vert. Transf. 300x250 500x400"
+ROUNDED_VIEWER = "Round 4 Vert. Transf. 500x400 300x250"
 MESSAGE = "duktores"  # what window managers show for an empty title
 PICKS = (300, 400), (500, 150), (700, 430), (800, 200)  # each piece and its title block
 

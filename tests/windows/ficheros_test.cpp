@@ -173,7 +173,7 @@ TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
   usuario_.Cuando("QFileDialog", kCierra);
   usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
     EXPECT_EQ(visor.findChild<Lienzo*>()->grab().toImage(), colocado);
-    EXPECT_EQ(Hijo<QLabel>(visor, "LblEstado").text(), veredicto);
+    EXPECT_TRUE(Hijo<QLabel>(visor, "LblEstado").toolTip().endsWith("/a.dxf - " + veredicto));
     Pulsa(visor, "CmdSave");
     visor.close();
   });
