@@ -235,7 +235,7 @@ std::vector<Lamina> Laminas() {
       {"pattern", [] { return Desarrollada(kTolva); }},
       {"placing",
        [] {
-         return ColocandoEn({{0.3, 0.3}, {0.7, 0.2}, {0.3, 0.8}});
+         return ColocandoEn({{0.3, 0.3}, {0.7, 0.2}, {0.76, 0.6}});
        }},
       {"overlap",
        [] {

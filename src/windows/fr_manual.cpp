@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextTable>
 #include <QVBoxLayout>
 
 #include "piece/numeros_texto.h"
@@ -34,11 +35,32 @@ bool Esta(const QUrl& pagina) {
   return false;
 }
 
+// Tables as they come from Markdown stand too close.
+void Compone(const QTextBrowser& paginas) {
+  constexpr int kRelleno = 6, kAire = 8;
+  for (QTextFrame* marco : paginas.document()->rootFrame()->childFrames()) {
+    auto* tabla = qobject_cast<QTextTable*>(marco);
+    if (!tabla) continue;
+    QTextTableFormat formato = tabla->format();
+    formato.setBorderCollapse(true);
+    formato.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    formato.setBorderBrush(paginas.palette().mid());
+    formato.setCellPadding(kRelleno);
+    formato.setMargin(kAire);
+    tabla->setFormat(formato);
+  }
+}
+
 QTextBrowser* Paginas() {
+  constexpr double kMasGrande = 1.5;  // than a window's labels: it is read at length
   auto* paginas = new QTextBrowser;
+  QFont letra = paginas->font();
+  letra.setPointSizeF(letra.pointSizeF() + kMasGrande);
+  paginas->setFont(letra);
   paginas->setFrameShape(QFrame::NoFrame);
   paginas->document()->setDocumentMargin(16);
   paginas->setOpenLinks(false);
+  QObject::connect(paginas, &QTextBrowser::sourceChanged, paginas, [paginas] { Compone(*paginas); });
   QObject::connect(paginas, &QTextBrowser::anchorClicked, paginas, [paginas](const QUrl& enlace) {
     const QUrl pagina = paginas->source().resolved(enlace);
     if (pagina.isLocalFile() && Esta(pagina)) paginas->setSource(pagina);
