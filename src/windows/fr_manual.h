@@ -1,6 +1,7 @@
 #pragma once
 // The manual: pages of the installation, Manual/es for the Spanish configuration and Manual/en for all others, in a
-// window that stays open beside the work. Nothing outside the installation is opened.
+// window that stays open beside the one that it was opened from, until that one closes or waits for another. Nothing
+// outside the installation is opened.
 
 class QPushButton;
 class QWidget;

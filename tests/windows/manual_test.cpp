@@ -9,7 +9,7 @@
 
 #include "piece/numeros_texto.h"
 #include "state/textos.h"
-#include "windows/fr_manual.h"
+#include "windows/teclas.h"
 #include "windows/usuario.h"
 
 namespace duktores {
@@ -35,7 +35,8 @@ struct Manual : ConVentanas {
 
   QTextBrowser& Abre(double idioma) {
     estado.dIdioma = idioma;
-    AbreManual(padre_);
+    usuario_.Cuando("FrAyuda", [](QWidget& teclas) { Pulsa(teclas, "CmdManual"); });
+    MuestraAyuda(padre_);
     return *padre_.findChildren<QTextBrowser*>().back();
   }
   static QStringList Ficheros(const QString& idioma) {
@@ -91,7 +92,6 @@ TEST_F(Manual, IsWholeInBothLanguagesAndQuotesTheWindows) {
   }
 }
 
-// From the page of the keys, as a user would.
 TEST_F(Manual, LeadsFromPageToPageAndNowhereElse) {
   for (const double idioma : {50000.0, 0.0}) {
     QTextBrowser& manual = Abre(idioma);
