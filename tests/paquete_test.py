@@ -21,5 +21,6 @@ with tempfile.TemporaryDirectory() as folder:
         assert (root / str(link.readlink())[1:]).is_file(), link
     assert (root / f"usr/share/icons/hicolor/scalable/apps/{entry['Icon']}.svg").is_file()
     assert "All rights reserved" in (root / "usr/share/doc/duktores/copyright").read_text()
+    assert all((root / f"opt/duktores/Duct/Manual/{language}/index.md").is_file() for language in ("en", "es"))
     subprocess.run([root / "opt/duktores/Duct/duktores-batch", "--out", folder / "out", jobs], check=True,
                    stdout=subprocess.DEVNULL)

@@ -126,4 +126,6 @@ inline constexpr int kEligeFila = 329, kCampoSiguiente = 330, kAbreLista = 331, 
 
 inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follows
 
+inline constexpr int kManual = 370, kSinManual = 371, kIndice = 372, kAtras = 373;  // the manual's window
+
 }  // namespace duktores::texto

@@ -15,6 +15,7 @@
 #include "windows/campo_texto.h"
 #include "windows/ficheros_pieza.h"
 #include "windows/fr_ajustes.h"
+#include "windows/fr_manual.h"
 #include "windows/iconos.h"
 #include "windows/imagen.h"
 #include "windows/registros.h"
@@ -150,8 +151,12 @@ void FrDialogo::Ajustes(int y) {
     PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + " (Ctrl+,)");
   });
   ConectaAjustes(*ajustes);
-  const int x = 2 * kMargen + kAnchoImagen;
-  proporcion_.Coloca(*ajustes, {x, y, Diseno(dialogo_.Definicion()).width() - kMargen - x, kAltoAjustes - 4});
+  auto* manual = new QPushButton(this);
+  textos_.Pon([manual] { PonBoton(*manual, "CmdManual", Q(Texto(texto::kManual))); });
+  ConectaManual(*manual);
+  const int x = 2 * kMargen + kAnchoImagen, fin = Diseno(dialogo_.Definicion()).width() - kMargen;
+  proporcion_.Coloca(*ajustes, {x, y, fin - kAltoBoton - kMargen - x, kAltoAjustes - 4});
+  proporcion_.Coloca(*manual, {fin - kAltoBoton, y, kAltoBoton, kAltoAjustes - 4});
 }
 
 void FrDialogo::Pie(int y) {

@@ -15,6 +15,7 @@
 #include "windows/boton_abre.h"
 #include "windows/ficheros_pieza.h"
 #include "windows/fr_ajustes.h"
+#include "windows/fr_manual.h"
 #include "windows/iconos.h"
 #include "windows/teclas.h"
 #include "windows/ventanas.h"
@@ -46,6 +47,7 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   auto* continuar = new QPushButton(this);
   auto* salir = new QPushButton(this);
   auto* ajustes = new QPushButton(this);
+  auto* manual = new QPushButton(this);
   textos_.Pon([=, this] {
     const bool chino = estado.dIdioma == kChino;
     continuar->setText(QString::fromStdString(Texto(texto::kContinuar)));
@@ -53,9 +55,11 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
     PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
     PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
     PonBoton(*ajustes, "CmdAjustes", QString::fromStdString(Texto(texto::kAjustes)) + " (Ctrl+,)");
+    PonBoton(*manual, "CmdManual", QString::fromStdString(Texto(texto::kManual)));
     setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
   });
   ConectaAjustes(*ajustes);
+  ConectaManual(*manual);
 
   QFont negrita = font();
   negrita.setBold(true);
@@ -68,6 +72,7 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
   proporcion_.Coloca(*continuar, {508, 430, 130, 34});
   proporcion_.Coloca(*salir, {648, 430, 130, 34});
   proporcion_.Coloca(*ajustes, {12, 430, 44, 34});
+  proporcion_.Coloca(*manual, {744, 12, 34, 34});  // no title reaches so far
   proporcion_.Coloca(*LblAviso_, {180, 424, 318, 46});
 
   AnadeFicheros();

@@ -61,6 +61,7 @@ constexpr std::array kDibujos{
     Dibujo{"CmdCeros",      "M12 5A5 7 0 1 0 12 19A5 7 0 1 0 12 5",              ""},
     Dibujo{"CmdAbre",       "M3 19V5H9L11 8H19V11M3 19L7 11H22L18 19Z",          ""},
     Dibujo{"CmdGuardaPieza", "M6 3H14L18 7V21H6ZM14 3V7H18M12 10V17M9 14L12 17L15 14", ""},
+    Dibujo{"CmdManual",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M9 9.5A3 3 0 1 1 13 12.3Q12 12.8 12 14.2M12 16.9V17", ""},
     Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
 };
 // clang-format on

@@ -13,6 +13,7 @@
 
 #include "piece/numeros_texto.h"
 #include "state/textos.h"
+#include "windows/fr_manual.h"
 #include "windows/proporcion.h"
 
 namespace duktores {
@@ -130,6 +131,9 @@ void MuestraAyuda(QWidget& padre) {
   pagina->setFrameShape(QFrame::NoFrame);
   pagina->setHtml(Pagina() + "<p>duktores " DUKTORES_VERSION "</p>");
   auto* botones = new QDialogButtonBox(QDialogButtonBox::Close);
+  auto* manual = botones->addButton(Q(Texto(texto::kManual)), QDialogButtonBox::ActionRole);
+  manual->setObjectName("CmdManual");
+  QObject::connect(manual, &QPushButton::clicked, &ventana, &QDialog::accept);
   QObject::connect(botones, &QDialogButtonBox::rejected, &ventana, &QDialog::reject);
   auto* columna = new QVBoxLayout(&ventana);
   columna->addWidget(pagina);
@@ -138,7 +142,7 @@ void MuestraAyuda(QWidget& padre) {
   pagina->document()->adjustSize();
   const QSize toda = pagina->document()->size().toSize();
   ventana.resize((toda + kBorde).boundedTo(SitioLibre(padre)));
-  ventana.exec();
+  if (ventana.exec() == QDialog::Accepted) AbreManual(padre);
 }
 
 bool PulsaConEnter(const QWidget& ventana, const QKeyEvent& suceso) {
