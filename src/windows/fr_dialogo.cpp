@@ -263,7 +263,7 @@ void FrDialogo::Pon(const PiezaAbierta& abierta) {
   Pon(abierta.dialogo);
   abierta_ = TrabajoDe(dialogo_, abierta.trabajo.nombre);
   abierta_.puntos = abierta.trabajo.puntos;
-  if (abierta_.puntos) visor_.reset();  // which may show the same values in other places
+  if (abierta_.puntos) SueltaVisor();  // which may show the same values in other places
   recienAbierta_ = !isVisible();
 }
 
@@ -304,6 +304,11 @@ void FrDialogo::customEvent(QEvent* suceso) {
   Vivo();
 }
 
+// A window that it has closed may still be on its way back to it.
+void FrDialogo::SueltaVisor() {
+  if (visor_) visor_.release()->deleteLater();
+}
+
 void FrDialogo::CmdAceptar() {
   if (FrmViewUnfold::Colocando()) return;
   const Respuesta respuesta = dialogo_.CmdAceptar();
@@ -317,6 +322,7 @@ void FrDialogo::CmdAceptar() {
   aceptados_ = TrabajoDe(dialogo_, {}).valores;
   if (!visor_ || !visor_->Muestra(*estado.pieza)) {
     const bool deFichero = aceptados_ == abierta_.valores && abierta_.puntos;
+    SueltaVisor();
     visor_ = std::make_unique<FrmViewUnfold>(this, deFichero ? *abierta_.puntos : std::vector<Punto2>());
   }
   visor_->exec();

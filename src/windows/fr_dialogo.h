@@ -50,6 +50,7 @@ class FrDialogo : public QDialog {
   void CmdAbre(const QString& ruta);
   void Activa();
   void CmdAceptar();
+  void SueltaVisor();
   void MuestraError(int campo, const QString& texto);
   void OlvidaError(int campo);
 

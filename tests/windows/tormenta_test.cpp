@@ -109,7 +109,7 @@ class Tormenta : public ConVentanas {
 
   void Paso() {
     if (reloj_.hasExpired(1000LL * segundos_)) return QApplication::exit();
-    QTimer::singleShot(0, qApp, [this] { Paso(); });
+    QTimer::singleShot(1, qApp, [this] { Paso(); });  // a window that is closed goes before the next step
     QWidget* ventana = Alcanzable();
     if (!ventana) return QApplication::exit();
     ++pasos_;
