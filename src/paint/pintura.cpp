@@ -60,12 +60,14 @@ bool EsVueltaEntera(const Entidad& curva) { return curva.fin - curva.inicio > 2 
 
 class Pincel {
  public:
-  Pincel(QPainter& pintor, const Base3& base, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada)
+  Pincel(QPainter& pintor, const Base3& base, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo, double porPulgada,
+         Esmero esmero = Esmero::fino)
       : pintor_(pintor),
         base_(base),
         encuadre_(encuadre),
         lienzo_(lienzo),
         fondo_(fondo),
+        esmero_(esmero),
         trazos_(fondo == Fondo::claro ? kTrazosPapel : kTrazosPantalla),
         escalaTrazos_(fondo == Fondo::claro ? porPulgada / kPorPulgada : 1),
         celda_(20 * porPulgada) {
@@ -100,6 +102,7 @@ class Pincel {
   Encuadre encuadre_;
   QSizeF lienzo_;
   Fondo fondo_;
+  Esmero esmero_;
   Trazos trazos_;
   double escalaTrazos_, celda_;
   bool svg_ = false, vectorial_ = false;
@@ -119,8 +122,8 @@ void Pincel::PonPluma(std::int32_t color, double ancho) {
   Vuelca();
   colorPluma_ = color;
   anchoPluma_ = ancho;
-  QPen pluma(Tinta(color, fondo_), ancho * escalaTrazos_ * puntosPorUnidad_, Qt::SolidLine, Qt::SquareCap,
-             Qt::MiterJoin);
+  const double puntos = esmero_ == Esmero::fino ? ancho * escalaTrazos_ * puntosPorUnidad_ : 1;
+  QPen pluma(Tinta(color, fondo_), puntos, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
   pluma.setCosmetic(!vectorial_);
   pintor_.setPen(pluma);
 }
@@ -195,9 +198,15 @@ QPolygonF Pincel::CaminoCurva(const Entidad& curva) const {
 QPolygonF Pincel::Camino(const Entidad& entidad) const {
   QPolygonF camino;
   camino.reserve(static_cast<qsizetype>(entidad.puntos.size()));
-  // A vertex that stands twice would leave a spur at its corner.
+  // A vertex that stands twice would leave a spur at its corner; a small part of a pixel shows nothing.
+  const double cerca = vectorial_ ? 0 : 0.1 / puntosPorUnidad_;
   for (const Punto3& p : entidad.puntos) {
-    if (const QPointF q = Lugar(p); camino.isEmpty() || camino.back() != q) camino << q;
+    const QPointF q = Lugar(p);
+    if (camino.isEmpty() || !((q - camino.back()).manhattanLength() <= cerca)) {
+      camino << q;
+    } else if (&p == &entidad.puntos.back()) {
+      camino.back() = q;
+    }
   }
   return camino;
 }
@@ -254,7 +263,8 @@ void Pincel::PintaTexto(const Entidad& entidad) {
 // Outlines lie over the bend lines that run along them, texts over all.
 void Pincel::Pinta(std::span<const Entidad> entidades) {
   pintor_.save();
-  pintor_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  pintor_.setRenderHint(QPainter::Antialiasing, esmero_ == Esmero::fino);
+  pintor_.setRenderHint(QPainter::TextAntialiasing);
   pintor_.setBrush(Qt::NoBrush);
   pintor_.setLayoutDirection(Qt::LeftToRight);
   for (const bool contornos : {false, true}) {
@@ -271,10 +281,11 @@ void Pincel::Pinta(std::span<const Entidad> entidades) {
 }  // namespace
 
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
-           double porPulgada) {
+           double porPulgada, Esmero esmero) {
   if (!pintor.isActive()) return;
   pintor.fillRect(QRectF(QPointF(), lienzo), ColorFondo(fondo));
-  Pincel(pintor, BaseVista(axew.DireccionVista()), encuadre, lienzo, fondo, porPulgada).Pinta(axew.Entidades());
+  Pincel(pintor, BaseVista(axew.DireccionVista()), encuadre, lienzo, fondo, porPulgada, esmero)
+      .Pinta(axew.Entidades());
 }
 
 void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,

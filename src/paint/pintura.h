@@ -45,6 +45,8 @@ struct Encuadre {
 
 /// Light paper (dark ink for colours that would not show) or the dark drawing area of the screen.
 enum class Fondo { claro, oscuro };
+/// Fine, or fast for a view that is moving: thin lines without smoothed edges.
+enum class Esmero { fino, veloz };
 
 /// The rectangle of the viewing plane that the model covers, texts with their width included; null if it is empty.
 QRectF ExtensionPintada(const EWdraw& axew);
@@ -61,7 +63,7 @@ inline constexpr double kPorPulgada = 144;
 /// should be the one it starts with, but for a translation. On paper, lines are a quarter of a millimetre wide,
 /// outlines more.
 void Pinta(QPainter& pintor, const EWdraw& axew, const Encuadre& encuadre, QSizeF lienzo, Fondo fondo,
-           double porPulgada = kPorPulgada);
+           double porPulgada = kPorPulgada, Esmero esmero = Esmero::fino);
 /// Paints entities over what is there, seen from above.
 void PintaEntidades(QPainter& pintor, std::span<const Entidad> entidades, const Encuadre& encuadre, QSizeF lienzo,
                     Fondo fondo);

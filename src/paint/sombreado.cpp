@@ -196,18 +196,22 @@ Trazo TrazoDe(const AristaVista& arista, double fuerza) {
   return {kLinea, 0.9, 1};
 }
 
-// In pieces of this length, if it is translucent: Qt shares out a longer one to other threads, which takes a hundred
-// times as long as to paint it.
-void AnadeTramos(std::vector<QLineF>& lineas, const QLineF& linea, bool opaca) {
-  constexpr double kLargo = 16;
-  const int n = opaca ? 1 : std::max(1, static_cast<int>(std::ceil(linea.length() / kLargo)));
+// In pieces of at most so many device units, if it is translucent: Qt shares out one of many pixels to other threads,
+// which takes a hundred times as long as to paint it.
+void AnadeTramos(std::vector<QLineF>& lineas, const QLineF& linea, double tramo) {
+  const int n = std::max(1, static_cast<int>(std::ceil(linea.length() / tramo)));
   for (int i = 0; i < n; ++i) lineas.emplace_back(linea.pointAt(1.0 * i / n), linea.pointAt((i + 1.0) / n));
 }
 
 class Trazador {
  public:
-  Trazador(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo)
-      : pintor_(pintor), visto_(visto), encuadre_(encuadre), lienzo_(lienzo), fuerza_(Fuerza(visto, encuadre.escala)) {}
+  Trazador(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo, Esmero esmero)
+      : pintor_(pintor),
+        visto_(visto),
+        encuadre_(encuadre),
+        lienzo_(lienzo),
+        esmero_(esmero),
+        fuerza_(esmero == Esmero::fino ? Fuerza(visto, encuadre.escala) : 0) {}
 
   void Facetas(bool interior) {
     pintor_.setRenderHint(QPainter::Antialiasing, false);  // else the background shines through between two of them
@@ -225,7 +229,7 @@ class Trazador {
 
   // Hidden lines are drawn once more, faintly, over what hides them.
   void Aristas(bool delante, double alfa) {
-    pintor_.setRenderHint(QPainter::Antialiasing, true);
+    pintor_.setRenderHint(QPainter::Antialiasing, esmero_ == Esmero::fino);
     for (const auto clase :
          {ClaseArista::tersa, ClaseArista::doblez, ClaseArista::canto, ClaseArista::base, ClaseArista::boca}) {
       for (const bool silueta : {false, true}) Clase(clase, delante, silueta, alfa);
@@ -240,11 +244,13 @@ class Trazador {
     const Trazo trazo = TrazoDe({{}, clase, delante, silueta}, fuerza_);
     if (trazo.alfa <= 0) return;
     const bool opaca = trazo.alfa * alfa >= 1;
+    constexpr double kPixels = 14;
+    const double tramo = opaca ? HUGE_VAL : kPixels / pintor_.device()->devicePixelRatioF();
     for (const AristaVista& arista : visto_.aristas) {
       if (arista.clase != clase || arista.delante != delante || arista.silueta != silueta) continue;
       const QLineF linea(En(arista.plano.p1()), En(arista.plano.p2()));
       if (const auto visible = Recorta(linea, QRectF(QPointF(), lienzo_).adjusted(-8, -8, 8, 8))) {
-        AnadeTramos(lineas, *visible, opaca);
+        AnadeTramos(lineas, *visible, tramo);
       }
     }
     QColor color(trazo.color);
@@ -257,6 +263,7 @@ class Trazador {
   const SolidoVisto& visto_;
   Encuadre encuadre_;
   QSizeF lienzo_;
+  Esmero esmero_;
   double fuerza_;
 };
 
@@ -266,11 +273,12 @@ SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos) {
   return Mirada(solido, direccion, trozos).Mira();
 }
 
-void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo) {
+void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo,
+                    Esmero esmero) {
   constexpr double kOculta = 0.28;
   pintor.save();
   pintor.fillRect(QRectF(QPointF(), lienzo), QColor(kFondo));
-  Trazador trazador(pintor, visto, encuadre, lienzo);
+  Trazador trazador(pintor, visto, encuadre, lienzo, esmero);
   trazador.Facetas(true);
   trazador.Aristas(false, 1);
   trazador.Facetas(false);

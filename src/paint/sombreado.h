@@ -39,8 +39,9 @@ struct SolidoVisto {
 /// least. What has coordinates that are no numbers is left out.
 SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos = 300);
 
-/// Fills `lienzo` with the dark background and paints the solid.
-void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo);
+/// Fills `lienzo` with the dark background and paints the solid; without its bend lines if it has to be fast.
+void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo,
+                    Esmero esmero = Esmero::fino);
 
 /// A cross of the model's axes as seen from `direccion` in the lower left corner, and in the upper one what the colours
 /// of the rims mean.

@@ -1,5 +1,6 @@
 #include "windows/lienzo.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QMouseEvent>
 #include <QPainter>
@@ -207,14 +208,27 @@ void Lienzo::PonSolido(const Solido* solido) {
   update();
 }
 
+// What takes long to paint is painted faster while it is dragged.
 void Lienzo::paintEvent(QPaintEvent*) {
+  constexpr qint64 kLento = 10;
+  const auto esmero = arrastre_ && lento_ ? Esmero::veloz : Esmero::fino;
+  QElapsedTimer reloj;
+  reloj.start();
+  PintaCuadro(esmero);
+  if (esmero == Esmero::fino) lento_ = reloj.elapsed() >= kLento;
+}
+
+void Lienzo::PintaCuadro(Esmero esmero) {
   QPainter pintor(this);
   pintor.setRenderHint(QPainter::Antialiasing);
   if (solido_) {
-    PintaSombreado(pintor, Mira(*solido_, axew_.DireccionVista()), encuadre_, size());
+    constexpr int kTrozosVeloz = 120;
+    const Punto3 d = axew_.DireccionVista();
+    const SolidoVisto visto = esmero == Esmero::fino ? Mira(*solido_, d) : Mira(*solido_, d, kTrozosVeloz);
+    PintaSombreado(pintor, visto, encuadre_, size(), esmero);
     PintaEjes(pintor, axew_.DireccionVista(), size());
   } else {
-    Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro);
+    Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro, kPorPulgada, esmero);
   }
   if (encima_) encima_(pintor, encuadre_);
   if (eleccion_) PintaFantasma(pintor);

@@ -75,12 +75,14 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void Orbita(QPointF paso);
   void PonMando(std::optional<MandoVista> mando);
   void PonPuntero();
+  void PintaCuadro(Esmero esmero);
   void PintaFantasma(QPainter& pintor) const;
 
   EWdraw& axew_;
   Encuadre encuadre_;
   std::optional<MandoVista> mando_;     // of the left button
   std::optional<MandoVista> arrastre_;  // what the pressed button does
+  bool lento_ = false;                  // the last fine painting was
   QPointF inicio_, raton_;
   bool orbita_ = true;
   const Solido* solido_ = nullptr;
