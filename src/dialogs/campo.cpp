@@ -9,8 +9,8 @@ namespace {
 
 bool EsCifra(char32_t tecla) { return tecla >= U'0' && tecla <= U'9'; }
 
-// Why a text can't be typed.
-int Falta(std::u32string_view texto, Filtro filtro) {
+// Why a text can't be typed, which ends at this key.
+int Falta(std::u32string_view texto, char32_t tecla, Filtro filtro) {
   if (filtro == FiltraEntero) return texto::kSoloCifras;
   const std::size_t marca = texto.find_first_of(U".,");
   const bool dosMarcas = marca != texto.npos && texto.find_first_of(U".,", marca + 1) != texto.npos;
@@ -18,8 +18,7 @@ int Falta(std::u32string_view texto, Filtro filtro) {
   if (dosMarcas || texto.find_first_not_of(signos) != texto.npos) return texto::kSoloNumero;
   const std::size_t signo = texto.rfind(U'-');
   if (signo != texto.npos && signo > 0) return texto::kSignoDelante;
-  const bool sobran = marca != texto.npos && texto.size() - marca - 1 > static_cast<std::size_t>(Decimales());
-  return sobran ? texto::kDecimalesDeMas : texto::kSoloNumero;
+  return EsCifra(tecla) ? texto::kDecimalesDeMas : texto::kSoloNumero;
 }
 
 // The count doesn't look at the caret: with all decimals present no digit passes before the point either.
@@ -84,8 +83,9 @@ bool Teclea(char32_t tecla, Campo& campo, Filtro filtro) {
 int TecleaTodo(std::u32string_view texto, Campo& campo, Filtro filtro) {
   constexpr std::size_t kMaximo = 400;  // no number needs more, and each character looks at all those before it
   Campo nuevo = campo;
+  if (texto.size() > kMaximo) return Falta(texto, 0, filtro);
   for (const char32_t tecla : texto) {
-    if (texto.size() > kMaximo || tecla < U' ' || !Teclea(tecla, nuevo, filtro)) return Falta(texto, filtro);
+    if (tecla < U' ' || !Teclea(tecla, nuevo, filtro)) return Falta(texto, tecla, filtro);
   }
   if (filtro == FiltraNumeroSigno && !SignoEnSuSitio(nuevo)) return texto::kSignoDelante;
   campo = nuevo;

@@ -25,7 +25,15 @@ std::string_view SeccionUltimos() { return estado.iUnidad == 1 ? "LAST_MM" : "LA
 
 void PonUltimos(const Dialogo& dialogo) {
   const std::string_view clave = dialogo.Definicion().clave;
-  PonPropio(SeccionUltimos(), clave, EscribeTrabajo(TrabajoDe(dialogo, std::string(clave))));
+  const Trabajo trabajo = TrabajoDe(dialogo, std::string(clave));
+  Dialogo prueba(dialogo.Definicion());
+  if (LlenaDialogo(prueba, trabajo)) return;
+  PonPropio(SeccionUltimos(), clave, EscribeTrabajo(trabajo));
+}
+
+bool HayUltimos(const Dialogo& dialogo) {
+  Dialogo prueba(dialogo.Definicion());
+  return LlenaUltimos(prueba);
 }
 
 bool LlenaUltimos(Dialogo& dialogo) {

@@ -267,6 +267,17 @@ class Trazador {
   double fuerza_;
 };
 
+// What stands there lies on the solid.
+void PintaPlaca(QPainter& pintor, QRectF sitio) {
+  constexpr double kEsquina = 6, kOpaca = 0.7;
+  QColor color(kFondo);
+  color.setAlphaF(static_cast<float>(kOpaca));
+  pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  pintor.setPen(Qt::NoPen);
+  pintor.setBrush(color);
+  pintor.drawRoundedRect(sitio, kEsquina, kEsquina);
+}
+
 }  // namespace
 
 SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos) {
@@ -299,7 +310,7 @@ void PintaEjes(QPainter& pintor, Punto3 direccion, QSizeF lienzo) {
   const Base3 base = BaseVista(direccion);
   const QPointF origen(kOrigen, lienzo.height() - kOrigen);
   pintor.save();
-  pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+  PintaPlaca(pintor, QRectF(origen, QSizeF()).adjusted(-kOrigen, -kOrigen, kOrigen, kOrigen));
   for (const auto& [hacia, color, letra] : kEjes) {
     const QPointF plano = AlPlano(base, hacia), vector(plano.x(), -plano.y());
     pintor.setPen(QPen(QColor(color), 1.6, Qt::SolidLine, Qt::RoundCap));
@@ -308,11 +319,24 @@ void PintaEjes(QPainter& pintor, Punto3 direccion, QSizeF lienzo) {
     if (std::hypot(plano.x(), plano.y()) < 0.2) continue;  // towards the viewer
     pintor.drawText(QRectF(sitio.x() - 10, sitio.y() - 10, 20, 20), Qt::AlignCenter, letra);
   }
-  double y = 22;
-  for (const auto& [texto, color] : {std::pair{texto::kBoca, kBoca}, std::pair{texto::kBase, kBase}}) {
+  pintor.restore();
+}
+
+void PintaLeyenda(QPainter& pintor) {
+  constexpr double kMargen = 12, kRenglon = 18;
+  pintor.save();
+  const std::array renglones{std::pair{QString::fromStdString(Texto(texto::kBoca)), kBoca},
+                             std::pair{QString::fromStdString(Texto(texto::kBase)), kBase}};
+  double ancho = 0;
+  for (const auto& [texto, color] : renglones) {
+    ancho = std::max(ancho, QFontMetricsF(pintor.font()).horizontalAdvance(texto));
+  }
+  PintaPlaca(pintor, {kMargen / 2, kMargen / 2, ancho + kMargen, 2 * kRenglon + kMargen / 2});
+  double y = kMargen / 2 + kRenglon - 2;
+  for (const auto& [texto, color] : renglones) {
     pintor.setPen(QColor(color));
-    pintor.drawText(QPointF(12, y), QString::fromStdString(Texto(texto)));
-    y += 18;
+    pintor.drawText(QPointF(kMargen, y), texto);
+    y += kRenglon;
   }
   pintor.restore();
 }

@@ -43,9 +43,10 @@ SolidoVisto Mira(const Solido& solido, Punto3 direccion, int trozos = 300);
 void PintaSombreado(QPainter& pintor, const SolidoVisto& visto, const Encuadre& encuadre, QSizeF lienzo,
                     Esmero esmero = Esmero::fino);
 
-/// A cross of the model's axes as seen from `direccion` in the lower left corner, and in the upper one what the colours
-/// of the rims mean.
+/// A cross of the model's axes as seen from `direccion`, in the lower left corner.
 void PintaEjes(QPainter& pintor, Punto3 direccion, QSizeF lienzo);
+/// What the colours of the rims mean, in the upper left corner.
+void PintaLeyenda(QPainter& pintor);
 
 /// The direction that one looks from when the model is turned by a drag of the mouse; never quite along Z.
 Punto3 Girada(Punto3 direccion, QPointF arrastre);

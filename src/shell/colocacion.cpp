@@ -56,13 +56,14 @@ Desarrollo Colocacion::Desarrolla() {
     desarrollo_ = hace_();
     cosas_ = Ensaya(desarrollo_->patron, FormatoDeEstado());
     fijas_ = !cosas_.empty() && cosas_.front().fija ? 1 : 0;
+    const std::size_t pide = cosas_.size() - fijas_;
     historia_ = {Sitios(fijas_)};
-    conocidos_.resize(std::min(conocidos_.size(), cosas_.size() - fijas_));
-    if (!conocidos_.empty()) {
-      Sitios sitios = Puestas();
-      sitios.insert(sitios.end(), conocidos_.begin(), conocidos_.end());
-      Apunta(std::move(sitios));
+    if (pide > 0 && antes_.size() == pide) {
+      Anade(antes_);
+      Apunta(Sitios(fijas_));
     }
+    conocidos_.resize(std::min(conocidos_.size(), pide));
+    Anade(conocidos_);
   }
   return *desarrollo_;
 }
@@ -97,6 +98,15 @@ void Colocacion::Apunta(Sitios sitios) {
   historia_.push_back(std::move(sitios));
 }
 
+// One after the other, as they can be taken back.
+void Colocacion::Anade(const Sitios& nuevas) {
+  for (const Punto2 sitio : nuevas) {
+    Sitios sitios = Puestas();
+    sitios.push_back(sitio);
+    Apunta(std::move(sitios));
+  }
+}
+
 bool Colocacion::Cambia(Sitios sitios) {
   if (sitios == Puestas()) return false;
   Apunta(std::move(sitios));
@@ -121,8 +131,14 @@ bool Colocacion::PonTodas() {
   }
   const bool libre = sitios.size() == fijas_;  // nothing stands in the way of the arrangement
   const Punto2 mas{libre ? 0 : derecha + 2 * FormatoDeEstado().pasoX - izquierda, 0};
-  for (const Punto2 sitio : nuevas) sitios.push_back(sitio + mas);
-  return Cambia(std::move(sitios));
+  for (Punto2& sitio : nuevas) sitio = sitio + mas;
+  Anade(nuevas);
+  conCaja_ = false;
+  return cambiada_ = true;
+}
+
+bool Colocacion::Repartida() const {
+  return Completa() && Elegidas() == Reparte(desarrollo_->patron, FormatoDeEstado());
 }
 
 bool Colocacion::PonJunta() {

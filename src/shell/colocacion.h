@@ -17,8 +17,9 @@ using Sitios = std::vector<Punto2>;
 class Colocacion {
  public:
   /// `hace` makes the pattern of the accepted piece, once. Those that are asked for first stand at places known before.
-  explicit Colocacion(HaceDesarrollo hace, Sitios conocidos = {})
-      : hace_(std::move(hace)), conocidos_(std::move(conocidos)) {}
+  /// All places of `antes`, if it has as many as the pattern asks for, come back as if clearing them had been a change.
+  explicit Colocacion(HaceDesarrollo hace, Sitios conocidos = {}, Sitios antes = {})
+      : hace_(std::move(hace)), conocidos_(std::move(conocidos)), antes_(std::move(antes)) {}
 
   /// Draws what has a place and asks for the rest, a prompt's box with each that follows a click. A change during a
   /// pick begins the drawing anew as soon as the pick is refused.
@@ -28,7 +29,7 @@ class Colocacion {
   bool PonTodas();  ///< this one and all that follow, as `Reparte` would, right of what is placed
   bool PonJunta();  ///< this one beside the last, on one bottom line with it: the next free place at the right
   bool Mueve(std::size_t cosa, Punto2 mas);  ///< a placed thing, a shape with its title block
-  bool Deshace();                            ///< the last change or click
+  bool Deshace();                            ///< the last move, or the last thing placed
   bool Rehace();
 
   /// The things of the pattern, none before the first Despliega, and the places of the first of them.
@@ -37,6 +38,9 @@ class Colocacion {
   bool Completa() const { return !cosas_.empty() && Puestas().size() >= cosas_.size(); }
   /// The places that were asked for.
   Sitios Elegidas() const { return {Puestas().begin() + static_cast<std::ptrdiff_t>(fijas_), Puestas().end()}; }
+
+  /// Whether all lies as `Reparte` lays it.
+  bool Repartida() const;
 
   /// Shape, or shape of the title block, by its name.
   std::string Nombre(std::size_t cosa) const;
@@ -51,9 +55,10 @@ class Colocacion {
   std::string Cuenta(const Encargo& encargo) const;
   bool Cambia(Sitios sitios);
   void Apunta(Sitios sitios);
+  void Anade(const Sitios& nuevas);
 
   HaceDesarrollo hace_;
-  Sitios conocidos_;
+  Sitios conocidos_, antes_;
   std::optional<Desarrollo> desarrollo_;
   std::vector<Cosa> cosas_;
   std::size_t fijas_ = 0;                      // of the things, those that lie where they are

@@ -1,6 +1,7 @@
 #include "windows/boton_abre.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMenu>
 
 #include "jobs/memoria.h"
@@ -31,13 +32,18 @@ void BotonAbre::PideFichero() {
   if (!ruta.isEmpty()) emit elegido(ruta);
 }
 
-// A path may hold the character that marks a key of a menu.
+// A path may hold the character that marks a key of a menu; of a long one the file's name must be seen.
 void BotonAbre::LlenaMenu() {
+  constexpr int kAncho = 420;
   menu()->clear();
+  menu()->setToolTipsVisible(true);
   for (const std::string& reciente : Recientes()) {
     const QString ruta = QString::fromStdString(reciente);
-    connect(menu()->addAction(QString(ruta).replace('&', "&&")), &QAction::triggered, this,
-            [this, ruta] { emit elegido(ruta); });
+    if (!QFileInfo::exists(ruta)) continue;
+    const QString corta = menu()->fontMetrics().elidedText(ruta, Qt::ElideMiddle, kAncho);
+    QAction* accion = menu()->addAction(QString(corta).replace('&', "&&"));
+    accion->setToolTip(ruta);
+    connect(accion, &QAction::triggered, this, [this, ruta] { emit elegido(ruta); });
   }
 }
 

@@ -77,15 +77,15 @@ void Colocador::Teclas() {
   tecla(Qt::Key_Return, true, cambia(&Colocacion::PonTodas));
   tecla(Qt::Key_Enter, true, cambia(&Colocacion::PonTodas));
   tecla(Qt::Key_N, true, cambia(&Colocacion::PonJunta));
-  tecla(Qt::Key_Backspace, true, cambia(&Colocacion::Deshace));
+  tecla(Qt::Key_Backspace, false, cambia(&Colocacion::Deshace));
   tecla(Qt::CTRL | Qt::Key_Z, false, cambia(&Colocacion::Deshace));
   tecla(Qt::CTRL | Qt::Key_Y, false, cambia(&Colocacion::Rehace));
   tecla(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, false, cambia(&Colocacion::Rehace));
   tecla(Qt::Key_L, false, [this] { CmdNombres_->toggle(); });
 }
 
-void Colocador::Empieza(HaceDesarrollo hace, Sitios conocidos) {
-  colocacion_.emplace(std::move(hace), std::move(conocidos));
+void Colocador::Empieza(HaceDesarrollo hace, Sitios conocidos, Sitios antes) {
+  colocacion_.emplace(std::move(hace), std::move(conocidos), std::move(antes));
   nombres_.clear();
 }
 
@@ -112,8 +112,9 @@ bool Colocador::VariasFormas() const { return std::ranges::count(colocacion_->Co
 void Colocador::Muestra() {
   if (!colocacion_) return;
   CmdNombres_->setVisible(VariasFormas());
-  CmdTodas_->setVisible(lienzo_.Eligiendo());
-  panel_->setVisible(!lienzo_.Orbitable() && (VariasFormas() || lienzo_.Eligiendo()));
+  const bool faltan = lienzo_.Eligiendo() || !colocacion_->Completa();
+  CmdTodas_->setVisible(faltan);
+  panel_->setVisible(!lienzo_.Orbitable() && (VariasFormas() || faltan));
   panel_->layout()->activate();
   lienzo_.update();
 }
@@ -245,7 +246,12 @@ void Colocador::Pinta(QPainter& pintor, const Encuadre& encuadre) const {
   const auto& sitios = colocacion_->Puestas();
   const std::size_t puestas = std::min(sitios.size(), nombres_.size());
   for (std::size_t i = 0; i < puestas; ++i) PintaNombre(pintor, encuadre, i, sitios[i]);
-  for (const std::size_t i : malas_) PintaMal(pintor, encuadre, i, sitios[i]);
+  const auto arrastrada = [&](std::size_t i) {
+    return arrastre_ && (i == arrastre_->cosa || i == colocacion_->BloqueDe(arrastre_->cosa));
+  };
+  for (const std::size_t i : malas_) {
+    if (!arrastrada(i)) PintaMal(pintor, encuadre, i, sitios[i]);
+  }
   if (lienzo_.Eligiendo() && sitios.size() < cosas.size()) {
     PintaCosa(pintor, encuadre, sitios.size(), {lienzo_.Puntero().x(), lienzo_.Puntero().y()});
   }

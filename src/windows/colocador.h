@@ -2,7 +2,7 @@
 // Places the things of a pattern in the drawing widget: what keys, a button and the mouse do to the list of places, and
 // what is shown over the model meanwhile: the hanging thing in full, names, overlaps in a colour of warning. While a
 // thing hangs on the pointer Enter places it and all that follow, N puts it beside the last; Backspace and Ctrl+Z take
-// back, Ctrl+Y goes the other way. When all stands the left button drags.
+// back, at any time and one thing after the other, Ctrl+Y goes the other way. When all stands the left button drags.
 
 #include <QObject>
 #include <QPushButton>
@@ -21,10 +21,15 @@ class Colocador : public QObject {
   /// Lives and dies with the widget, and works while a flat pattern shows there.
   Colocador(EWdraw& axew, Lienzo& lienzo);
 
-  /// A new pattern: but for the first, at places known before, nothing has a place.
-  void Empieza(HaceDesarrollo hace, Sitios conocidos);
+  /// A new pattern: but for the first, at places known before, nothing has a place. An undo brings back all that stood
+  /// `antes`.
+  void Empieza(HaceDesarrollo hace, Sitios conocidos, Sitios antes = {});
   /// Draws the pattern, asking for places that are missing.
   Corrida Despliega();
+
+  /// The places that have been asked for, and whether all lies where it would by itself.
+  Sitios Elegidas() const { return colocacion_ ? colocacion_->Elegidas() : Sitios(); }
+  bool Repartida() const { return colocacion_ && colocacion_->Repartida(); }
 
   /// The overlaps that stand, in words; those of the hanging thing with the pointer at `punto`.
   QString Solapes() const { return solapes_; }

@@ -131,6 +131,7 @@ class Exportacion {
     QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
     caja.setTextFormat(Qt::PlainText);  // names of files
     caja.setText(pregunta);
+    caja.setDefaultButton(QMessageBox::No);
     return caja.exec() == QMessageBox::Yes;
   }
   std::string Ruta(const std::string& fichero) const { return std::filesystem::path(carpeta_) / fichero; }

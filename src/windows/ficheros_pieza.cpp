@@ -121,18 +121,19 @@ std::optional<PiezaAbierta> AbrePieza(QWidget& sobre, const std::string& ruta) {
   return abierta;
 }
 
-void GuardaPieza(QWidget& sobre, Trabajo trabajo) {
+bool GuardaPieza(QWidget& sobre, Trabajo trabajo) {
   // What was typed with the caret here and there may be nothing that could be typed again.
   Dialogo prueba(FilaDeClave(trabajo.pieza)->dialogo);
   if (const auto rechazo = LlenaDialogo(prueba, trabajo)) {
-    return Avisa(texto::kValorNoSirve, ValorDe(trabajo, rechazo->clave));
+    return Avisa(texto::kValorNoSirve, ValorDe(trabajo, rechazo->clave)), false;
   }
   QFileDialog dialogo(&sobre, Q(Texto(texto::kGuardaPieza)), Q(CarpetaPiezas()), ".json (*.json)");
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setDefaultSuffix("json");
   dialogo.setOption(QFileDialog::DontConfirmOverwrite);
   while (dialogo.exec() == QDialog::Accepted) {
-    const std::string ruta = dialogo.selectedFiles().value(0).toStdString();
+    const QString elegido = dialogo.selectedFiles().value(0);
+    const std::string ruta =
+        (elegido.endsWith(".json", Qt::CaseInsensitive) ? elegido : elegido + ".json").toStdString();
     if (!EsNombre(Fuste(ruta))) {
       Avisa(texto::kNombreMalo, Fuste(ruta));
       continue;
@@ -147,13 +148,17 @@ void GuardaPieza(QWidget& sobre, Trabajo trabajo) {
     }
     if (!guardado) continue;
     PonReciente(ruta);
-    return;
+    return true;
   }
+  return false;
 }
 
 std::string CarpetaPiezas() {
-  const auto recientes = Recientes();
-  return recientes.empty() ? estado.sRutaDuct : std::filesystem::path(recientes.front()).parent_path().string();
+  for (const std::string& reciente : Recientes()) {
+    const std::string carpeta = std::filesystem::path(reciente).parent_path().string();
+    if (QFileInfo(Q(carpeta)).isDir()) return carpeta;
+  }
+  return estado.sRutaDuct;
 }
 
 }  // namespace duktores

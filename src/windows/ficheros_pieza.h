@@ -21,8 +21,8 @@ struct PiezaAbierta {
 /// taken has been told.
 std::optional<PiezaAbierta> AbrePieza(QWidget& sobre, const std::string& ruta);
 
-/// Asks for a file, and where it holds pieces already whether this one joins them.
-void GuardaPieza(QWidget& sobre, Trabajo trabajo);
+/// Asks for a file, and where it holds pieces already whether this one joins them. False if it isn't saved.
+bool GuardaPieza(QWidget& sobre, Trabajo trabajo);
 
 /// Where the files of pieces lie: the folder of the last one, else that of the drawings.
 std::string CarpetaPiezas();

@@ -1,6 +1,5 @@
 #include "windows/fr_dialogo.h"
 
-#include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
 #include <algorithm>
@@ -178,7 +177,7 @@ void FrDialogo::Pie(int y) {
     cancelar->setText(Q(Texto(texto::kCancelar)));
     PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
     PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
-    if (!dialogo_.lblerror().empty()) lblerror_->setText(Q(Texto(dialogo_.Definicion().textoError)));
+    lblerror_->hide();
   });
   aceptar->setDefault(true);
   const int derecha = Diseno(dialogo_.Definicion()).width() - kMargen;
@@ -221,10 +220,10 @@ void FrDialogo::Barra(int y) {
     connect(nuevo, &QPushButton::clicked, this, hace);
     return nuevo;
   };
-  auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, " (Ctrl+L)", [this] {
+  CmdUltimos_ = boton("CmdUltimos", texto::kUltimosValores, " (Ctrl+L)", [this] {
     if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
   });
-  connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, ultimos, &QPushButton::click);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, CmdUltimos_, &QPushButton::click);
   QStringList ceros;
   for (const DefCampo& campo : dialogo_.Definicion().campos) {
     if (campo.uso == Uso::desvio) ceros += Q(campo.palabra);
@@ -239,7 +238,7 @@ void FrDialogo::Barra(int y) {
   textos_.Pon([abre] { abre->PonTexto(); });
   coloca(*abre);
   connect(abre, &BotonAbre::elegido, this, &FrDialogo::CmdAbre);
-  boton("CmdGuardaPieza", texto::kGuardaPieza, {}, [this] { GuardaPieza(*this, Pieza()); });
+  boton("CmdGuardaPieza", texto::kGuardaPieza, {}, [this] { CmdGuardaPieza(); });
 }
 
 void FrDialogo::Pon(const Dialogo& lleno) {
@@ -247,7 +246,9 @@ void FrDialogo::Pon(const Dialogo& lleno) {
   for (std::size_t i = 0; i < controles_.size(); ++i) {
     const QString texto = Q(lleno.CampoDe(static_cast<int>(i)).texto);
     if (auto* campo = qobject_cast<QLineEdit*>(controles_[i])) {
-      if (campo->text() != texto) campo->setText(texto);
+      if (campo->text() == texto) continue;
+      campo->selectAll();
+      campo->insert(texto);  // which the field can undo
     } else if (auto* lista = qobject_cast<QComboBox*>(controles_[i])) {
       lista->setCurrentIndex(lista->findText(texto));
     }
@@ -270,8 +271,18 @@ void FrDialogo::Pon(const PiezaAbierta& abierta) {
 Trabajo FrDialogo::Pieza() const {
   Trabajo trabajo = TrabajoDe(dialogo_, abierta_.nombre);
   if (trabajo.valores == abierta_.valores) trabajo.puntos = abierta_.puntos;
-  if (visor_ && trabajo.valores == aceptados_ && !visor_->Sitios().empty()) trabajo.puntos = visor_->Sitios();
+  if (MuestraVisor(trabajo)) trabajo.puntos = visor_->SitiosPatron();
   return trabajo;
+}
+
+bool FrDialogo::MuestraVisor(const Trabajo& trabajo) const {
+  return visor_ && trabajo.valores == aceptados_ && !visor_->SitiosPatron().empty();
+}
+
+void FrDialogo::CmdGuardaPieza() {
+  const Trabajo trabajo = Pieza();
+  QWidget* sobre = isVisible() ? this : parentWidget();  // the catalogue saves it too
+  if (GuardaPieza(*sobre, trabajo) && MuestraVisor(trabajo)) visor_->SitiosGuardados();
 }
 
 void FrDialogo::CmdAbre(const QString& ruta) {
@@ -292,6 +303,7 @@ void FrDialogo::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
   const Dialogo abierto = dialogo_;
   Activa();
+  CmdUltimos_->setEnabled(HayUltimos(dialogo_));
   if (std::exchange(recienAbierta_, false)) Pon(abierto);  // with the file's choice of pieces
 }
 
@@ -302,6 +314,7 @@ void FrDialogo::customEvent(QEvent* suceso) {
   if (suceso->type() != ConfiguracionLeida::Tipo()) return;
   textos_.Renueva();
   Vivo();
+  CmdUltimos_->setEnabled(HayUltimos(dialogo_));
 }
 
 // A window that it has closed may still be on its way back to it.
@@ -312,18 +325,23 @@ void FrDialogo::SueltaVisor() {
 void FrDialogo::CmdAceptar() {
   if (FrmViewUnfold::Colocando()) return;
   const Respuesta respuesta = dialogo_.CmdAceptar();
-  MuestraError(dialogo_.Foco(), Q(dialogo_.lblerror()));
-  lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
+  if (respuesta != Respuesta::campoVacio) {  // which has had its box
+    MuestraError(dialogo_.Foco(), Q(dialogo_.lblerror()));
+    lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
+  }
   if (respuesta != Respuesta::aceptado) {
     controles_[static_cast<std::size_t>(dialogo_.Foco())]->setFocus(Qt::OtherFocusReason);
     return;
   }
   PonUltimos(dialogo_);
-  aceptados_ = TrabajoDe(dialogo_, {}).valores;
+  CmdUltimos_->setEnabled(HayUltimos(dialogo_));
+  const auto antes = std::exchange(aceptados_, TrabajoDe(dialogo_, {}).valores);
   if (!visor_ || !visor_->Muestra(*estado.pieza)) {
     const bool deFichero = aceptados_ == abierta_.valores && abierta_.puntos;
+    auto nuevo = std::make_unique<FrmViewUnfold>(this, deFichero ? *abierta_.puntos : Sitios());
+    if (visor_ && aceptados_ == antes) nuevo->Hereda(*visor_);
     SueltaVisor();
-    visor_ = std::make_unique<FrmViewUnfold>(this, deFichero ? *abierta_.puntos : std::vector<Punto2>());
+    visor_ = std::move(nuevo);
   }
   visor_->exec();
   Activa();

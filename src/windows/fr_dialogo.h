@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QPushButton>
 #include <memory>
 #include <vector>
 
@@ -29,6 +30,7 @@ class FrDialogo : public QDialog {
   void Pon(const PiezaAbierta& abierta);
   /// What is typed, with the places of the shapes where they are known. Its name is that of the file's piece.
   Trabajo Pieza() const;
+  void CmdGuardaPieza();
 
  signals:
   /// A piece of another type has been opened; the dialog is closing.
@@ -48,6 +50,7 @@ class FrDialogo : public QDialog {
   void Barra(int y);
   void Pon(const Dialogo& lleno);
   void CmdAbre(const QString& ruta);
+  bool MuestraVisor(const Trabajo& trabajo) const;
   void Activa();
   void CmdAceptar();
   void SueltaVisor();
@@ -60,6 +63,7 @@ class FrDialogo : public QDialog {
   std::vector<QWidget*> controles_;  // of the fields, in their order
   SolidoVivo* vivo_ = nullptr;
   QLabel* lblerror_ = nullptr;
+  QPushButton* CmdUltimos_ = nullptr;
   TextosVivos textos_;
   int campoError_ = 0;  // the field that it names
   std::unique_ptr<FrmViewUnfold> visor_;

@@ -174,8 +174,7 @@ void FrListaDuktores::AnadeFicheros() {
     PonBoton(*CmdGuardaPieza_, "CmdGuardaPieza", QString::fromStdString(Texto(texto::kGuardaPieza)));
   });
   proporcion_.Coloca(*CmdGuardaPieza_, {128, 430, 44, 34});
-  connect(CmdGuardaPieza_, &QPushButton::clicked, this,
-          [this] { GuardaPieza(*this, DialogoDe(*Fila().pieza).Pieza()); });
+  connect(CmdGuardaPieza_, &QPushButton::clicked, this, [this] { DialogoDe(*Fila().pieza).CmdGuardaPieza(); });
   setAcceptDrops(true);
 }
 

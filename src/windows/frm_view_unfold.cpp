@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QShortcut>
+#include <QTimer>
 #include <array>
 #include <utility>
 
@@ -43,7 +44,7 @@ QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
 }  // namespace
 
-FrmViewUnfold::FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos)
+FrmViewUnfold::FrmViewUnfold(QWidget* padre, Sitios conocidos)
     : QDialog(padre),
       proporcion_(*this, kDiseno),
       lienzo_(new Lienzo(EWdraw_, this)),
@@ -55,7 +56,8 @@ FrmViewUnfold::FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos)
       formato_(FormatoDeEstado()),
       idioma_(estado.dIdioma),
       pieza_(aceptada_),
-      conocidos_(std::move(conocidos)) {
+      conocidos_(std::move(conocidos)),
+      guardados_(conocidos_) {
   setObjectName("FrmViewUnfold");
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   const int nombre = FilaDe(estado.pieza.value().tipo).dialogo.textoTitulo;
@@ -174,10 +176,24 @@ void FrmViewUnfold::Teclas() {
 // The drawing widget looks at the control, which would go before it.
 FrmViewUnfold::~FrmViewUnfold() { delete lienzo_; }
 
+// An undo brings back what stood: the key may have been hit by mistake.
 void FrmViewUnfold::CmdDesplegado() {
-  guardados_ = std::exchange(conocidos_, {});
-  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); }, guardados_);
+  if (conocidos_.empty()) guardados_.clear();
+  Empieza(std::exchange(conocidos_, {}), colocador_->Elegidas());
+}
+
+void FrmViewUnfold::Empieza(Sitios conocidos, Sitios antes) {
+  colocador_->Empieza([this] { return DesarrolloDe(*estado.pieza, solido_); }, std::move(conocidos), std::move(antes));
   DespliegaHoja();
+}
+
+void FrmViewUnfold::Hereda(const FrmViewUnfold& otro) {
+  if (otro.pieza_.regla != pieza_.regla) CmdExacto_->click();
+  const FormatoHoja& suyo = otro.formato_;
+  if (otro.sitios_.empty() || suyo.milimetros != formato_.milimetros || suyo.caja != formato_.caja) return;
+  conocidos_ = otro.sitios_;
+  guardados_ = otro.guardados_;
+  heredada_ = true;
 }
 
 // The window may be closed, or the program end, while the unfolding waits for a pick.
@@ -199,7 +215,7 @@ void FrmViewUnfold::DespliegaHoja() {
   Corrida corrida = colocador_->Despliega();
   --corridas_;
   if (!vivo) return;
-  pendiente_ = corrida.sitios != guardados_ && estado.oDrawing->Count() > 0;
+  pendiente_ = corrida.sitios != guardados_ && !colocador_->Repartida() && estado.oDrawing->Count() > 0;
   if (corrida.fin == FinCorrida::completo) sitios_ = std::move(corrida.sitios);
   AnotaEstado();
   MuestraVeredicto(corrida);
@@ -211,18 +227,19 @@ void FrmViewUnfold::DespliegaHoja() {
   CmdExport_->setEnabled(!hoja_.formas.empty());
 }
 
-// The other rule has another solid, and another pattern where one stands.
+// The other rule has another solid, and another pattern in the same places where one stands.
 void FrmViewUnfold::CmdExacto() {
   CambiaRegla();
   AnotaEstado();
   solido_ = SolidoDe(*estado.pieza);
   DibujaSolido(FrmView_->isEnabled() ? EWdraw_ : otra_, solido_);
-  if (CmdSolido_->isEnabled()) return CmdDesplegado();
+  if (CmdSolido_->isEnabled()) return Empieza(colocador_->Elegidas(), {});
   EWdraw_.EwRegen();
 }
 
 void FrmViewUnfold::CmdSolido() {
   lienzo_->setFocus();
+  colocador_->CancelaArrastre();
   EWdraw_.CambiaModelo(otra_);
   MuestraSolido(!FrmView_->isEnabled());
   EWdraw_.EwRegen();
@@ -247,11 +264,15 @@ bool FrmViewUnfold::CmdSave() {
   RecuperaEstado();
   const std::string fichero = GuardaConNombre(*this);
   if (fichero.empty()) return false;
-  pendiente_ = false;
-  guardados_ = sitios_;
+  SitiosGuardados();
   const bool portatil = EsNombrePortatil(fichero.substr(fichero.rfind('/') + 1));
   PonHecho(Q(Texto(texto::kGuardadoEn) + " " + fichero + (portatil ? "" : " - " + Texto(texto::kNombreAjeno))));
   return true;
+}
+
+void FrmViewUnfold::SitiosGuardados() {
+  pendiente_ = false;
+  guardados_ = sitios_;
 }
 
 bool FrmViewUnfold::Muestra(const Pieza& pieza) const {
@@ -285,9 +306,13 @@ void FrmViewUnfold::showEvent(QShowEvent* suceso) {
   QDialog::showEvent(suceso);
   RecuperaEstado();
   TraeAlFrente(*this);
+  if (std::exchange(heredada_, false)) QTimer::singleShot(0, this, &FrmViewUnfold::CmdDesplegado);
 }
 
-void FrmViewUnfold::resizeEvent(QResizeEvent*) { proporcion_.Escala(size()); }
+void FrmViewUnfold::resizeEvent(QResizeEvent*) {
+  proporcion_.Escala(size());
+  if (!lienzo_->Eligiendo()) PonEstado(LblEstado_->toolTip());
+}
 
 // Escape ends what is going on, the innermost first: a pick, a drag, a command of the mouse, the window.
 void FrmViewUnfold::keyPressEvent(QKeyEvent* suceso) {

@@ -26,7 +26,7 @@ class FrmViewUnfold : public QDialog {
  public:
   /// Draws the solid of the accepted piece. The first unfolding puts the shapes at these places and asks for the
   /// others.
-  explicit FrmViewUnfold(QWidget* padre, std::vector<Punto2> conocidos = {});
+  explicit FrmViewUnfold(QWidget* padre, Sitios conocidos = {});
   ~FrmViewUnfold() override;
 
   /// All ways to close the window come through here; a waiting pick ends first.
@@ -34,10 +34,15 @@ class FrmViewUnfold : public QDialog {
 
   /// Whether shapes are being placed in some viewer: until then it must stay, and no other piece be accepted.
   static bool Colocando() { return corridas_ > 0; }
+  /// Takes over rule and places of a viewer of the same values under other settings: its pattern comes as soon as this
+  /// one shows. Not with another unit, or title blocks where there were none.
+  void Hereda(const FrmViewUnfold& otro);
   /// Whether it was made for this piece, and drawn as `estado` says now.
   bool Muestra(const Pieza& pieza) const;
   /// The places of a complete pattern, in the order in which they are asked for.
-  const std::vector<Punto2>& Sitios() const { return sitios_; }
+  const Sitios& SitiosPatron() const { return sitios_; }
+  /// They are in a file now.
+  void SitiosGuardados();
 
   /// What a person has placed since the last save: nothing, part of a pattern that is being placed, a pattern.
   enum class Pendiente { nada, parte, patron };
@@ -56,6 +61,7 @@ class FrmViewUnfold : public QDialog {
   void Teclas();
   QPushButton* Boton(QWidget* padre, std::string_view nombre, int texto, QRect lugar);
   void CmdDesplegado();
+  void Empieza(Sitios conocidos, Sitios antes);
   void DespliegaHoja();
   void CmdExacto();
   void CmdSolido();
@@ -91,9 +97,11 @@ class FrmViewUnfold : public QDialog {
   Pieza pieza_;  // the same, under the rule that shows; with it what of `estado` is this viewer's
   std::shared_ptr<cDrawing> oDrawing_;
   std::shared_ptr<cDXF> oDXF_;
-  std::vector<Punto2> conocidos_, sitios_, guardados_;  // to begin with; of the pattern; those that a file has
+  Sitios conocidos_, sitios_, guardados_;  // to begin with; of the pattern; those that a file has
   inline static int corridas_ = 0;
-  bool pendiente_ = false, descartada_ = false;         // placed by hand and not saved; which the user doesn't mind
+  bool pendiente_ = false, descartada_ = false;  // placed by hand and not saved; which the user doesn't mind
+  bool bien_ = true;                             // what the verdict's line says
+  bool heredada_ = false;                        // a pattern that is to come with the window
 };
 
 }  // namespace duktores

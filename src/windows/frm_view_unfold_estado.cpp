@@ -45,9 +45,13 @@ void FrmViewUnfold::MuestraPunto(QPointF punto) {
   const std::string& rotulo = EWdraw_.RotuloFantasma();
   const QString solapes = colocador_->SolapesEn(punto), estilo = solapes.isEmpty() ? "" : kAviso;
   if (LblEstado_->styleSheet() != estilo) LblEstado_->setStyleSheet(estilo);
-  LblEstado_->setText((rotulo.empty() ? QString() : Q(rotulo) + ": ") +
-                      (solapes.isEmpty() ? Q(Texto(texto::kElige)) : solapes) +
-                      QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales));
+  const QString sitio = QString("    X %1   Y %2").arg(punto.x(), 0, 'f', decimales).arg(punto.y(), 0, 'f', decimales);
+  const QString frase =
+      (rotulo.empty() ? QString() : Q(rotulo) + ": ") + (solapes.isEmpty() ? Q(Texto(texto::kElige)) : solapes);
+  LblEstado_->ensurePolished();
+  const QFontMetrics medidas = LblEstado_->fontMetrics();
+  const int queda = LblEstado_->width() - medidas.horizontalAdvance(sitio);
+  LblEstado_->setText(medidas.elidedText(frase, Qt::ElideRight, queda) + sitio);
 }
 
 // A pattern that is incomplete or not true is told in a colour that nobody overlooks; it never stops the work.
@@ -55,10 +59,12 @@ void FrmViewUnfold::MuestraVeredicto(const Corrida& corrida) {
   const bool completo = corrida.fin == FinCorrida::completo;
   veredicto_ = completo ? Juzga(*estado.pieza, solido_, corrida.hoja) : Veredicto();
   const QString solapes = colocador_->Solapes();
-  lineaVeredicto_ = (solapes.isEmpty() ? QString() : solapes + ". ") +
-                    Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
-  const bool bien = completo && veredicto_.Cierto() && solapes.isEmpty();
-  LblEstado_->setStyleSheet(bien ? "" : kAviso);
+  const QString veredicto = Q(completo ? TextoVeredicto(veredicto_) : Texto(texto::kIncompleto));
+  const bool cierto = completo && veredicto_.Cierto();
+  // What is wrong comes first: the line may be too short for all.
+  lineaVeredicto_ = solapes.isEmpty() ? veredicto : cierto ? solapes + ". " + veredicto : veredicto + ". " + solapes;
+  bien_ = cierto && solapes.isEmpty();
+  LblEstado_->setStyleSheet(bien_ ? "" : kAviso);
   LblEstado_->ensurePolished();  // bold letters are wider
   PonEstado(lineaVeredicto_);
 }
@@ -73,6 +79,8 @@ void FrmViewUnfold::MuestraLinea(QPointF punto, double alcance) {
 // What is dragged onto something; else the verdict.
 void FrmViewUnfold::MuestraArrastre(const QString& solapes) {
   const QString linea = solapes.isEmpty() ? LblEstado_->toolTip() : solapes;
+  const QString estilo = bien_ && solapes.isEmpty() ? "" : kAviso;
+  if (LblEstado_->styleSheet() != estilo) LblEstado_->setStyleSheet(estilo);
   LblEstado_->setText(LblEstado_->fontMetrics().elidedText(linea, Qt::ElideRight, LblEstado_->width()));
 }
 

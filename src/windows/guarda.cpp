@@ -33,6 +33,11 @@ void Propone(QFileDialog& dialogo) {
   if (auto* nombre = dialogo.findChild<QLineEdit*>("fileNameEdit")) nombre->selectAll();
 }
 
+bool Reemplaza(QWidget& padre, const QString& fichero) {
+  return QMessageBox::question(&padre, {}, Q(Texto(texto::kReemplazar)) + " " + fichero,
+                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
 }  // namespace
 
 std::string CarpetaDeGuardado() {
@@ -52,8 +57,7 @@ std::string GuardaConNombre(QWidget& padre) {
     const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
     // The dialog has asked about the name as it was typed.
     const bool otro = final != elegido && QFileInfo::exists(final);
-    if (otro && QMessageBox::question(&padre, {}, Q(Texto(texto::kReemplazar)) + " " + final) != QMessageBox::Yes)
-      continue;
+    if (otro && !Reemplaza(padre, final)) continue;
     if (!GuardaDibujo(final.toStdString())) return {};
     RecuerdaCarpeta(final.toStdString());
     return final.toStdString();

@@ -97,7 +97,7 @@ void PonBoton(QAbstractButton& boton, std::string_view nombre, const QString& ay
   boton.setAccessibleName(ayuda);
   const auto* dibujo = std::ranges::find(kDibujos, nombre, &Dibujo::nombre);
   if (dibujo == kDibujos.end()) return;
-  boton.setIcon(Icono(*dibujo, boton.palette().color(QPalette::ButtonText)));
+  boton.setIcon(Icono(*dibujo, boton.palette().color(QPalette::Active, QPalette::ButtonText)));
   boton.setIconSize({24, 24});
 }
 

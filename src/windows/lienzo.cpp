@@ -150,12 +150,18 @@ void Lienzo::EncuadraEleccion() {
     const QRectF sitio(dibujado.right() + hueco, dibujado.top(), forma.width() + hueco, forma.height());
     Encuadra(dibujado.united(sitio));
   }
+  Reencuadrado();
+}
+
+// The pointer stays and the model has moved under it.
+void Lienzo::Reencuadrado() {
+  if (eleccion_) emit apunta(Modelo(raton_));
   update();
 }
 
 void Lienzo::Desplaza(QPointF paso) {
   encuadre_.centro += QPointF(-paso.x(), paso.y()) / encuadre_.escala;
-  update();
+  Reencuadrado();
 }
 
 void Lienzo::Amplia(double factor, QPointF sobre) {
@@ -164,7 +170,7 @@ void Lienzo::Amplia(double factor, QPointF sobre) {
   const double todo = Ajusta(axew_, size()).escala;
   encuadre_.escala = std::clamp(encuadre_.escala * factor, todo / kAlcance, todo * kAlcance);
   encuadre_.centro += fijo - Modelo(sobre);
-  update();
+  Reencuadrado();
 }
 
 void Lienzo::EmpiezaOrbita() {
@@ -226,10 +232,11 @@ void Lienzo::PintaCuadro(Esmero esmero) {
     const Punto3 d = axew_.DireccionVista();
     const SolidoVisto visto = esmero == Esmero::fino ? Mira(*solido_, d) : Mira(*solido_, d, kTrozosVeloz);
     PintaSombreado(pintor, visto, encuadre_, size(), esmero);
-    PintaEjes(pintor, axew_.DireccionVista(), size());
+    PintaLeyenda(pintor);
   } else {
     Pinta(pintor, axew_, encuadre_, size(), Fondo::oscuro, kPorPulgada, esmero);
   }
+  if (orbita_) PintaEjes(pintor, axew_.DireccionVista(), size());
   if (encima_) encima_(pintor, encuadre_);
   if (eleccion_) PintaFantasma(pintor);
   if (arrastre_ == MandoVista::zoomWindow) {

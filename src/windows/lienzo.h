@@ -75,6 +75,7 @@ class Lienzo : public QWidget, public VistaEWdraw {
   void Orbita(QPointF paso);
   void PonMando(std::optional<MandoVista> mando);
   void PonPuntero();
+  void Reencuadrado();
   void PintaCuadro(Esmero esmero);
   void PintaFantasma(QPainter& pintor) const;
 

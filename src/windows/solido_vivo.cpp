@@ -60,7 +60,9 @@ void SolidoVivo::paintEvent(QPaintEvent*) {
   pintor.setClipRect(QRect(QPoint(), lienzo));
   const SolidoVisto visto = Mira(solido_, direccion_, kTrozos);
   PintaSombreado(pintor, visto, Ajusta(ExtensionVista(visto), lienzo), lienzo);
-  if (!visto.facetas.empty()) PintaEjes(pintor, direccion_, lienzo);
+  if (visto.facetas.empty()) return;
+  PintaEjes(pintor, direccion_, lienzo);
+  PintaLeyenda(pintor);
 }
 
 void SolidoVivo::mousePressEvent(QMouseEvent* suceso) { raton_ = suceso->position(); }

@@ -75,7 +75,10 @@ class Colocaciones : public testing::Test, public VistaEWdraw, public Plataforma
     if (cual == 0 && colocacion_->Deshace()) --vez_, vale();
     if (cual == 1 && colocacion_->Rehace()) ++vez_, vale();
     const bool nueva = (cual == 2 && colocacion_->PonJunta()) || (cual == 3 && colocacion_->PonTodas());
-    if (nueva) Apunta(colocacion_->Elegidas());
+    for (std::size_t n = modelo_[vez_].size() + 1; nueva && n <= colocacion_->Elegidas().size(); ++n) {
+      const Sitios todas = colocacion_->Elegidas();
+      Apunta({todas.begin(), todas.begin() + static_cast<std::ptrdiff_t>(n)});
+    }
     if (cual != 4 || !colocacion_->Completa()) return;
     const int fijas = static_cast<int>(colocacion_->Puestas().size() - modelo_[vez_].size());
     const int n = Hasta(static_cast<int>(modelo_[vez_].size())), cosa = n + fijas;

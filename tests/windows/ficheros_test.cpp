@@ -178,7 +178,19 @@ TEST_F(Ficheros, ThePatternStaysAsLongAsTheValues) {
     visor.close();
   });
   guardaDxf("b.dxf");
+  // Other settings draw the pattern anew in its places.
   EnDialogo([](QWidget& dialogo) {
+    estado.dTamanoTexto = 12;
+    Pulsa(dialogo, "CmdAceptar");
+  });
+  usuario_.Cuando("FrmViewUnfold", [&](QWidget& visor) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Hijo(visor, "CmdSave").isEnabled(); }));
+    EXPECT_NE(visor.findChild<Lienzo*>()->grab().toImage(), colocado);
+    EXPECT_EQ(Hijo<QLabel>(visor, "LblEstado").text(), veredicto);
+    visor.close();
+  });
+  EnDialogo([](QWidget& dialogo) {
+    estado.dTamanoTexto = 10;
     Hijo<QLineEdit>(dialogo, "TxtH").setText("301");
     Pulsa(dialogo, "CmdAceptar");
   });

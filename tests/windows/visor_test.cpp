@@ -37,7 +37,11 @@ class Visor : public ConPieza {
     Dibuja3D(propio);
     propio.EwViewDirection(desde.x, desde.y, desde.z);
     const QImage imagen = Imagen();
-    EXPECT_EQ(imagen, Pintado(propio, imagen)) << orden;
+    QImage esperada = Pintado(propio, imagen);
+    QPainter pintor(&esperada);
+    pintor.setFont(lienzo_->font());
+    PintaEjes(pintor, desde, esperada.size());
+    EXPECT_EQ(imagen, esperada) << orden;
   }
 
   void Responde(int mensaje, std::function<void()> hace) {
@@ -272,6 +276,7 @@ std::string Directo(const std::vector<Punto2>& sitios) {
 
 TEST_F(Visor, KeysAndMousePlaceAndMove) {
   auto sitios = Reparte(DesarrolloDe(*estado.pieza, SolidoDe(*estado.pieza)).patron, FormatoDeEstado());
+  const auto repartidas = sitios;
   const std::string todas = Directo(sitios);
   const auto dibujado = [] { return estado.oDrawing->GetEntities(); };
   const auto raton = [this](Punto2 p) {
@@ -307,10 +312,25 @@ TEST_F(Visor, KeysAndMousePlaceAndMove) {
     Pulsa(visor_, "CmdNombres");
     EXPECT_NE(Imagen(), antes);
     QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
-    // What was placed at once is taken back at once, and hangs on the pointer without a prompt.
-    usuario_.Cuando("pick", [&](QWidget&) { Pulsa(visor_, "CmdTodas"); });
-    QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
+    // What was placed at once is taken back one by one, and hangs on the pointer without a prompt.
+    usuario_.Cuando("pick", [&](QWidget&) { QTest::keyClick(&visor_, Qt::Key_Backspace); });
+    usuario_.Cuando("pick", [&](QWidget&) {
+      EXPECT_LT(dibujado().size(), todas.size());
+      Pulsa(visor_, "CmdTodas");
+    });
+    QTest::keyClick(&visor_, Qt::Key_Backspace);
+    // Neither another rule nor an unfolding loses the places; who only let them be laid isn't asked at the end.
+    QTest::keyClick(&visor_, Qt::Key_E);
+    EXPECT_TRUE(estado.pieza->regla == Regla::exacta && dibujado() != todas && dibujado() == Directo(repartidas));
+    QTest::keyClick(&visor_, Qt::Key_E);
+    Responde(63, [&] {
+      visor_.activateWindow();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(&visor_));
+      QTest::keyClick(&visor_, Qt::Key_Z, Qt::ControlModifier);
+    });
+    Pulsa(visor_, "CmdDesplegado");
     EXPECT_TRUE(dibujado() == todas);
+    EXPECT_EQ(visor_.SinGuardar(), FrmViewUnfold::Pendiente::nada);
     visor_.close();
   });
 }
