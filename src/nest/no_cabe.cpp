@@ -1,0 +1,115 @@
+#include "nest/no_cabe.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace duktores {
+
+namespace {
+
+using ClipperLib::cInt;
+using ClipperLib::IntPoint;
+using ClipperLib::Path;
+using ClipperLib::Paths;
+
+constexpr double kRendija = 1e4;  // square units
+
+// Exact: coordinates have less than 29 bits.
+cInt Vuelta(IntPoint a, IntPoint b) { return a.X * b.Y - a.Y * b.X; }
+IntPoint Resta(IntPoint a, IntPoint b) { return {a.X - b.X, a.Y - b.Y}; }
+IntPoint Suma(IntPoint a, IntPoint b) { return {a.X + b.X, a.Y + b.Y}; }
+
+/// The convolution of two outlines that run counter-clockwise: each edge of one at those vertices of the other where
+/// that turns past its direction, backwards where it turns to the right. Its edges make closed paths, which wind round
+/// just those points that are a sum of one of each inside.
+class Convolucion {
+ public:
+  Convolucion(const Path& a, const Path& b) {
+    Barre(a, b, true);
+    Barre(b, a, false);
+  }
+
+  Paths Caminos() {
+    std::ranges::sort(pasos_, [](const Paso& p, const Paso& q) { return Antes(p.desde, q.desde); });
+    std::vector<std::size_t> usados(pasos_.size());  // at the first of those that leave a point: how many are used
+    Paths caminos;
+    for (std::size_t i = 0; i < pasos_.size(); ++i) {
+      const std::size_t suyo = Primero(pasos_[i].desde);
+      while (suyo + usados[suyo] <= i) {
+        Path& camino = caminos.emplace_back();
+        IntPoint donde = pasos_[i].desde;
+        do {
+          camino.push_back(donde);
+          const std::size_t primero = Primero(donde);
+          donde = pasos_[primero + usados[primero]++].hasta;
+        } while (donde != pasos_[i].desde);
+      }
+    }
+    return caminos;
+  }
+
+ private:
+  struct Paso {
+    IntPoint desde, hasta;
+  };
+  static bool Antes(IntPoint p, IntPoint q) { return p.X != q.X ? p.X < q.X : p.Y < q.Y; }
+
+  std::size_t Primero(IntPoint p) const {
+    const auto i = std::ranges::lower_bound(pasos_, p, Antes, &Paso::desde);
+    return static_cast<std::size_t>(i - pasos_.begin());
+  }
+
+  // Of equal directions that of the second outline counts as the one further round.
+  void Barre(const Path& esquinas, const Path& cantos, bool primera) {
+    const std::size_t n = esquinas.size(), m = cantos.size();
+    for (std::size_t i = 0; i < n; ++i) {
+      const IntPoint p = esquinas[i], llega = Resta(p, esquinas[(i + n - 1) % n]),
+                     sale = Resta(esquinas[(i + 1) % n], p);
+      const bool derecha = Vuelta(llega, sale) < 0;
+      const IntPoint desde = derecha ? sale : llega, hasta = derecha ? llega : sale;
+      if (Vuelta(desde, hasta) == 0) continue;
+      for (std::size_t j = 0; j < m; ++j) {
+        const IntPoint q = cantos[j], r = cantos[(j + 1) % m], canto = Resta(r, q);
+        const cInt tras = Vuelta(desde, canto), ante = Vuelta(canto, hasta);
+        if (primera ? tras < 0 || ante <= 0 : tras <= 0 || ante < 0) continue;
+        pasos_.push_back(derecha ? Paso{Suma(p, r), Suma(p, q)} : Paso{Suma(p, q), Suma(p, r)});
+      }
+    }
+  }
+
+  std::vector<Paso> pasos_;
+};
+
+}  // namespace
+
+NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados) {
+  ClipperLib::Clipper union_;
+  union_.AddPaths(Convolucion(fija.contorno, Girado(movida.contorno, grados + 180)).Caminos(), ClipperLib::ptSubject,
+                  true);
+  Paths anillos;
+  union_.Execute(ClipperLib::ctUnion, anillos, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
+  NoCabe no;
+  for (const Path& anillo : anillos) {
+    // Where roundings leave a gap between two pieces there is none.
+    if (std::abs(ClipperLib::Area(anillo)) < kRendija) continue;
+    auto& puntos = no.anillos.emplace_back();
+    for (const IntPoint p : anillo) puntos.push_back({static_cast<double>(p.X), static_cast<double>(p.Y)});
+  }
+  return no;
+}
+
+std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {
+  constexpr std::size_t kMaximo = 8192;  // on a shelf
+  const std::uint64_t clave = ((static_cast<std::uint64_t>(fija) << 28) + movida) * 512 + pasos;
+  Estante& estante = estantes_[(clave * 0x9E3779B97F4A7C15U) >> 58];
+  {
+    const std::lock_guard guarda(estante.cerrojo);
+    if (const auto esta = estante.guardados.find(clave); esta != estante.guardados.end()) return esta->second;
+  }
+  auto nuevo = std::make_shared<const NoCabe>(NoCabeDe(siluetas_[fija], siluetas_[movida], grados));
+  const std::lock_guard guarda(estante.cerrojo);
+  if (estante.guardados.size() < kMaximo) estante.guardados.emplace(clave, nuevo);
+  return nuevo;
+}
+
+}  // namespace duktores
