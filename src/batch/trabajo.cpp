@@ -149,7 +149,7 @@ class Salida {
       if (!Anota(ruta, guardado)) return false;
     }
     const std::string faltas = TextoSinCorte(cortes, veredicto);
-    resultado_.sinCorte = opciones_.cortes && !opciones_.fuerza && !faltas.empty();
+    resultado_.sinCorte = (opciones_.cortes || opciones_.chapas) && !opciones_.fuerza && !faltas.empty();
     if (resultado_.sinCorte) Avisa(faltas);
     if (!opciones_.cortes) cortes.ficheros.assign(cortes.ficheros.size(), "");
     if (!opciones_.dobleces) return true;
@@ -173,6 +173,16 @@ class Salida {
   const Opciones& opciones_;
   Resultado& resultado_;
 };
+
+std::vector<ParteChapa> PartesDe(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
+                                 const Opciones& opciones) {
+  std::vector<ParteChapa> partes;
+  for (const ParteCorte& parte : cortes.partes) {
+    if (!SeEscribe(parte.recorte, veredicto, opciones.fuerza ? Cuales::todas : Cuales::sanas)) continue;
+    partes.push_back({trabajo.nombre, TextoForma(parte.recorte.forma), parte, trabajo.cantidad, estado.dEspesor});
+  }
+  return partes;
+}
 
 std::vector<FilaInforme> FilasInforme(const Cortes& cortes, const Veredicto& veredicto) {
   const FormatoHoja formato = FormatoDeEstado();
@@ -203,7 +213,9 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
   Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
-  if (salida.Maquina(cortes, veredicto) && opciones.informe) resultado.filas = FilasInforme(cortes, veredicto);
+  if (!salida.Maquina(cortes, veredicto)) return;
+  if (opciones.informe) resultado.filas = FilasInforme(cortes, veredicto);
+  if (opciones.chapas) resultado.partes = PartesDe(trabajo, cortes, veredicto, opciones);
 }
 
 }  // namespace
@@ -217,6 +229,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   estado.plataforma = &plataforma;
   Dialogo dialogo(fila->dialogo);
   Resultado resultado;
+  if (trabajo.espesor) estado.dEspesor = *trabajo.espesor;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && (!opciones.soloComprueba || opciones.estricto)) {
     const Solido solido = SolidoDe(*estado.pieza);

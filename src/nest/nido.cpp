@@ -6,12 +6,6 @@
 
 namespace duktores {
 
-Giro::Giro(double grados) : coseno_(std::cos(Radianes(grados))), seno_(std::sin(Radianes(grados))) {
-  if (std::fmod(grados, 90) != 0) return;
-  coseno_ = std::round(coseno_);
-  seno_ = std::round(seno_);
-}
-
 std::vector<Punto2> ContornoEn(const ParteNido& parte, const Colocada& colocada) {
   const Giro giro(colocada.grados);
   std::vector<Punto2> puntos;

@@ -6,15 +6,14 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string>
 #include <vector>
 
+#include "geometry/giro.h"
 #include "geometry/puntos.h"
 
 namespace duktores {
 
 struct ParteNido {
-  std::string nombre;
   std::vector<Punto2> contorno;  ///< closed, without its first point a second time
   int cantidad = 1;
 };
@@ -32,16 +31,6 @@ struct EncargoNido {
   double margen = 0;     ///< of a part from the rim of its sheet
   double giro = 0;       ///< the step in degrees by which parts may be turned; 0: not at all
   double milimetro = 1;  ///< a millimetre in the unit of the lengths
-};
-
-/// A turn in the plane about the origin. By a multiple of a right angle it is exact.
-class Giro {
- public:
-  explicit Giro(double grados);
-  Punto2 operator()(Punto2 p) const { return {coseno_ * p.x - seno_ * p.y, seno_ * p.x + coseno_ * p.y}; }
-
- private:
-  double coseno_, seno_;
 };
 
 struct Colocada {

@@ -27,6 +27,7 @@ std::string TextoSinCorte(const Cortes& cortes, const Veredicto& veredicto);
 
 /// Which parts are written: those that are sound of a pattern that is true, or all that have an outline.
 enum class Cuales { sanas, todas };
+bool SeEscribe(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales);
 
 /// Writes the files of a piece into a folder and adds their names to `escritos`. Those of parts that aren't written are
 /// taken out of `cortes`. The first file that can't be written ends it; `ruta` is that one.

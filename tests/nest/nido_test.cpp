@@ -49,7 +49,7 @@ EncargoNido AlAzar(unsigned semilla) {
   for (unsigned i = 0; i < 3 + semilla % 6; ++i) {
     const Contorno contorno = parte(azar) < 0.6 ? Estrella(azar, 60 + 400 * parte(azar))
                                                 : Sector(150 + 400 * parte(azar), 100, 20 + 200 * parte(azar), 30);
-    encargo.partes.push_back({"", contorno, 1 + static_cast<int>(3 * parte(azar))});
+    encargo.partes.push_back({contorno, 1 + static_cast<int>(3 * parte(azar))});
   }
   return encargo;
 }
@@ -82,12 +82,12 @@ TEST(Nido, LaysWhatFitsAndTellsWhyTheRestDoesNot) {
   encargo.margen = 10;
   encargo.hueco = 5;
   encargo.giro = 90;
-  encargo.partes = {{"rest", Rectangulo(380, 280)},  // exactly what the small sheet takes
-                    {"upright", Rectangulo(480, 980)},
-                    {"too long", Rectangulo(990, 10)},
-                    {"no area", {{0, 0}, {100, 0}, {200, 0}}},
-                    {"one more", Rectangulo(200, 100), 2},
-                    {"wild", {{0, 0}, {1e300, 0}, {0, std::nan("")}}}};
+  encargo.partes = {{Rectangulo(380, 280)},  // exactly what the small sheet takes
+                    {Rectangulo(480, 980)},
+                    {Rectangulo(990, 10)},
+                    {{{0, 0}, {100, 0}, {200, 0}}},
+                    {Rectangulo(200, 100), 2},
+                    {{{0, 0}, {1e300, 0}, {0, std::nan("")}}}};
   const Nido nido = Anida(encargo, {.vueltas = 3});
   EXPECT_TRUE(RevisaChapas(encargo, nido).empty());
   EXPECT_TRUE(CuadranCantidades(encargo, nido));
@@ -110,7 +110,7 @@ TEST(Nido, FillsBetterThanBoxesSideBySide) {
   encargo.chapas = {{{2000, 1000}}};
   encargo.hueco = 5;
   encargo.giro = 180;
-  encargo.partes = {{"triangle", {{0, 0}, {900, 0}, {0, 900}}, 4}};
+  encargo.partes = {{{{0, 0}, {900, 0}, {0, 900}}, 4}};
   const Nido nido = Anida(encargo, {.vueltas = 5, .hilos = 2});
   EXPECT_TRUE(RevisaChapas(encargo, nido).empty());
   EXPECT_EQ(nido.chapas.size(), 1U);  // where two boxes fit
@@ -124,7 +124,7 @@ TEST(Revision, FindsEachFault) {
   encargo.giro = 90;
   const Contorno marcoAbierto{{0, 0},    {400, 0},   {400, 400}, {0, 400}, {0, 201},  {50, 201},
                               {50, 350}, {350, 350}, {350, 50},  {50, 50}, {50, 199}, {0, 199}};
-  encargo.partes = {{"plate", Rectangulo(100, 100), 2}, {"frame", marcoAbierto}, {"chip", Rectangulo(20, 20), 0}};
+  encargo.partes = {{Rectangulo(100, 100), 2}, {marcoAbierto}, {Rectangulo(20, 20), 0}};
   const auto revisa = [&](Colocada una, Colocada otra, Colocada marco) {
     const auto fallas = RevisaChapas(encargo, {{{0, {una, otra, marco}}}, {}});
     return fallas.size() == 1 ? std::optional(fallas[0].falta) : std::nullopt;
