@@ -9,8 +9,6 @@ namespace duktores {
 
 namespace {
 
-constexpr double kHolgura = 2;  // units: so deep a place may lie within a no-fit polygon, whose corners are rounded
-
 bool Toca(const Extremos& a, const Extremos& b) {
   return a.desde.x <= b.hasta.x && b.desde.x <= a.hasta.x && a.desde.y <= b.hasta.y && b.desde.y <= a.hasta.y;
 }
@@ -27,24 +25,23 @@ void Tanteo::Reune(std::size_t parte, std::size_t giro, const std::vector<Puesta
   obstaculos_.clear();
   for (const Puesta& puesta : puestas) {
     const auto no = moldes_.NoCabeEntre(puesta.parte, puesta.giro, parte, giro);
-    const Giro gira(moldes_.Giros()[puesta.giro]);
-    Obstaculo obstaculo{{}, lados_.size(), 0};
-    for (const auto& anillo : no->anillos) {
-      Punto2 antes = gira(anillo.back()) + puesta.sitio;
-      for (const Punto2 p : anillo) {
-        const Punto2 q = gira(p) + puesta.sitio;
-        obstaculo.caja.Incluye(q);
-        lados_.push_back({antes, q, std::min(antes.x, q.x), std::max(antes.x, q.x), std::min(antes.y, q.y),
-                          std::max(antes.y, q.y), obstaculos_.size()});
-        antes = q;
-      }
+    const Giro& gira = moldes_.GiroDe(puesta.giro);
+    const std::size_t desde = lados_.size();
+    Extremos caja;
+    Punto2 fin{};
+    for (const auto& [a, b] : no->Cantos()) {
+      const Punto2 p = a == fin && lados_.size() > desde ? lados_.back().q : gira(a) + puesta.sitio;
+      const Punto2 q = gira(b) + puesta.sitio;
+      fin = b;
+      caja.Incluye(q);
+      lados_.push_back(
+          {p, q, std::min(p.x, q.x), std::max(p.x, q.x), std::min(p.y, q.y), std::max(p.y, q.y), obstaculos_.size()});
     }
-    if (!Toca(obstaculo.caja, donde_)) {
-      lados_.resize(obstaculo.desde);
-      continue;
+    if (Toca(caja, donde_)) {
+      obstaculos_.push_back({no, puesta.sitio, moldes_.ContragiroDe(puesta.giro)});
+    } else {
+      lados_.resize(desde);
     }
-    obstaculo.hasta = lados_.size();
-    obstaculos_.push_back(obstaculo);
   }
 }
 
@@ -87,31 +84,12 @@ void Tanteo::ProponCruces() {
   }
 }
 
-bool Tanteo::Tapa(const Obstaculo& obstaculo, Punto2 sitio) const {
-  if (!Contiene(obstaculo.caja, sitio)) return false;
-  bool dentro = false;
-  for (std::size_t i = obstaculo.desde; i < obstaculo.hasta; ++i) {
-    const Lado& l = lados_[i];
-    if ((l.p.y > sitio.y) == (l.q.y > sitio.y)) continue;
-    if (sitio.x < l.p.x + (sitio.y - l.p.y) / (l.q.y - l.p.y) * (l.q.x - l.p.x)) dentro = !dentro;
-  }
-  if (!dentro) return false;
-  for (std::size_t i = obstaculo.desde; i < obstaculo.hasta; ++i) {
-    const Lado& l = lados_[i];
-    if (sitio.x < l.izquierda - kHolgura || sitio.x > l.derecha + kHolgura || sitio.y < l.abajo - kHolgura ||
-        sitio.y > l.arriba + kHolgura) {
-      continue;
-    }
-    if (DistanciaASegmento(sitio, l.p, l.q) < kHolgura) return false;
-  }
-  return true;
-}
-
 // What covered the place before covers most places near it.
 bool Tanteo::Libre(Punto2 sitio) {
-  if (ultimo_ < obstaculos_.size() && Tapa(obstaculos_[ultimo_], sitio)) return false;
+  const auto tapa = [&](const Obstaculo& o) { return o.no->Tapa(o.contragiro(sitio - o.sitio)); };
+  if (ultimo_ < obstaculos_.size() && tapa(obstaculos_[ultimo_])) return false;
   for (std::size_t i = 0; i < obstaculos_.size(); ++i) {
-    if (i == ultimo_ || !Tapa(obstaculos_[i], sitio)) continue;
+    if (i == ultimo_ || !tapa(obstaculos_[i])) continue;
     ultimo_ = i;
     return false;
   }

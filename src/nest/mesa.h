@@ -34,8 +34,9 @@ class Tanteo {
     std::size_t de;
   };
   struct Obstaculo {
-    Extremos caja;
-    std::size_t desde, hasta;  // its edges
+    std::shared_ptr<const NoCabe> no;
+    Punto2 sitio;
+    Giro contragiro;
   };
   struct Candidato {
     double valor;
@@ -46,7 +47,6 @@ class Tanteo {
   void Reune(std::size_t parte, std::size_t giro, const std::vector<Puesta>& puestas);
   void Propon(Punto2 sitio);
   void ProponCruces();
-  bool Tapa(const Obstaculo& obstaculo, Punto2 sitio) const;
   bool Libre(Punto2 sitio);
 
   Moldes& moldes_;

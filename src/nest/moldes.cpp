@@ -21,6 +21,10 @@ std::vector<double> GirosDe(double paso) {
 }  // namespace
 
 Moldes::Moldes(const EncargoNido& encargo) : escala_(kPorMilimetro / encargo.milimetro), giros_(GirosDe(encargo.giro)) {
+  for (const double grados : giros_) {
+    vueltas_.emplace_back(grados);
+    contravueltas_.emplace_back(-grados);
+  }
   for (const ParteNido& parte : encargo.partes) {
     auto silueta = SiluetaDe(parte.contorno, encargo.hueco, encargo.milimetro);
     sirve_.push_back(silueta.has_value());

@@ -17,6 +17,8 @@ class Moldes {
   double Area(std::size_t parte) const { return siluetas_[parte].area; }
   /// How parts may be turned, as numbers of steps.
   const std::vector<double>& Giros() const { return giros_; }
+  const Giro& GiroDe(std::size_t giro) const { return vueltas_[giro]; }
+  const Giro& ContragiroDe(std::size_t giro) const { return contravueltas_[giro]; }
   /// Of the true outline, turned so.
   const Extremos& ExtremosEn(std::size_t parte, std::size_t giro) const { return cajas_[parte * giros_.size() + giro]; }
   /// Where `movida` may not have its origin while that of `fija` lies at its own.
@@ -28,6 +30,7 @@ class Moldes {
  private:
   double escala_;
   std::vector<double> giros_;
+  std::vector<Giro> vueltas_, contravueltas_;
   std::vector<Silueta> siluetas_;
   std::vector<bool> sirve_;
   std::vector<Extremos> cajas_;

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
+
+#include "geometry/planas.h"
 
 namespace duktores {
 
@@ -13,6 +16,7 @@ using ClipperLib::Path;
 using ClipperLib::Paths;
 
 constexpr double kRendija = 1e4;  // square units
+constexpr double kHolgura = 2;    // units: so deep a place may lie inside
 
 // Exact: coordinates have less than 29 bits.
 cInt Vuelta(IntPoint a, IntPoint b) { return a.X * b.Y - a.Y * b.X; }
@@ -88,14 +92,48 @@ NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados) {
                   true);
   Paths anillos;
   union_.Execute(ClipperLib::ctUnion, anillos, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
-  NoCabe no;
+  std::vector<NoCabe::Canto> cantos;
   for (const Path& anillo : anillos) {
     // Where roundings leave a gap between two pieces there is none.
     if (std::abs(ClipperLib::Area(anillo)) < kRendija) continue;
-    auto& puntos = no.anillos.emplace_back();
-    for (const IntPoint p : anillo) puntos.push_back({static_cast<double>(p.X), static_cast<double>(p.Y)});
+    const auto en = [&](std::size_t i) {
+      return Punto2{static_cast<double>(anillo[i].X), static_cast<double>(anillo[i].Y)};
+    };
+    for (std::size_t i = 0; i < anillo.size(); ++i) cantos.push_back({en(i), en((i + 1) % anillo.size())});
   }
-  return no;
+  return NoCabe(std::move(cantos));
+}
+
+NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
+  constexpr std::size_t kPorFranja = 2, kFranjas = 64;
+  for (const Canto& canto : cantos_) caja_.Incluye(canto.p);
+  if (cantos_.empty()) return;
+  const std::size_t franjas = std::clamp<std::size_t>(cantos_.size() / kPorFranja, 1, kFranjas);
+  alto_ = std::max(1.0, caja_.Alto() / static_cast<double>(franjas));
+  for (std::size_t i = 0; i < franjas; ++i) {
+    inicios_.push_back(porFranja_.size());
+    const double abajo = caja_.desde.y + static_cast<double>(i) * alto_ - kHolgura,
+                 arriba = abajo + alto_ + 2 * kHolgura;
+    for (const Canto& c : cantos_) {
+      if (std::max(c.p.y, c.q.y) >= abajo && std::min(c.p.y, c.q.y) <= arriba) porFranja_.push_back(c);
+    }
+  }
+  inicios_.push_back(porFranja_.size());
+}
+
+bool NoCabe::Tapa(Punto2 p) const {
+  if (p.x < caja_.desde.x || p.x > caja_.hasta.x || p.y < caja_.desde.y || p.y > caja_.hasta.y) return false;
+  const auto franja = std::min(inicios_.size() - 2, static_cast<std::size_t>((p.y - caja_.desde.y) / alto_));
+  const std::span suyos(porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
+                        porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1]));
+  bool dentro = false;
+  for (const auto& [a, b] : suyos) {
+    if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x)) dentro = !dentro;
+  }
+  return dentro && std::ranges::none_of(suyos, [&](const Canto& c) {
+           return p.x >= std::min(c.p.x, c.q.x) - kHolgura && p.x <= std::max(c.p.x, c.q.x) + kHolgura &&
+                  DistanciaASegmento(p, c.p, c.q) < kHolgura;
+         });
 }
 
 std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {

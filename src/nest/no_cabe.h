@@ -11,9 +11,25 @@
 
 namespace duktores {
 
-/// Bounded by rings; a point is inside if it lies within an odd number of them.
-struct NoCabe {
-  std::vector<std::vector<Punto2>> anillos;
+/// Bounded by the edges of some rings; a point is inside if it lies within an odd number of them.
+class NoCabe {
+ public:
+  struct Canto {
+    Punto2 p, q;
+  };
+  explicit NoCabe(std::vector<Canto> cantos);
+
+  const std::vector<Canto>& Cantos() const { return cantos_; }
+  /// Whether the point lies inside, deeper than what corners are rounded by.
+  bool Tapa(Punto2 p) const;
+
+ private:
+  std::vector<Canto> cantos_;
+  Extremos caja_;
+  // The edges once more, those of each of some level strips together.
+  double alto_ = 0;
+  std::vector<std::size_t> inicios_;
+  std::vector<Canto> porFranja_;
 };
 
 /// `movida` is turned before.
