@@ -119,11 +119,29 @@ class Salida {
 
   // Each gives the first place of the order that is another now.
   std::size_t Cambia(Tanda& tanda) {
+    if (tanda.Hojas().size() > 2 && azar_.Parte() < 0.7) return Redistribuye(tanda);
     const double suerte = azar_.Parte();
     if (suerte < 0.4) return Intercambia(tanda);
     if (suerte < 0.6) return Traslada(tanda);
     if (suerte < 0.7 && moldes_.Giros().size() > 1) return Gira(tanda);
     return Arruina(tanda);
+  }
+  // Clears some sheets, most often the emptiest one with them, and lays their parts anew, the larger ones first.
+  std::size_t Redistribuye(Tanda& tanda) {
+    const auto& hojas = tanda.Hojas();
+    const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
+    std::vector<std::size_t> cuales;
+    if (azar_.Parte() < 0.8) cuales.push_back(static_cast<std::size_t>(floja - hojas.begin()));
+    for (std::size_t i = 1 + azar_.Menor(2); i > 0; --i) cuales.push_back(azar_.Menor(hojas.size()));
+    const std::size_t desde = tanda.Aparta(cuales);
+    const double ruido = azar_.Parte();
+    std::vector<std::pair<double, Turno>> sueltos;
+    for (std::size_t i = desde; i < tanda.turnos.size(); ++i) {
+      sueltos.emplace_back(moldes_.Area(tanda.turnos[i].parte) * (1 + 2 * ruido * azar_.Parte()), tanda.turnos[i]);
+    }
+    std::ranges::stable_sort(sueltos, std::ranges::greater{}, [](const auto& s) { return s.first; });
+    for (std::size_t i = 0; i < sueltos.size(); ++i) tanda.turnos[desde + i] = sueltos[i].second;
+    return desde;
   }
   std::size_t Intercambia(Tanda& tanda) {
     auto& turnos = tanda.turnos;

@@ -37,9 +37,14 @@ bool Tanda::CabeEnAlguna(std::size_t parte) const {
 // The state as it was when the turns before this one had been laid.
 void Tanda::Rebobina(std::size_t desde) {
   for (Hoja& hoja : hojas_) {
+    const std::size_t habia = hoja.turnos.size();
     while (!hoja.turnos.empty() && hoja.turnos.back() >= desde) {
       hoja.turnos.pop_back();
       hoja.puestas.pop_back();
+    }
+    if (hoja.turnos.size() < habia && hoja.apartada) {
+      hoja.llena.clear();
+      hoja.apartada = false;
     }
     while (!hoja.llena.empty() && hoja.llena.back().first >= desde) hoja.llena.pop_back();
     hoja.area = hoja.derecha = 0;
@@ -48,11 +53,39 @@ void Tanda::Rebobina(std::size_t desde) {
       hoja.derecha = std::max(hoja.derecha, p.sitio.x + moldes_->ExtremosEn(p.parte, p.giro).hasta.x);
     }
   }
-  while (!hojas_.empty() && hojas_.back().puestas.empty()) hojas_.pop_back();
+  std::erase_if(hojas_, [](const Hoja& hoja) { return hoja.puestas.empty(); });
   while (!faltan_.empty() && faltan_.back() >= desde) faltan_.pop_back();
   faltaArea_ = 0;
   for (const std::size_t turno : faltan_) faltaArea_ += moldes_->Area(turnos[turno].parte);
   hechos_ = std::min(hechos_, desde);
+}
+
+std::size_t Tanda::Aparta(const std::vector<std::size_t>& hojas) {
+  std::vector<bool> aparte(turnos.size());
+  for (const std::size_t i : hojas) {
+    for (const std::size_t turno : hojas_[i].turnos) aparte[turno] = true;
+  }
+  for (const std::size_t turno : faltan_) aparte[turno] = true;
+  std::vector<std::size_t> nuevo(turnos.size());
+  std::vector<Turno> orden;
+  std::size_t desde = 0;
+  for (const bool vez : {false, true}) {
+    if (vez) desde = orden.size();
+    for (std::size_t i = 0; i < turnos.size(); ++i) {
+      if (aparte[i] != vez) continue;
+      nuevo[i] = orden.size();
+      orden.push_back(turnos[i]);
+    }
+  }
+  turnos = std::move(orden);
+  for (std::size_t& turno : faltan_) turno = nuevo[turno];
+  for (Hoja& hoja : hojas_) {
+    for (std::size_t& turno : hoja.turnos) turno = nuevo[turno];
+    // What found no room beside all that lies there finds none as long as that does.
+    for (auto& [turno, area] : hoja.llena) turno = 0;
+    hoja.apartada = true;
+  }
+  return desde;
 }
 
 bool Tanda::PonEn(Tanteo& tanteo, Hoja& hoja, std::size_t turno) {

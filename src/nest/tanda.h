@@ -19,6 +19,7 @@ class Tanda {
     std::vector<std::size_t> turnos;  ///< whose place in the order
     /// Which turn found no room, and the least area of those so far.
     std::vector<std::pair<std::size_t, double>> llena{};
+    bool apartada = false;         ///< that list is of all that lies here
     double area = 0, derecha = 0;  ///< of the parts; how far right they reach
   };
 
@@ -30,6 +31,8 @@ class Tanda {
   /// Lays what stands from this place of the order on; the rest stays. False if it was given up: because it would cost
   /// more than `tope`, or because `sigue` says so.
   bool Coloca(Tanteo& tanteo, std::size_t desde, double tope, const std::function<bool()>& sigue);
+  /// Puts the turns of these sheets behind all others and gives the place of the first one; what is laid stays so.
+  std::size_t Aparta(const std::vector<std::size_t>& hojas);
   /// What is to be made small: area of sheets; of the emptiest only what is used of it; and of parts without a sheet.
   double Coste() const;
   const std::vector<Hoja>& Hojas() const { return hojas_; }
