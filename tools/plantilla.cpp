@@ -12,9 +12,8 @@ int main(int argc, char** argv) {
     std::fputs("usage: plantilla DIR\n", stderr);
     return 2;
   }
-  for (const auto& [cual, nombre] : {std::pair(Plantilla::dibujo, "Template.dxf"),
-                                     {Plantilla::corte, "Cut.dxf"},
-                                     {Plantilla::chapa, "Sheet.dxf"}}) {
+  for (const auto& [cual, nombre] :
+       {std::pair(Plantilla::dibujo, "Template.dxf"), {Plantilla::corte, "Cut.dxf"}, {Plantilla::chapa, "Sheet.dxf"}}) {
     const auto ruta = std::filesystem::path(argv[1]) / nombre;
     std::ofstream fichero(ruta, std::ios::binary);
     fichero << duktores::TextoPlantilla(cual);
