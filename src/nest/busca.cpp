@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 
+#include "nest/revisa.h"
 #include "nest/tanda.h"
 
 namespace duktores {
@@ -34,18 +35,24 @@ constexpr double kAltos[] = {0.05, 0.5, 0.01, 2};
 /// The best layout of all starts. Of two that cost the same it is that of the earlier start.
 class Mejor {
  public:
-  explicit Mejor(const VigiaNido& vigia) : vigia_(vigia) {}
-  void Ofrece(const Tanda& tanda, double coste, std::size_t salida) {
+  Mejor(const EncargoNido& encargo, const VigiaNido& vigia) : encargo_(encargo), vigia_(vigia) {}
+  /// False if the layout isn't sound. Such a one is taken only where there is no other.
+  bool Ofrece(const Tanda& tanda, double coste, std::size_t salida) {
+    Nido nido = tanda.Resultado();
+    const bool sano = RevisaChapas(encargo_, nido).empty();
+    if (!sano) coste = kInfinito;
     const std::lock_guard guarda(cerrojo_);
-    if (nido_ && (coste > coste_ || (coste == coste_ && salida >= salida_))) return;
+    if (nido_ && (coste > coste_ || (coste == coste_ && salida >= salida_))) return sano;
     coste_ = coste;
     salida_ = salida;
-    nido_ = tanda.Resultado();
+    nido_ = std::move(nido);
     vigia_.mejora(*nido_);
+    return sano;
   }
   Nido Toma() { return nido_ ? std::move(*nido_) : Nido{}; }
 
  private:
+  const EncargoNido& encargo_;
   const VigiaNido& vigia_;
   std::mutex cerrojo_;
   std::optional<Nido> nido_;
@@ -70,14 +77,22 @@ class Salida {
     Ordena(actual_, numero_);
     const bool entera = actual_.Coloca(tanteo_, 0, kInfinito, vigia.sigue);
     coste_ = optimo_ = entera ? actual_.Coste() : kInfinito;
-    mejor.Ofrece(actual_, coste_, numero_);
+    if (!mejor.Ofrece(actual_, coste_, numero_)) coste_ = optimo_ = kInfinito;
     if (actual_.turnos.size() < 2) return;
+    Tanda sana = actual_;
     tardes_.assign(kTardes, coste_);
     const auto sigue = [&] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < hasta); };
     for (int vuelta = 0; (!esfuerzo.vueltas || vuelta < *esfuerzo.vueltas) && sigue(); ++vuelta) {
       if (!Vuelta(vuelta, sigue) || coste_ >= optimo_) continue;
-      optimo_ = coste_;
-      mejor.Ofrece(actual_, coste_, numero_);
+      if (mejor.Ofrece(actual_, coste_, numero_)) {
+        optimo_ = coste_;
+        sana = actual_;
+      } else if (optimo_ < kInfinito) {
+        actual_ = sana;
+        coste_ = optimo_;
+      } else {
+        coste_ = kInfinito;
+      }
     }
   }
 
@@ -249,7 +264,7 @@ Nido Anida(const EncargoNido& encargo, const EsfuerzoNido& esfuerzo, const Vigia
     if (!cabe) faltan.push_back({i, cantidad, moldes.Sirve(i) ? FaltaNido::noCabe : FaltaNido::sinArea});
     if (cabe) partes.insert(partes.end(), static_cast<std::size_t>(cantidad), i);
   }
-  Mejor mejor(vigia);
+  Mejor mejor(encargo, vigia);
   const std::size_t hilos = std::max(1U, esfuerzo.hilos), salidas = esfuerzo.vueltas ? kSalidas : hilos;
   std::atomic<std::size_t> siguiente = 0;
   EnHilos(partes.empty() ? 0 : std::min(hilos, salidas), [&] {

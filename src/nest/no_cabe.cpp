@@ -16,6 +16,7 @@ using ClipperLib::Path;
 using ClipperLib::Paths;
 
 constexpr double kRendija = 1e4;  // square units
+constexpr double kRoto = 3;       // units: as wide as slits may be
 constexpr double kHolgura = 2;    // units: so deep a place may lie inside
 
 // Exact: coordinates have less than 29 bits.
@@ -92,6 +93,8 @@ NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados) {
                   true);
   Paths anillos;
   union_.Execute(ClipperLib::ctUnion, anillos, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
+  // Nearly parallel edges leave slits that go far inside, and are no room.
+  ClipperLib::CleanPolygons(anillos, kRoto);
   std::vector<NoCabe::Canto> cantos;
   for (const Path& anillo : anillos) {
     // Where roundings leave a gap between two pieces there is none.

@@ -14,7 +14,7 @@ using ClipperLib::IntPoint;
 using ClipperLib::Path;
 using ClipperLib::Paths;
 
-constexpr double kSobra = 8;  // units, for all that is rounded between here and the sheet
+constexpr double kSobra = 11;  // units, for all that is rounded between here and the sheet
 
 Punto2 EnReales(IntPoint p) { return {static_cast<double>(p.X), static_cast<double>(p.Y)}; }
 

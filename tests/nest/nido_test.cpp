@@ -50,6 +50,9 @@ EncargoNido AlAzar(unsigned semilla) {
     const Contorno contorno = parte(azar) < 0.6 ? Estrella(azar, 60 + 400 * parte(azar))
                                                 : Sector(150 + 400 * parte(azar), 100, 20 + 200 * parte(azar), 30);
     encargo.partes.push_back({contorno, 1 + static_cast<int>(3 * parte(azar))});
+    Contorno reflejado;  // the other half of a duct, whose edges run as the first one's
+    for (const Punto2 p : contorno) reflejado.push_back({-p.x, p.y});
+    if (parte(azar) < 0.5) encargo.partes.push_back({reflejado, 2});
   }
   return encargo;
 }
