@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <span>
 
 #include "geometry/planas.h"
@@ -34,7 +35,8 @@ class Convolucion {
     Barre(b, a, false);
   }
 
-  Paths Caminos() {
+  /// None where roundings have made a corner a spike, so that paths don't close.
+  std::optional<Paths> Caminos() {
     std::ranges::sort(pasos_, [](const Paso& p, const Paso& q) { return Antes(p.desde, q.desde); });
     std::vector<std::size_t> usados(pasos_.size());  // at the first of those that leave a point: how many are used
     Paths caminos;
@@ -46,6 +48,9 @@ class Convolucion {
         do {
           camino.push_back(donde);
           const std::size_t primero = Primero(donde);
+          const bool sigue = primero < pasos_.size() && primero + usados[primero] < pasos_.size() &&
+                             pasos_[primero + usados[primero]].desde == donde;
+          if (!sigue) return std::nullopt;
           donde = pasos_[primero + usados[primero]++].hasta;
         } while (donde != pasos_[i].desde);
       }
@@ -85,12 +90,27 @@ class Convolucion {
   std::vector<Paso> pasos_;
 };
 
+// The same, slower: one outline along the other, and where one lies within the other.
+Paths Barrido(const Path& a, const Path& b) {
+  const auto movido = [](const Path& que, IntPoint cuanto) {
+    Path salida;
+    for (const IntPoint p : que) salida.push_back(Suma(p, cuanto));
+    return salida;
+  };
+  Paths barrido;
+  ClipperLib::MinkowskiSum(a, b, barrido, true);
+  barrido.push_back(movido(a, b[0]));
+  barrido.push_back(movido(b, a[0]));
+  return barrido;
+}
+
 }  // namespace
 
 NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados) {
   ClipperLib::Clipper union_;
-  union_.AddPaths(Convolucion(fija.contorno, Girado(movida.contorno, grados + 180)).Caminos(), ClipperLib::ptSubject,
-                  true);
+  const Path vuelta = Girado(movida.contorno, grados + 180);
+  const auto caminos = Convolucion(fija.contorno, vuelta).Caminos();
+  union_.AddPaths(caminos ? *caminos : Barrido(fija.contorno, vuelta), ClipperLib::ptSubject, true);
   Paths anillos;
   union_.Execute(ClipperLib::ctUnion, anillos, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
   // Nearly parallel edges leave slits that go far inside, and are no room.

@@ -93,8 +93,10 @@ Path Girado(const Path& contorno, double grados) {
   Path girado;
   for (const IntPoint p : contorno) {
     const Punto2 q = giro(EnReales(p));
-    girado.emplace_back(std::llround(q.x), std::llround(q.y));
+    const IntPoint r(std::llround(q.x), std::llround(q.y));
+    if (girado.empty() || girado.back() != r) girado.push_back(r);
   }
+  while (girado.size() > 1 && girado.back() == girado.front()) girado.pop_back();
   return girado;
 }
 
