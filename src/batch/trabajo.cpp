@@ -124,10 +124,12 @@ class Salida {
     return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
   bool Maquina(Cortes cortes, const Veredicto& veredicto) {
-    if (opciones_.cortes) {
+    if (opciones_.cortes || opciones_.chapas) {
       const std::string faltas = TextoSinCorte(cortes, veredicto);
       resultado_.sinCorte = !opciones_.fuerza && !faltas.empty();
       if (resultado_.sinCorte) Avisa(faltas);
+    }
+    if (opciones_.cortes) {
       const Cortes todos = cortes;
       Deja(cortes, veredicto, opciones_.fuerza ? Cuales::todas : Cuales::sanas);
       const std::string viejos = TextoViejos(todos, cortes, opciones_.carpeta);
@@ -163,6 +165,16 @@ class Salida {
   Resultado& resultado_;
 };
 
+std::vector<ParteChapa> PartesDe(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
+                                 const Opciones& opciones) {
+  std::vector<ParteChapa> partes;
+  for (const ParteCorte& parte : cortes.partes) {
+    if (!SeCorta(parte.recorte, veredicto, opciones.fuerza ? Cuales::todas : Cuales::sanas)) continue;
+    partes.push_back({trabajo.nombre, TextoForma(parte.recorte.forma), parte, trabajo.cantidad, estado.dEspesor});
+  }
+  return partes;
+}
+
 // What is written of a piece that lies on the control; `patron` is its pattern as it was made.
 void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, const Veredicto& veredicto,
             const Trabajo& trabajo, const Opciones& opciones, Resultado& resultado) {
@@ -171,7 +183,9 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   if (!salida.Dibujo() || !salida.Imagenes(axew, escala)) return;
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
-  salida.Maquina(CortesDe(trabajo.nombre, solido, patron), veredicto);
+  const Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
+  if (!salida.Maquina(cortes, veredicto)) return;
+  if (opciones.chapas) resultado.partes = PartesDe(trabajo, cortes, veredicto, opciones);
 }
 
 }  // namespace
@@ -185,6 +199,7 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   estado.plataforma = &plataforma;
   Dialogo dialogo(fila->dialogo);
   Resultado resultado;
+  if (trabajo.espesor) estado.dEspesor = *trabajo.espesor;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && (!opciones.soloComprueba || opciones.estricto)) {
     const Solido solido = SolidoDe(*estado.pieza);

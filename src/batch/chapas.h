@@ -1,0 +1,45 @@
+#pragma once
+// The sheets of a list: takes the parts of its pieces, and at the end lays them and writes what the machine and the
+// office get.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "batch/ordenes_chapas.h"
+#include "state/guardado.h"
+
+namespace duktores {
+
+/// A sheet as the office wants to know it.
+struct FilaChapa {
+  std::string fichero;
+  double espesor = 0;
+  Punto2 tamano;
+  std::size_t partes = 0;
+  double uso = 0;    ///< the parts' area, in per cent of the sheet
+  double largo = 0;  ///< of the cut
+  Punto2 resto;      ///< of the largest rectangle that is left
+};
+
+/// Parts that lie on no sheet.
+struct FilaSinChapa {
+  std::string pieza, forma;
+  double espesor = 0;
+  int cantidad = 0;
+  std::string motivo;
+};
+
+/// What came of all sheets. A line of the answers each.
+struct InformeChapas {
+  std::vector<FilaChapa> chapas;
+  std::vector<FilaSinChapa> faltan;
+  std::vector<std::string> lineas;
+  bool bien = true;  ///< all lies on sheets that are written
+};
+
+/// Lays the parts of each thickness and writes the sheets into the folder. `avance` is told the best so far in words.
+InformeChapas PonEnChapas(const std::vector<ParteChapa>& partes, const OrdenesChapas& ordenes,
+                          const std::string& carpeta, const std::function<void(const std::string&)>& avance);
+
+}  // namespace duktores
