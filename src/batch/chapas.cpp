@@ -3,12 +3,11 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <utility>
 
 #include "batch/senales.h"
-#include "jobs/lista.h"
-#include "nest/resto.h"
-#include "nest/revisa.h"
-#include "paint/pintura.h"
+#include "jobs/chapas.h"
+#include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 #include "state/textos.h"
@@ -28,95 +27,40 @@ std::string Cifras(double v, int decimales) {
 
 std::string Tamano(Punto2 tamano) { return Cifras(tamano.x, 3) + "x" + Cifras(tamano.y, 3); }
 
-constexpr double kPorCiento = 100;
-
-const char* MotivoDe(FaltaNido falta, bool hayChapas) {
-  switch (falta) {
-    case FaltaNido::sinArea:
-      return "it has no area or is too long";
-    case FaltaNido::noCabe:
-      return hayChapas ? "larger than any sheet" : "no sheet of its thickness";
-    case FaltaNido::sinChapas:
-      return "no sheet is left";
-    case FaltaNido::interrumpido:
-      break;
-  }
-  return "stopped before";
-}
-
-const char* MotivoDe(FaltaRevision falta) {
-  switch (falta) {
-    case FaltaRevision::fueraDeChapa:
-      return "a part reaches over the margin";
-    case FaltaRevision::demasiadoCerca:
-      return "two parts come too near to each other";
-    case FaltaRevision::dentroDeOtra:
-      return "a part lies in another one";
-    case FaltaRevision::giroProhibido:
-      break;
-  }
-  return "a part is turned as it may not be";
-}
-
 class Taller {
  public:
   Taller(const std::string& carpeta, InformeChapas& informe) : carpeta_(carpeta), informe_(informe) {}
 
   void Escribe(const Lote& lote, const Nido& nido) {
     if (!CuadranCantidades(lote.encargo, nido)) {
+      Responde("sheets of " + Cifras(lote.espesor, 3) + ": refused sheet: " + Texto(texto::kNoCuadran));
       informe_.bien = false;
-      informe_.lineas.push_back("sheets of " + Cifras(lote.espesor, 3) + ": refused sheet: parts are lost or doubled");
       return;
     }
     const auto fallas = RevisaChapas(lote.encargo, nido);
     for (std::size_t i = 0; i < nido.chapas.size(); ++i) {
       const std::string nombre = NombreChapa(++numero_);
-      const auto falla = std::ranges::find(fallas, i, &FallaNido::chapa);
-      const std::string motivo = falla == fallas.end() ? Guarda(lote, nido.chapas[i], nombre) : MotivoDe(falla->falta);
-      if (motivo.empty()) continue;
-      informe_.bien = false;
-      informe_.lineas.push_back(nombre + ": refused sheet: " + motivo);
+      const auto [fila, motivo] = EscribeChapa(lote, nido, i, fallas, carpeta_, nombre);
+      if (motivo.empty()) {
+        Responde(nombre + ": ok " + (std::filesystem::path(carpeta_) / fila.fichero).string() + ", " + Figuras(fila));
+        informe_.chapas.push_back(fila);
+      } else {
+        Responde(nombre + ": refused sheet: " + motivo);
+        informe_.bien = false;
+      }
     }
-    for (const NoPuesta& falta : nido.faltan) Falta(lote, falta);
+    for (const NoPuesta& falta : nido.faltan) {
+      const FilaSinChapa& fila = informe_.faltan.emplace_back(FilaDe(lote, falta));
+      Responde(fila.pieza + ": left out " + std::to_string(fila.cantidad) + " of " + fila.forma + ": " + fila.motivo);
+      informe_.bien = false;
+    }
   }
 
  private:
-  // Why it isn't written; empty if it is.
-  std::string Guarda(const Lote& lote, const ChapaPuesta& chapa, const std::string& nombre) {
-    const Punto2 tamano = lote.encargo.chapas[chapa.chapa].tamano;
-    const std::vector<ParteCorte> partes = PartesEn(lote, chapa);
-    const std::string base = std::filesystem::path(carpeta_) / nombre, dxf = base + ".dxf";
-    const bool milimetros = estado.iUnidad == 1;
-    const Guardado guardado = GuardaCorte(dxf, partes, estado.maquina, milimetros, tamano);
-    if (!guardado) return TextoNoGuardado(dxf, guardado);
-    EWdraw axew;
-    DibujaChapa(axew, partes, tamano);
-    const std::string png = base + Sufijo(Formato::png);
-    const Guardado imagen = GuardaImagen(axew, png, Formato::png, milimetros ? Escala::milimetros : Escala::pulgadas);
-    if (!imagen) return TextoNoGuardado(png, imagen);
-
-    FilaChapa fila{nombre + ".dxf", lote.espesor, tamano, partes.size(), 0, 0, {}};
-    double area = 0;
-    for (const ParteCorte& parte : partes) {
-      area += parte.recorte.area;
-      fila.largo += parte.recorte.largo;
-    }
-    fila.uso = kPorCiento * area / (tamano.x * tamano.y);
-    fila.resto = RestoMayor(lote.encargo, chapa).tamano;
-    informe_.lineas.push_back(nombre + ": ok " + dxf + ", " + Tamano(tamano) + "x" + Cifras(lote.espesor, 3) + ", " +
-                              std::to_string(partes.size()) + (partes.size() == 1 ? " part, " : " parts, ") +
-                              Cifras(fila.uso, 1) + " % used, rest " + Tamano(fila.resto));
-    informe_.chapas.push_back(std::move(fila));
-    return "";
-  }
-
-  void Falta(const Lote& lote, const NoPuesta& falta) {
-    const ParteChapa& parte = *lote.partes[falta.parte];
-    const std::string motivo = MotivoDe(falta.motivo, !lote.encargo.chapas.empty());
-    informe_.bien = false;
-    informe_.faltan.push_back({parte.pieza, parte.forma, lote.espesor, falta.cantidad, motivo});
-    informe_.lineas.push_back(parte.pieza + ": left out " + std::to_string(falta.cantidad) + " of " + parte.forma +
-                              ": " + motivo);
+  void Responde(std::string linea) { informe_.lineas.push_back(std::move(linea)); }
+  static std::string Figuras(const FilaChapa& fila) {
+    return Tamano(fila.tamano) + "x" + Cifras(fila.espesor, 3) + ", " + std::to_string(fila.partes) +
+           (fila.partes == 1 ? " part, " : " parts, ") + Cifras(fila.uso, 1) + " % used, rest " + Tamano(fila.resto);
   }
 
   const std::string& carpeta_;

@@ -7,28 +7,9 @@
 #include <vector>
 
 #include "batch/ordenes_chapas.h"
-#include "state/guardado.h"
+#include "shell/informe_chapas.h"
 
 namespace duktores {
-
-/// A sheet as the office wants to know it.
-struct FilaChapa {
-  std::string fichero;
-  double espesor = 0;
-  Punto2 tamano;
-  std::size_t partes = 0;
-  double uso = 0;    ///< the parts' area, in per cent of the sheet
-  double largo = 0;  ///< of the cut
-  Punto2 resto;      ///< of the largest rectangle that is left
-};
-
-/// Parts that lie on no sheet.
-struct FilaSinChapa {
-  std::string pieza, forma;
-  double espesor = 0;
-  int cantidad = 0;
-  std::string motivo;
-};
 
 /// What came of all sheets. A line of the answers each.
 struct InformeChapas {

@@ -110,23 +110,7 @@ void Informe::Anade(const InformeChapas& chapas) {
     chapas_ = ",\n\"sheets\": " + Texto(puestas) + ",\n\"left_out\": " + Texto(faltan);
     return;
   }
-  const std::string largo = milimetros_ ? " mm" : " in";
-  FilaCsv cabeza(habito_);
-  cabeza.Texto("sheet").Texto("parts").Texto("left out").Texto("thickness" + largo).Texto("width" + largo);
-  cabeza.Texto("height" + largo).Texto("use %").Texto("cut length" + largo);
-  cabeza.Texto("rest width" + largo).Texto("rest height" + largo);
-  chapas_ = "\r\n" + cabeza.Linea();
-  for (const FilaChapa& c : chapas.chapas) {
-    FilaCsv linea(habito_);
-    linea.Texto(c.fichero).Numero(static_cast<double>(c.partes), 0).Texto("").Numero(c.espesor, kMedida);
-    for (const double v : {c.tamano.x, c.tamano.y, c.uso, c.largo, c.resto.x, c.resto.y}) linea.Numero(v, kMedida);
-    chapas_ += linea.Linea();
-  }
-  for (const FilaSinChapa& f : chapas.faltan) {
-    FilaCsv linea(habito_);
-    linea.Texto("").Numero(f.cantidad, 0).Texto(EnUnaLinea(f.pieza + " " + f.forma + ": " + f.motivo));
-    chapas_ += linea.Numero(f.espesor, kMedida).Linea();
-  }
+  chapas_ = "\r\n" + TablaChapas(chapas.chapas, chapas.faltan, habito_);
 }
 
 std::string Informe::Json() const {
