@@ -20,11 +20,14 @@ constexpr std::size_t kMaximoClaves = 64, kMaximoClave = 64, kMaximoPuntos = 64,
 constexpr int kMaximoTeclas = 32, kMaximaCantidad = 10000;
 constexpr double kMinimoEspesor = 1e-6, kMaximoEspesor = 1000;
 
-/// Whether the whole text is a number from `minimo` to `maximo`, which goes into `v`.
-template <class Numero>
-bool EsNumero(std::string_view texto, Numero minimo, Numero maximo, Numero& v) {
+/// Whether the whole text is a number from `minimo` to `maximo`, which goes into `sitio`.
+template <class Numero, class Sitio>
+bool EsNumero(std::string_view texto, Numero minimo, Numero maximo, Sitio& sitio) {
+  Numero v{};
   const auto fin = std::from_chars(texto.data(), texto.data() + texto.size(), v);
-  return fin.ec == std::errc() && fin.ptr == texto.data() + texto.size() && v >= minimo && v <= maximo;
+  const bool es = fin.ec == std::errc() && fin.ptr == texto.data() + texto.size() && v >= minimo && v <= maximo;
+  if (es) sitio = v;
+  return es;
 }
 
 bool EsDeControl(char32_t c) {
@@ -182,7 +185,7 @@ class Lector : public nlohmann::json_sax<json> {
         Rechaza(clave_, "quantity must be a whole number from 1 to " + std::to_string(kMaximaCantidad));
       }
     } else if (clave_ == "thickness") {
-      if (!EsNumero(texto, kMinimoEspesor, kMaximoEspesor, trabajo_.espesor.emplace())) {
+      if (!EsNumero(texto, kMinimoEspesor, kMaximoEspesor, trabajo_.espesor)) {
         Rechaza(clave_, "thickness must be a number above 0, at most 1000");
       }
     } else if (!trabajo_.rechazo) {

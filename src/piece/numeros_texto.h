@@ -137,6 +137,6 @@ inline constexpr int kUnaChapa = 392, kResto = 393, kResumenChapas = 394, kDesar
 inline constexpr int kSinColocar = 396, kSinAreaOLarga = 397, kMayorQueChapas = 398, kSinChapaDeEspesor = 399;
 inline constexpr int kNoQuedanChapas = 400, kParadoAntes = 401;
 inline constexpr int kFueraDelMargen = 402, kDemasiadoCerca = 403, kUnaEnOtra = 404, kGiroProhibido = 405;
-inline constexpr int kNoCuadran = 406, kNoSeEscribe = 407, kUnaChapaAlMenos = 408;
+inline constexpr int kNoCuadran = 406, kNoSeEscribe = 407, kUnaChapaAlMenos = 408, kSinGiro = 409;
 
 }  // namespace duktores::texto
