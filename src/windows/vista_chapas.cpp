@@ -57,15 +57,16 @@ Punto2 Hondo(const std::vector<Punto2>& contorno) {
   return mejor;
 }
 
-/// How far the outline goes on level with a point within it, to the nearer side.
-double Holgura(const QPolygonF& contorno, QPointF p) {
-  double cerca = 1e300;
+/// What of the level line through a point lies within the outline, on both sides of the point.
+QLineF Renglon(const QPolygonF& contorno, QPointF p) {
+  double izquierda = -1e300, derecha = 1e300;
   for (qsizetype i = 0; i < contorno.size(); ++i) {
     const QPointF a = contorno[i], b = contorno[(i + 1) % contorno.size()];
     if ((a.y() > p.y()) == (b.y() > p.y())) continue;
-    cerca = std::min(cerca, std::abs(a.x() + (p.y() - a.y()) / (b.y() - a.y()) * (b.x() - a.x()) - p.x()));
+    const double x = a.x() + (p.y() - a.y()) / (b.y() - a.y()) * (b.x() - a.x());
+    (x < p.x() ? izquierda : derecha) = x < p.x() ? std::max(izquierda, x) : std::min(derecha, x);
   }
-  return cerca < 1e300 ? cerca : 0;
+  return {{std::max(izquierda, p.x() - 1e5), p.y()}, {std::min(derecha, p.x() + 1e5), p.y()}};
 }
 
 QString Rotulo(std::size_t numero, const Lote& lote, const ChapaPuesta& chapa, const FilaChapa* fila) {
@@ -110,8 +111,7 @@ void VistaChapas::Muestra(const Reparto& reparto) {
         auto& hondo = hondos[c.parte];
         if (!hondo) hondo = Hondo(lote.encargo.partes[c.parte].contorno);
         const Punto2 sitio = Giro(c.grados)(*hondo) + c.sitio;
-        parte.rotulo = {sitio.x, sitio.y};
-        parte.holgura = Holgura(parte.contorno, parte.rotulo);
+        parte.renglon = Renglon(parte.contorno, {sitio.x, sitio.y});
       }
       ahora.push_back(hoja.sitio.size());
     }
@@ -170,13 +170,13 @@ QPolygonF VistaChapas::EnPantalla(const QPolygonF& contorno) const {
 }
 
 void VistaChapas::PintaNombre(QPainter& pintor, const Parte& parte) const {
-  constexpr double kMinimo = 24, kParte = 1.85;
+  constexpr double kMinimo = 24, kParte = 0.9;
   const QFontMetricsF medidas = pintor.fontMetrics();
-  const double ancho = kParte * parte.holgura * encuadre_.escala;
+  const double ancho = kParte * parte.renglon.length() * encuadre_.escala;
   if (ancho < kMinimo) return;
   const QString texto = medidas.elidedText(parte.pieza, Qt::ElideMiddle, ancho);
   QRectF sitio(0, 0, ancho, medidas.height());
-  sitio.moveCenter(encuadre_.AlDispositivo(parte.rotulo, size()));
+  sitio.moveCenter(encuadre_.AlDispositivo(parte.renglon.center(), size()));
   pintor.drawText(sitio, Qt::AlignCenter | Qt::TextDontClip, texto);
 }
 
@@ -198,7 +198,7 @@ void VistaChapas::PintaHoja(QPainter& pintor, const Hoja& hoja) const {
     pintor.drawPolygon(EnPantalla(parte.contorno.translated(hoja.sitio.topLeft())));
   }
   for (Parte parte : hoja.partes) {
-    parte.rotulo += hoja.sitio.topLeft();
+    parte.renglon.translate(hoja.sitio.topLeft());
     PintaNombre(pintor, parte);
   }
   pintor.setFont(letra);

@@ -33,8 +33,7 @@ class VistaChapas : public QWidget {
     QPolygonF contorno;
     QColor color;
     QString pieza, nombre;
-    QPointF rotulo;  // where its middle stands, and how much room is to both sides
-    double holgura = 0;
+    QLineF renglon;  // where its name stands
   };
   struct Hoja {
     QRectF sitio;
