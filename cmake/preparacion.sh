@@ -1,7 +1,7 @@
 # Shared by ./run and ./test: the Debian packages that they need, and a quiet build.
 
 PAQUETES_PROGRAMA=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libxcb1-dev libcli11-dev
-  nlohmann-json3-dev fonts-wqy-microhei)
+  libpolyclipping-dev nlohmann-json3-dev fonts-wqy-microhei)
 PAQUETES_TESTS=(libgtest-dev libbenchmark-dev locales python3-ezdxf python3-gdal xvfb openbox xdotool acl parallel
   binutils poppler-utils dpkg-dev file)
 

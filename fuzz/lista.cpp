@@ -15,7 +15,7 @@ static void ExigeVuelta(std::string_view json) {
     if (trabajo.rechazo) continue;
     const Trabajo vuelto = LeePiezasDe(EscribeLista({&trabajo, 1})).trabajos.at(0);
     assert(!vuelto.rechazo && vuelto.nombre == trabajo.nombre && vuelto.valores == trabajo.valores);
-    assert(vuelto.puntos == trabajo.puntos);
+    assert(vuelto.puntos == trabajo.puntos && vuelto.cantidad == trabajo.cantidad && vuelto.espesor == trabajo.espesor);
   }
 }
 

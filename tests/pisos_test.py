@@ -5,11 +5,11 @@ import pathlib
 import re
 import sys
 
-FLOORS = {"platform": 1, "geometry": 1, "piece": 2, "viewer": 2, "state": 3, "engines": 3, "special": 3, "check": 3,
-          "cut": 4, "dxf": 5, "annotation": 6, "sheet": 7, "dialogs": 7, "shell": 8, "paint": 8, "jobs": 8, "batch": 9,
-          "windows": 9}
+FLOORS = {"platform": 1, "geometry": 1, "nest": 2, "piece": 2, "viewer": 2, "state": 3, "engines": 3, "special": 3,
+          "check": 3, "cut": 4, "dxf": 5, "annotation": 6, "sheet": 7, "dialogs": 7, "shell": 8, "paint": 8, "jobs": 9,
+          "batch": 10, "windows": 10}
 QT = ("paint", "jobs", "batch", "windows")
-PURE, IMPURE = ("geometry", "piece", "engines", "special", "check", "cut"), ("state", "viewer", "dxf")
+PURE, IMPURE = ("geometry", "nest", "piece", "engines", "special", "check", "cut"), ("state", "viewer", "dxf")
 NAME_STATE = ("state", "dxf", "annotation", "dialogs", "shell", "jobs", "batch", "windows")
 
 src = pathlib.Path(sys.argv[1])

@@ -32,6 +32,7 @@
 #include "state/fichero.h"
 #include "state/textos.h"
 #include "windows/fr_ajustes.h"
+#include "windows/fr_chapas.h"
 #include "windows/fr_dialogo.h"
 #include "windows/fr_elige_pieza.h"
 #include "windows/fr_lista_duktores.h"
@@ -67,6 +68,15 @@ constexpr std::string_view kLista = R"([
   {"name": "cowl-350", "piece": "TransRC", "H": 250, "RI": 220, "LS": 300, "AS": 300, "AX": 0, "AY": 0},
   {"name": "oval-400x200", "piece": "TransElip", "H": 300, "eMaS": 400, "eMeS": 200, "Li": 450, "Ai": 300},
   {"name": "end-600", "piece": "TransEsp2", "H": 300, "r": 120, "Lx": 600, "Ly": 300, "Ax": 0, "Ay": 0}
+])";
+
+constexpr std::string_view kEncargo = R"([
+  {"name": "hood-400", "piece": "TransCR", "quantity": 5, "H": 300, "RS": 100, "LI": 400, "AI": 400, "AX": 0, "AY": 0,
+   "Alfa": 0, "Divisions": 12, "Start": 1},
+  {"name": "cowl-350", "piece": "TransRC", "quantity": 4, "H": 250, "RI": 220, "LS": 300, "AS": 300, "AX": 0, "AY": 0,
+   "Alfa": 0, "Divisions": 12, "Start": 1},
+  {"name": "end-600", "piece": "TransEsp2", "H": 300, "r": 120, "Lx": 600, "Ly": 300, "Ax": 0, "Ay": 0, "Alfa": 0,
+   "Beta": 0}
 ])";
 
 std::vector<std::string> Textos(const Tecleada& pieza) {
@@ -223,6 +233,20 @@ QImage Lista() {
   return foto;
 }
 
+QImage Chapas() {
+  FrChapas ventana(nullptr, LeePiezasDe(kEncargo).trabajos);
+  constexpr QSize kLienzo{820, 560};
+  ventana.resize(kLienzo);
+  ventana.show();
+  constexpr int kMejora = 1500;  // ms
+  QTest::qWait(kMejora);
+  Hijo(ventana, "CmdPara").click();
+  if (!QTest::qWaitFor([&] { return Hijo(ventana, "CmdExport").isEnabled(); }, 60000)) {
+    throw std::runtime_error("no sheets");
+  }
+  return Foto(ventana);
+}
+
 struct Lamina {
   const char* nombre;
   std::function<QImage()> hace;
@@ -246,6 +270,7 @@ std::vector<Lamina> Laminas() {
       {"exact", DosReglas},
       {"export", Exportacion},
       {"lists", Lista},
+      {"sheets", Chapas},
       {"settings", [] { return Ajustes(0); }},
       {"machine", [] { return Ajustes(1); }},
       {"message", [] { return Medidas(kRadioGrande, true); }},

@@ -1,4 +1,4 @@
-// plantilla DIR: writes the templates of the drawings and of the cut files into the folder DIR.
+// plantilla DIR: writes the templates of the drawings, cut files and sheets into the folder DIR.
 
 #include <cstdio>
 #include <filesystem>
@@ -12,7 +12,8 @@ int main(int argc, char** argv) {
     std::fputs("usage: plantilla DIR\n", stderr);
     return 2;
   }
-  for (const auto& [cual, nombre] : {std::pair(Plantilla::dibujo, "Template.dxf"), {Plantilla::corte, "Cut.dxf"}}) {
+  for (const auto& [cual, nombre] :
+       {std::pair(Plantilla::dibujo, "Template.dxf"), {Plantilla::corte, "Cut.dxf"}, {Plantilla::chapa, "Sheet.dxf"}}) {
     const auto ruta = std::filesystem::path(argv[1]) / nombre;
     std::ofstream fichero(ruta, std::ios::binary);
     fichero << duktores::TextoPlantilla(cual);

@@ -57,6 +57,9 @@ constexpr Par kCapaDoblez[] = {{70, "0"}, {62, "3"}, {6, "Dashed"}, {370, "-3"},
 constexpr Par kCapaMarca[]  = {{70, "0"}, {62, "1"}, {6, "Continuous"}, {370, "-3"}, {390, kMarcador}};
 constexpr Registro kCapasCorte[] = {{"10", "0", kCapa}, {"30", "CUT", kCapa}, {"32", "BEND_UP", kCapaDoblez},
     {"33", "BEND_DOWN", kCapaDoblez}, {"34", "MARK", kCapaMarca}};
+constexpr Par kCapaBorde[] = {{70, "0"}, {62, "8"}, {6, "Continuous"}, {370, "-3"}, {390, kMarcador}};
+constexpr Registro kCapasChapa[] = {kCapasCorte[0], kCapasCorte[1], kCapasCorte[2], kCapasCorte[3], kCapasCorte[4],
+    {"35", "SHEET", kCapaBorde}};
 
 constexpr Par kEstiloArial[] = {
     {70, "0"}, {40, "0.0"}, {41, "1.0"}, {50, "0.0"}, {71, "0"}, {42, "2.5"}, {3, "Arial.ttf"}, {4, ""},
@@ -196,7 +199,7 @@ std::string CabeceraConSemilla() {
 }  // namespace
 
 std::string TextoPlantilla(Plantilla cual) {
-  const bool corte = cual == Plantilla::corte;
+  const bool corte = cual != Plantilla::dibujo;
   estado.ExtMinX = estado.ExtMinY = estado.ExtMinZ = estado.ExtMaxZ = 0;
   estado.ExtMaxX = 12;
   estado.ExtMaxY = 9;
@@ -210,6 +213,7 @@ std::string TextoPlantilla(Plantilla cual) {
   for (Tabla tabla : kTablas) {
     if (corte && tabla.nombre == "LTYPE") tabla.registros = kTiposLineaCorte;
     if (corte && tabla.nombre == "LAYER") tabla.registros = kCapasCorte;
+    if (cual == Plantilla::chapa && tabla.nombre == "LAYER") tabla.registros = kCapasChapa;
     e.AnadeTabla(tabla);
   }
   e.CierraSeccion();

@@ -6,8 +6,8 @@
 
 namespace duktores {
 
-/// Of a drawing, or of a file for a cutting machine, which has layers of its own.
-enum class Plantilla { dibujo, corte };
+/// Of a drawing; of a file for a cutting machine, which has layers of its own; of a whole sheet for that machine.
+enum class Plantilla { dibujo, corte, chapa };
 
 /// Sets the extent of `estado` to that of the sheet.
 std::string TextoPlantilla(Plantilla cual);

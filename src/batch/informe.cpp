@@ -85,6 +85,34 @@ void Informe::Anade(const Trabajo& trabajo, const Resultado& resultado) {
   filas_ += linea.Texto(EnUnaLinea(motivo)).Linea();
 }
 
+void Informe::Anade(const InformeChapas& chapas) {
+  constexpr int kMedida = 3, kUso = 2;
+  const auto n = [](double v) { return Redondea(v, kMedida); };
+  if (json_) {
+    ordered_json puestas = ordered_json::array(), faltan = ordered_json::array();
+    for (const FilaChapa& c : chapas.chapas) {
+      puestas.push_back({{"file", c.fichero},
+                         {"thickness", c.espesor},
+                         {"width", c.tamano.x},
+                         {"height", c.tamano.y},
+                         {"parts", c.partes},
+                         {"use", Redondea(c.uso, kUso)},
+                         {"cut_length", n(c.largo)},
+                         {"rest", {n(c.resto.x), n(c.resto.y)}}});
+    }
+    for (const FilaSinChapa& f : chapas.faltan) {
+      faltan.push_back({{"piece", f.pieza},
+                        {"shape", f.forma},
+                        {"thickness", f.espesor},
+                        {"quantity", f.cantidad},
+                        {"reason", f.motivo}});
+    }
+    chapas_ = ",\n\"sheets\": " + Texto(puestas) + ",\n\"left_out\": " + Texto(faltan);
+    return;
+  }
+  chapas_ = "\r\n" + TablaChapas(chapas.chapas, chapas.faltan, habito_);
+}
+
 std::string Informe::Json() const {
   const ordered_json unidades{{"length", milimetros_ ? "mm" : "in"},
                               {"area", milimetros_ ? "cm2" : "in2"},
@@ -95,9 +123,10 @@ std::string Informe::Json() const {
                            {"weight", Redondea(peso_, kSumas)},
                            {"cut_length", Redondea(largo_, kSumas)},
                            {"folds", dobleces_}};
-  return "{\"units\": " + Texto(unidades) + ",\n\"shapes\": [" + filas_ + "\n],\n\"sums\": " + Texto(sumas) + "}\n";
+  return "{\"units\": " + Texto(unidades) + ",\n\"shapes\": [" + filas_ + "\n]" + chapas_ +
+         ",\n\"sums\": " + Texto(sumas) + "}\n";
 }
 
-Guardado Informe::Guarda() const { return EscribeFichero(ruta_, json_ ? Json() : filas_); }
+Guardado Informe::Guarda() const { return EscribeFichero(ruta_, json_ ? Json() : filas_ + chapas_); }
 
 }  // namespace duktores

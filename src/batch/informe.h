@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "batch/chapas.h"
 #include "batch/trabajo.h"
 #include "state/guardado.h"
 
@@ -18,6 +19,8 @@ class Informe {
 
   /// The shapes of the next piece; of one that was refused why.
   void Anade(const Trabajo& trabajo, const Resultado& resultado);
+  /// The sheets, and what lies on none.
+  void Anade(const InformeChapas& chapas);
   /// Writes what has been added so far.
   Guardado Guarda() const;
 
@@ -28,7 +31,7 @@ class Informe {
   std::string ruta_;
   HabitoCsv habito_;
   bool json_, milimetros_;
-  std::string filas_;
+  std::string filas_, chapas_;  // the latter as they stand behind
   int formas_ = 0, dobleces_ = 0, rechazadas_ = 0;
   double area_ = 0, peso_ = 0, largo_ = 0;
 };

@@ -11,6 +11,7 @@
 #include <optional>
 #include <system_error>
 
+#include "batch/chapas.h"
 #include "batch/fuente_lista.h"
 #include "batch/informe.h"
 #include "batch/obreros.h"
@@ -47,10 +48,11 @@ std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
                     (resultado.nota.empty() ? "" : ", note: " + resultado.nota));
 }
 
-/// Writes the answers as they come, and on a terminal how far the work is; at the end the report.
+/// Writes the answers as they come, and on a terminal how far the work is; at the end sheets and report.
 class Respuestas {
  public:
-  Respuestas(std::size_t cuantas, const Ordenes& ordenes) : cuantas_(cuantas), rutaInforme_(ordenes.informe) {
+  Respuestas(std::size_t cuantas, const Ordenes& ordenes)
+      : cuantas_(cuantas), ordenes_(ordenes), rutaInforme_(ordenes.informe) {
     if (!rutaInforme_.empty()) informe_.emplace(rutaInforme_, ordenes.opciones.habito);
   }
   void Escribe(const Trabajo& trabajo, const Resultado& resultado) {
@@ -58,8 +60,22 @@ class Respuestas {
     std::cout << Linea(trabajo, resultado) << '\n' << std::flush;
     if (informe_) informe_->Anade(trabajo, resultado);
     rechazado_ = rechazado_ || resultado.rechazo || resultado.sinCorte;
+    partes_.insert(partes_.end(), resultado.partes.begin(), resultado.partes.end());
     ++hechas_;
     if (terminal_ && hechas_ < cuantas_) std::cerr << hechas_ << " of " << cuantas_ << std::flush;
+  }
+  /// Lays what has come. A signal ends the search and not the writing; then it throws Interrumpido.
+  void PonChapas() {
+    if (!ordenes_.opciones.chapas) return;
+    const InformeChapas hecho =
+        PonEnChapas(partes_, ordenes_.chapas, ordenes_.opciones.carpeta, [this](const std::string& avance) {
+          if (terminal_) std::cerr << "\r\033[K" << avance << std::flush;
+        });
+    if (terminal_) std::cerr << "\r\033[K" << std::flush;
+    for (const std::string& linea : hecho.lineas) std::cout << EnUnaLinea(linea) << '\n' << std::flush;
+    if (informe_) informe_->Anade(hecho);
+    rechazado_ = rechazado_ || !hecho.bien;
+    ExigeSeguir();
   }
   /// The exit status, for which the list may have given another reason than its answers.
   int Acaba(int salida = kTodoEscrito) {
@@ -75,6 +91,8 @@ class Respuestas {
   const bool terminal_ = isatty(STDERR_FILENO) != 0;
   std::size_t cuantas_, hechas_ = 0;
   bool rechazado_ = false;
+  const Ordenes& ordenes_;
+  std::vector<ParteChapa> partes_;
   const std::string& rutaInforme_;
   std::optional<Informe> informe_;
 };
@@ -110,6 +128,7 @@ void PreparaSalida(const Ordenes& ordenes) {
   if (opciones.soloComprueba) return;
   std::vector<PlantillaDxf> plantillas{kPlantillaDibujo};
   if (opciones.cortes) plantillas.push_back(kPlantillaCorte);
+  if (opciones.chapas) plantillas.push_back(kPlantillaChapa);
   for (const PlantillaDxf& plantilla : plantillas) {
     const Guardado marco = RevisaPlantilla(plantilla);
     if (!marco) throw NadaHecho(Texto(texto::kPlantilla) + " " + marco.detalle);
@@ -144,6 +163,7 @@ int TrabajaTodos(FuenteLista& fuente, const Ordenes& ordenes, const Nombres& nom
     });
     obreros.Acaba();
     fuente.ExigeIgual();
+    respuestas.PonChapas();
   } catch (const Interrumpido&) {
     obreros.Acaba();
     respuestas.Acaba();
@@ -162,7 +182,10 @@ int Ejecuta(const Ordenes& ordenes) {
   try {
     FuenteLista fuente(ordenes.lista, ordenes.maximoLista);
     const Opciones& opciones = ordenes.opciones;
-    Nombres nombres({.solidos = opciones.solido, .cortes = opciones.cortes, .dobleces = opciones.dobleces});
+    Nombres nombres({.solidos = opciones.solido,
+                     .cortes = opciones.cortes,
+                     .dobleces = opciones.dobleces,
+                     .chapas = opciones.chapas});
     std::size_t cuantos = 0;
     RecorreLista(fuente.DesdeElPrincipio(), [&](Trabajo&& trabajo) {
       nombres.Anota(trabajo);
@@ -183,9 +206,13 @@ int Programa(int argc, char** argv) {
   AtiendeSenales();
   Ordenes ordenes;
   if (const auto fin = LeeOrdenes(argc, argv, ordenes)) return *fin;
+  if (!ordenes.chapas.fichero.empty()) {
+    const auto existencias = LeeExistencias(ordenes.chapas.fichero);
+    ordenes.chapas.existencias.insert(ordenes.chapas.existencias.end(), existencias.begin(), existencias.end());
+  }
   // Texts of a picture need fonts, which need the application object; no screen is needed for either.
   std::unique_ptr<QGuiApplication> qt;
-  if (!ordenes.opciones.imagenes.empty()) {
+  if (!ordenes.opciones.imagenes.empty() || ordenes.opciones.chapas) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // remarks about the desktop
     qt = std::make_unique<QGuiApplication>(argc, argv);

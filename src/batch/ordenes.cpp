@@ -68,15 +68,20 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   app.add_option("--max-list", ordenes.maximoLista, "longest list from a pipe; default: 1 GiB")
       ->type_name("SIZE")
       ->transform(CLI::AsSizeValue(false));
+  AnadeOrdenesChapas(app, ordenes.chapas);
   try {
     app.parse(argc, argv);
     opciones.informe = !ordenes.informe.empty();
+    opciones.chapas = !ordenes.chapas.existencias.empty() || !ordenes.chapas.fichero.empty();
+    if (opciones.chapas && opciones.soloComprueba) throw CLI::ExcludesError("--check", "--sheet and --stock");
+    if (opciones.chapas && ordenes.parte.cada > 1) throw CLI::ExcludesError("--shard", "--sheet and --stock");
     if (opciones.soloComprueba && opciones.QuierePartes()) {
       throw CLI::ExcludesError("--check", "--cut, --bends and --report");
     }
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
   }
+  ordenes.chapas.esfuerzo.hilos = ordenes.hilos;
   if (coma) opciones.habito = kConComa;
   if (png) opciones.imagenes.push_back(Formato::png);
   if (svg) opciones.imagenes.push_back(Formato::svg);

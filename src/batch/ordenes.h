@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "batch/ordenes_chapas.h"
 #include "batch/trabajo.h"
 
 namespace duktores {
@@ -20,6 +21,7 @@ struct Parte {
 struct Ordenes {
   std::string lista, configuracion, informe;
   Opciones opciones;
+  OrdenesChapas chapas;
   bool exacto = false;
   unsigned hilos = 1;
   Parte parte;

@@ -4,10 +4,10 @@
 
 #include "batch/puntos_lote.h"
 #include "dxf/escritor.h"
-#include "jobs/llenado.h"
+#include "jobs/aceptacion.h"
+#include "jobs/chapas.h"
 #include "piece/numeros_texto.h"
 #include "sheet/hoja.h"
-#include "shell/cortes.h"
 #include "shell/juicio.h"
 #include "shell/lista.h"
 #include "shell/texto_veredicto.h"
@@ -20,14 +20,6 @@ namespace duktores {
 
 namespace {
 
-// Keeps the last message for the answer line.
-class PlataformaLote : public Plataforma {
- public:
-  void CajaMensaje(std::string_view texto, EstiloMensaje, std::string_view) override { mensaje = texto; }
-  void VentanaMensaje(std::string_view texto) override { mensaje = texto; }
-  std::string mensaje;
-};
-
 // The answer to a prompt, which is no message any more.
 struct Puntos : PuntosLote {
   Puntos(const std::vector<Punto2>& sitios, std::string& aviso) : PuntosLote(sitios), mensaje(aviso) {}
@@ -38,26 +30,9 @@ struct Puntos : PuntosLote {
   std::string& mensaje;
 };
 
-std::string Palabra(const Dialogo& dialogo, int campo) {
-  return std::string(dialogo.Definicion().campos[static_cast<std::size_t>(campo)].palabra);
-}
-
-std::optional<Rechazo> LlenaYAcepta(Dialogo& dialogo, const Trabajo& trabajo, const PlataformaLote& plataforma) {
-  if (auto rechazo = LlenaDialogo(dialogo, trabajo)) return rechazo;
-  switch (dialogo.CmdAceptar()) {
-    case Respuesta::campoVacio:
-      return Rechazo{Palabra(dialogo, dialogo.Foco()), plataforma.mensaje};
-    case Respuesta::datoErroneo:
-      return Rechazo{Palabra(dialogo, dialogo.Foco()), dialogo.lblerror()};
-    case Respuesta::aceptado:
-      break;
-  }
-  return std::nullopt;
-}
-
 // Places and draws what the accepted piece, which has this solid, unfolds to, and holds it against that.
 std::optional<Rechazo> Despliega(EWdraw& axew, const Trabajo& trabajo, const Solido& solido, Desarrollo desarrollo,
-                                 Veredicto& veredicto, PlataformaLote& plataforma) {
+                                 Veredicto& veredicto, PlataformaCallada& plataforma) {
   const std::vector<Punto2> sitios = trabajo.puntos ? *trabajo.puntos : Reparte(desarrollo.patron, FormatoDeEstado());
   Puntos puntos(sitios, plataforma.mensaje);
   axew.PonVista(&puntos);
@@ -124,10 +99,12 @@ class Salida {
     return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
   bool Maquina(Cortes cortes, const Veredicto& veredicto) {
-    if (opciones_.cortes) {
+    if (opciones_.cortes || opciones_.chapas) {
       const std::string faltas = TextoSinCorte(cortes, veredicto);
       resultado_.sinCorte = !opciones_.fuerza && !faltas.empty();
       if (resultado_.sinCorte) Avisa(faltas);
+    }
+    if (opciones_.cortes) {
       const Cortes todos = cortes;
       Deja(cortes, veredicto, opciones_.fuerza ? Cuales::todas : Cuales::sanas);
       const std::string viejos = TextoViejos(todos, cortes, opciones_.carpeta);
@@ -171,7 +148,11 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   if (!salida.Dibujo() || !salida.Imagenes(axew, escala)) return;
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
-  salida.Maquina(CortesDe(trabajo.nombre, solido, patron), veredicto);
+  const Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
+  if (!salida.Maquina(cortes, veredicto)) return;
+  if (opciones.chapas) {
+    resultado.partes = PartesDe(trabajo, cortes, veredicto, opciones.fuerza ? Cuales::todas : Cuales::sanas);
+  }
 }
 
 }  // namespace
@@ -181,10 +162,11 @@ Resultado Trabaja(const Trabajo& trabajo, const Opciones& opciones) {
   const FilaPieza* fila = FilaDeClave(trabajo.pieza);
   if (!fila) return {.rechazo = Rechazo{"piece", "\"" + trabajo.pieza + "\" is no piece of the catalogue."}};
 
-  PlataformaLote plataforma;
+  PlataformaCallada plataforma;
   estado.plataforma = &plataforma;
   Dialogo dialogo(fila->dialogo);
   Resultado resultado;
+  if (trabajo.espesor) estado.dEspesor = *trabajo.espesor;
   resultado.rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
   if (!resultado.rechazo && (!opciones.soloComprueba || opciones.estricto)) {
     const Solido solido = SolidoDe(*estado.pieza);

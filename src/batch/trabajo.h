@@ -8,6 +8,7 @@
 
 #include "jobs/lista.h"
 #include "paint/pintura.h"
+#include "shell/chapas.h"
 #include "shell/csv.h"
 
 namespace duktores {
@@ -17,13 +18,14 @@ struct Opciones {
   std::vector<Formato> imagenes;
   bool solido = false;                    ///< pictures of the solid too
   bool cortes = false, dobleces = false;  ///< cut files and the list of bends too
+  bool chapas = false;                    ///< the parts are wanted, for sheets
   bool fuerza = false;                    ///< cut files also of what isn't true or sound
   HabitoCsv habito{};                     ///< of the list of bends
   bool informe = false;                   ///< the figures of the shapes are wanted
   bool soloComprueba = false;             ///< write nothing
   bool estricto = false;                  ///< a pattern that isn't true is refused
 
-  bool QuierePartes() const { return cortes || dobleces || informe; }
+  bool QuierePartes() const { return cortes || dobleces || informe || chapas; }
 };
 
 /// A shape as the office wants to know it.
@@ -43,6 +45,7 @@ struct Resultado {
   std::string aviso{}, nota{};
   bool sinCorte = false;  ///< a cut file that was wanted isn't written
   std::vector<FilaInforme> filas{};
+  std::vector<ParteChapa> partes{};  ///< that can be cut
   std::optional<Rechazo> rechazo{};
 };
 

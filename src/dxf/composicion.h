@@ -30,8 +30,10 @@ struct PlantillaDxf {
   std::string_view fichero;
   std::span<const std::string_view> capas;
 };
-inline constexpr std::string_view kCapasDibujo[]{"DUCT"}, kCapasCorte[]{"CUT", "BEND_UP", "BEND_DOWN", "MARK"};
-inline constexpr PlantillaDxf kPlantillaDibujo{"Template.dxf", kCapasDibujo}, kPlantillaCorte{"Cut.dxf", kCapasCorte};
+inline constexpr std::string_view kCapasDibujo[]{"DUCT"}, kCapasCorte[]{"CUT", "BEND_UP", "BEND_DOWN", "MARK"},
+    kCapasChapa[]{"CUT", "BEND_UP", "BEND_DOWN", "MARK", "SHEET"};
+inline constexpr PlantillaDxf kPlantillaDibujo{"Template.dxf", kCapasDibujo}, kPlantillaCorte{"Cut.dxf", kCapasCorte},
+    kPlantillaChapa{"Sheet.dxf", kCapasChapa};
 
 /// Its full path.
 std::string RutaPlantilla(const PlantillaDxf& plantilla = kPlantillaDibujo);

@@ -7,6 +7,7 @@
 
 #include "dxf/composicion.h"
 #include "dxf/numero_dxf.h"
+#include "geometry/giro.h"
 #include "geometry/planas.h"
 #include "state/caracteres.h"
 #include "state/numeros.h"
@@ -29,6 +30,10 @@ class Entidades {
                 parte.recorte.En(d.enQ));
     }
     for (const auto& [p, q] : parte.marca) PonLinea(maquina_.capaMarca, p, q);
+  }
+  void PonBorde(const std::string& capa, Punto2 tamano) {
+    sitio_ = {};
+    PonCerrada(capa, {{{0, 0}}, {{tamano.x, 0}}, {tamano}, {{0, tamano.y}}});
   }
   const std::string& Texto() const { return texto_; }
 
@@ -77,16 +82,17 @@ class Entidades {
     Numero(51, angulo(arco.antihorario ? q : p), kDecimales);
   }
 
+  void PonCerrada(const std::string& capa, const std::vector<Trecho>& contorno) {
+    Cabeza("LWPOLYLINE", capa, "AcDbPolyline");
+    Par(90, std::to_string(contorno.size()));
+    Par(70, "1");
+    Numero(43, 0, 1);
+    for (const Trecho& trecho : contorno) PonPunto(10, trecho.p);
+  }
+
   void PonContorno(const Recorte& recorte) {
     const std::size_t n = recorte.contorno.size();
-    if (!maquina_.arcos) {
-      Cabeza("LWPOLYLINE", maquina_.capaCorte, "AcDbPolyline");
-      Par(90, std::to_string(n));
-      Par(70, "1");
-      Numero(43, 0, 1);
-      for (const Trecho& trecho : recorte.contorno) PonPunto(10, trecho.p);
-      return;
-    }
+    if (!maquina_.arcos) return PonCerrada(maquina_.capaCorte, recorte.contorno);
     for (std::size_t i = 0; i < n; ++i) {
       const auto& [p, arco] = recorte.contorno[i];
       const Punto2 q = recorte.En((i + 1) % n);
@@ -110,6 +116,15 @@ class Entidades {
   int handle_ = 0x500;  // behind those of the template
 };
 
+// Not a layer that the machine does something with.
+std::string CapaBorde(const Maquina& maquina) {
+  std::string capa(kCapasChapa[4]);
+  const auto usada = [&](const std::string& otra) { return Mayusculas(otra) == capa; };
+  const std::array suyas{maquina.capaCorte, maquina.capaArriba, maquina.capaAbajo, maquina.capaMarca};
+  while (std::ranges::any_of(suyas, usada)) capa += "_RIM";
+  return capa;
+}
+
 // Layers by the machine's names; the header's view and unit.
 std::vector<Reemplazo> Reemplazos(Punto2 tamano, const Maquina& maquina, bool milimetros) {
   constexpr double kAspecto = 2, kAire = 1.05;  // width of the view by its height, as the template says
@@ -129,13 +144,29 @@ std::vector<Reemplazo> Reemplazos(Punto2 tamano, const Maquina& maquina, bool mi
           {kCapasCorte[0], {}, maquina.capaCorte},
           {kCapasCorte[1], {}, maquina.capaArriba},
           {kCapasCorte[2], {}, maquina.capaAbajo},
-          {kCapasCorte[3], {}, maquina.capaMarca}};
+          {kCapasCorte[3], {}, maquina.capaMarca},
+          {kCapasChapa[4], {}, CapaBorde(maquina)}};
 }
 
 }  // namespace
 
+ParteCorte ColocadaEn(const ParteCorte& parte, double grados, Punto2 sitio) {
+  const Giro giro(grados);
+  ParteCorte puesta = parte;
+  puesta.sitio = sitio;
+  for (Trecho& trecho : puesta.recorte.contorno) {
+    trecho.p = giro(trecho.p);
+    if (trecho.arco) trecho.arco->centro = giro(trecho.arco->centro);
+  }
+  for (auto& [p, q] : puesta.marca) {
+    p = giro(p);
+    q = giro(q);
+  }
+  return puesta;
+}
+
 Guardado GuardaCorte(const std::string& ruta, std::span<const ParteCorte> partes, const Maquina& maquina,
-                     bool milimetros) {
+                     bool milimetros, std::optional<Punto2> chapa) {
   Entidades entidades(maquina, milimetros ? 1 : kPulgadaPorMilimetro);
   Punto2 tamano;
   for (const ParteCorte& parte : partes) {
@@ -143,9 +174,13 @@ Guardado GuardaCorte(const std::string& ruta, std::span<const ParteCorte> partes
     const Punto2 hasta = parte.sitio + parte.recorte.tamano;
     tamano = {std::max(tamano.x, hasta.x), std::max(tamano.y, hasta.y)};
   }
+  if (chapa) {
+    tamano = *chapa;
+    entidades.PonBorde(CapaBorde(maquina), tamano);
+  }
   std::string fichero;
-  const Guardado paso =
-      ComponeDxf(kPlantillaCorte, Reemplazos(tamano, maquina, milimetros), entidades.Texto(), fichero);
+  const Guardado paso = ComponeDxf(chapa ? kPlantillaChapa : kPlantillaCorte, Reemplazos(tamano, maquina, milimetros),
+                                   entidades.Texto(), fichero);
   return paso ? EscribeFichero(ruta, fichero) : paso;
 }
 

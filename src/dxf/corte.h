@@ -1,6 +1,7 @@
 #pragma once
 // Files for a cutting machine: outlines, folds and names on a layer each, and nothing else.
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -18,8 +19,12 @@ struct ParteCorte {
   Punto2 sitio{};
 };
 
-/// Writes the file, whole or not at all. Lengths are millimetres or inches, and the header says which.
+/// Turned about the origin of its frame, by degrees, and then moved to a place.
+ParteCorte ColocadaEn(const ParteCorte& parte, double grados, Punto2 sitio);
+
+/// Writes the file, whole or not at all. Lengths are millimetres or inches, and the header says which. Of parts on a
+/// sheet of a size `chapa` its rim stands there too, on a layer that isn't cut.
 Guardado GuardaCorte(const std::string& ruta, std::span<const ParteCorte> partes, const Maquina& maquina,
-                     bool milimetros);
+                     bool milimetros, std::optional<Punto2> chapa = {});
 
 }  // namespace duktores

@@ -25,6 +25,8 @@ std::string Valor(const std::string& texto) {
 
 std::string EscribeTrabajo(const Trabajo& trabajo) {
   std::string linea = "{\"name\": " + Entrecomillado(trabajo.nombre) + ", \"piece\": " + Entrecomillado(trabajo.pieza);
+  if (trabajo.cantidad != 1) linea += ", \"quantity\": " + std::to_string(trabajo.cantidad);
+  if (trabajo.espesor) linea += ", \"thickness\": " + Valor(TextoTecleado(*trabajo.espesor));
   for (const auto& [clave, texto] : trabajo.valores) linea += ", " + Entrecomillado(clave) + ": " + Valor(texto);
   if (trabajo.puntos) {
     linea += ", \"picks\": [";

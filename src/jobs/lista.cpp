@@ -17,7 +17,18 @@ using nlohmann::json;
 
 // Far more than any piece has or a person would type.
 constexpr std::size_t kMaximoClaves = 64, kMaximoClave = 64, kMaximoPuntos = 64, kMaximoNombre = 4096;
-constexpr int kMaximoTeclas = 32;
+constexpr int kMaximoTeclas = 32, kMaximaCantidad = 10000;
+constexpr double kMinimoEspesor = 1e-6, kMaximoEspesor = 1000;
+
+/// Whether the whole text is a number from `minimo` to `maximo`, which goes into `sitio`.
+template <class Numero, class Sitio>
+bool EsNumero(std::string_view texto, Numero minimo, Numero maximo, Sitio& sitio) {
+  Numero v{};
+  const auto fin = std::from_chars(texto.data(), texto.data() + texto.size(), v);
+  const bool es = fin.ec == std::errc() && fin.ptr == texto.data() + texto.size() && v >= minimo && v <= maximo;
+  if (es) sitio = v;
+  return es;
+}
 
 bool EsDeControl(char32_t c) {
   switch (QChar::category(c)) {
@@ -46,6 +57,14 @@ std::string ConBlancos(const std::string& texto) {
     if (doble && !EsDeControl(letra)) ++i;
   }
   return Utf8(unidades);
+}
+
+constexpr std::string_view kChapa = "sheet-";
+
+/// Whether it is a name that a sheet may have, in small letters.
+bool EsDeChapa(const std::string& nombre) {
+  return nombre.starts_with(kChapa) && nombre.size() > kChapa.size() &&
+         nombre.find_first_not_of("0123456789", kChapa.size()) == std::string::npos;
 }
 
 /// Takes what the parser finds. Depth 1 is within the list, 2 within a job, 3 within its picks, 4 within a pick.
@@ -161,6 +180,14 @@ class Lector : public nlohmann::json_sax<json> {
       Rechaza(clave_, clave_ + " takes at most " + std::to_string(kMaximoTeclas) + " characters");
     } else if (clave_ == "picks") {
       PuntoMalo();
+    } else if (clave_ == "quantity") {
+      if (!EsNumero(texto, 1, kMaximaCantidad, trabajo_.cantidad)) {
+        Rechaza(clave_, "quantity must be a whole number from 1 to " + std::to_string(kMaximaCantidad));
+      }
+    } else if (clave_ == "thickness") {
+      if (!EsNumero(texto, kMinimoEspesor, kMaximoEspesor, trabajo_.espesor)) {
+        Rechaza(clave_, "thickness must be a number above 0, at most 1000");
+      }
     } else if (!trabajo_.rechazo) {
       trabajo_.valores.emplace_back(clave_, texto);
     }
@@ -259,6 +286,8 @@ bool Nombres::EsDeCorte(const std::string& nombre) const {
   return cola == "cut" || (de != std::string::npos && numero(cola.substr(0, de)) && numero(cola.substr(de + 2)));
 }
 
+std::string NombreChapa(std::size_t numero) { return std::string(kChapa) + std::to_string(numero); }
+
 void Nombres::Revisa(Trabajo& trabajo) const {
   const std::string nombre = SinCaja(trabajo.nombre);
   const auto esta = [](const Repetidos& nombres, const std::string& cual) {
@@ -276,6 +305,8 @@ void Nombres::Revisa(Trabajo& trabajo) const {
     motivo = "the cut files or bends of another job would have the same names";
   } else if (adjuntos_.cortes && EsDeCorte(nombre)) {
     motivo = "a cut file of another job has that name";
+  } else if (adjuntos_.chapas && EsDeChapa(nombre)) {
+    motivo = "a sheet may have that name";
   }
   if (motivo) trabajo.rechazo = {"name", std::string(motivo) + " (line " + std::to_string(trabajo.linea) + ")."};
 }

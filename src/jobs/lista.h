@@ -27,6 +27,8 @@ struct Trabajo {
   std::string nombre;      ///< of the drawing; "#3" where the third job has none that will do
   std::string pieza;
   std::vector<std::pair<std::string, std::string>> valores;  ///< key and text of every other key
+  int cantidad = 1;                           ///< how many of the piece are wanted, where sheets are laid
+  std::optional<double> espesor;              ///< stands for the configuration's
   std::optional<std::vector<Punto2>> puntos;  ///< answers to the picks; none: the program places the shapes
   std::optional<Rechazo> rechazo;             ///< what is wrong with the job as it stands in the list
 };
@@ -52,6 +54,7 @@ struct Adjuntos {
   bool solidos = false;   ///< pictures of the solids
   bool cortes = false;    ///< cut files
   bool dobleces = false;  ///< lists of bends
+  bool chapas = false;    ///< sheets
 };
 
 /// The names of a list. Nobody can tell which of two pieces the drawing of one name should be, and many disks don't
@@ -73,6 +76,9 @@ class Nombres {
 
 /// Behind the name of a job it makes that of the picture of its solid.
 inline constexpr std::string_view kSufijoSolido = "-3d";
+
+/// The name of a sheet's files, by its number from 1.
+std::string NombreChapa(std::size_t numero);
 
 /// A whole list that is in memory.
 std::vector<Trabajo> LeeLista(std::string_view json, Adjuntos adjuntos = {});

@@ -50,6 +50,8 @@ void PonTrabajo(std::vector<Trabajo>& trabajos, Trabajo trabajo) {
   if (suyo == trabajos.end()) {
     trabajos.push_back(std::move(trabajo));
   } else {
+    trabajo.cantidad = suyo->cantidad;
+    trabajo.espesor = suyo->espesor;
     *suyo = std::move(trabajo);
   }
 }

@@ -21,7 +21,8 @@ LecturaPiezas LeePiezas(const std::string& ruta);
 /// The same of a text.
 LecturaPiezas LeePiezasDe(std::string_view json);
 
-/// The list with the job behind it, or in the place of the one of its name.
+/// The list with the job behind it, or in the place of the one of its name, whose quantity and thickness it takes over:
+/// no dialog has fields for them.
 void PonTrabajo(std::vector<Trabajo>& trabajos, Trabajo trabajo);
 
 }  // namespace duktores

@@ -128,4 +128,15 @@ inline constexpr int kGuardadoEn = 334;  ///< the path of a saved drawing follow
 
 inline constexpr int kManual = 370, kSinManual = 371, kIndice = 372, kAtras = 373;  // the manual's window
 
+// Sheets: the window, its fields and buttons, figures (in which %1 and so on are numbers), what lies on none and why,
+// why one isn't written.
+inline constexpr int kChapas = 380, kAnchoChapa = 381, kAltoChapa = 382, kCantidad = 383, kSinLimite = 384;
+inline constexpr int kSeparacion = 385, kMargen = 386, kGiro = 387, kGiroCada = 388, kSegundos = 389;
+inline constexpr int kDistribuye = 390, kPara = 391;
+inline constexpr int kUnaChapa = 392, kResto = 393, kResumenChapas = 394, kDesarrollando = 395;
+inline constexpr int kSinColocar = 396, kSinAreaOLarga = 397, kMayorQueChapas = 398, kSinChapaDeEspesor = 399;
+inline constexpr int kNoQuedanChapas = 400, kParadoAntes = 401;
+inline constexpr int kFueraDelMargen = 402, kDemasiadoCerca = 403, kUnaEnOtra = 404, kGiroProhibido = 405;
+inline constexpr int kNoCuadran = 406, kNoSeEscribe = 407, kUnaChapaAlMenos = 408, kSinGiro = 409;
+
 }  // namespace duktores::texto

@@ -17,12 +17,6 @@ bool Milimetros() { return estado.iUnidad == 1; }
 
 double Milimetro() { return Milimetros() ? 1 : kPulgadaPorMilimetro; }
 
-bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) {
-  constexpr std::size_t kTriangulo = 3;
-  if (cuales == Cuales::todas) return recorte.contorno.size() >= kTriangulo;
-  return veredicto.Cierto() && !recorte.falta;
-}
-
 // One beside the other.
 void PonAlLado(std::vector<ParteCorte>& partes) {
   constexpr double kHueco = 10;
@@ -34,6 +28,12 @@ void PonAlLado(std::vector<ParteCorte>& partes) {
 }
 
 }  // namespace
+
+bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales) {
+  constexpr std::size_t kTriangulo = 3;
+  if (cuales == Cuales::todas) return recorte.contorno.size() >= kTriangulo;
+  return veredicto.Cierto() && !recorte.falta;
+}
 
 Cortes CortesDe(const std::string& nombre, const Solido& solido, const Patron& patron) {
   const Maquina& maquina = estado.maquina;

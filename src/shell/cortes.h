@@ -27,6 +27,7 @@ std::string TextoSinCorte(const Cortes& cortes, const Veredicto& veredicto);
 
 /// Which parts are cut: those that are sound of a pattern that is true, or all that have an outline.
 enum class Cuales { sanas, todas };
+bool SeCorta(const Recorte& recorte, const Veredicto& veredicto, Cuales cuales);
 /// Takes the files from all other parts.
 void Deja(Cortes& cortes, const Veredicto& veredicto, Cuales cuales);
 

@@ -106,7 +106,8 @@ std::optional<std::vector<Trabajo>> ListaPara(QWidget& sobre, const std::string&
 std::optional<PiezaAbierta> AbrePieza(QWidget& sobre, const std::string& ruta) {
   LecturaPiezas lectura = LeePiezas(ruta);
   if (lectura.motivo != 0) return AvisaLectura(ruta, lectura), std::nullopt;
-  const std::size_t n = lectura.trabajos.size() == 1 ? 0 : EligePieza(sobre, lectura.trabajos);
+  const bool sola = lectura.trabajos.size() == 1 && lectura.trabajos.front().cantidad == 1;
+  const std::size_t n = sola ? 0 : EligePieza(sobre, lectura.trabajos);
   if (n >= lectura.trabajos.size()) return std::nullopt;
   Trabajo& trabajo = lectura.trabajos[n];
   if (trabajo.rechazo) return Avisa(texto::kPiezaIlegible, ruta + " (" + trabajo.rechazo->texto + ")"), std::nullopt;

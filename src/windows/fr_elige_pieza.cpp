@@ -9,6 +9,7 @@
 #include "piece/numeros_texto.h"
 #include "shell/lista.h"
 #include "state/textos.h"
+#include "windows/fr_chapas.h"
 #include "windows/proporcion.h"
 
 namespace duktores {
@@ -43,6 +44,9 @@ class FrEligePieza : public QDialog {
     Boton(texto::kAceptar, "CmdAceptar", 2)->setDefault(true);
     connect(findChild<QPushButton*>("CmdAceptar"), &QPushButton::clicked, this, &QDialog::accept);
     connect(Boton(texto::kCancelar, "CmdCancelar", 1), &QPushButton::clicked, this, &QDialog::reject);
+    QPushButton* chapas = Boton(texto::kChapas, "CmdChapas", kALaIzquierda);
+    chapas->setAutoDefault(false);
+    connect(chapas, &QPushButton::clicked, this, [this, trabajos] { FrChapas(this, trabajos).exec(); });
   }
 
   /// -1 if none is.
@@ -61,6 +65,8 @@ class FrEligePieza : public QDialog {
     renglon->setText(nombre, Q(trabajo.nombre));
     renglon->setText(pieza, Q(fila ? Texto(fila->dialogo.textoTitulo) : EnUnaLinea(trabajo.pieza)));
     std::string textos;
+    if (trabajo.cantidad != 1) textos += "quantity " + std::to_string(trabajo.cantidad) + "   ";
+    if (trabajo.espesor) textos += "thickness " + TextoTecleado(*trabajo.espesor) + "   ";
     for (const auto& [clave, texto] : trabajo.valores) textos += clave + " " + texto + "   ";
     if (trabajo.rechazo) textos = trabajo.rechazo->texto;
     if (!fila && !trabajo.rechazo) textos = Texto(texto::kPiezaDesconocida) + " " + trabajo.pieza;
@@ -69,6 +75,7 @@ class FrEligePieza : public QDialog {
     if (!lista_->currentItem() && !renglon->isDisabled()) lista_->setCurrentItem(renglon);
   }
   /// One of those at the foot, counted from the right.
+  static constexpr int kALaIzquierda = 5;
   QPushButton* Boton(int texto, const char* objeto, int sitio) {
     auto* boton = new QPushButton(Q(Texto(texto)), this);
     boton->setObjectName(objeto);

@@ -62,6 +62,9 @@ constexpr std::array kDibujos{
     Dibujo{"CmdAbre",       "M3 19V5H9L11 8H19V11M3 19L7 11H22L18 19Z",          ""},
     Dibujo{"CmdGuardaPieza", "M6 3H14L18 7V21H6ZM14 3V7H18M12 10V17M9 14L12 17L15 14", ""},
     Dibujo{"CmdManual",     "M12 3A9 9 0 1 0 12 21A9 9 0 1 0 12 3M9 9.5A3 3 0 1 1 13 12.3Q12 12.8 12 14.2M12 16.9V17", ""},
+    Dibujo{"CmdChapas",     "M3 4H21V20H3ZM6 7H11V13H6ZM14 7H18V10H14ZM14 13L18 13V17H9V16Z", ""},
+    Dibujo{"CmdDistribuye", "M3 4H21V20H3ZM6 7H11V13H6ZM14 7H18V10H14ZM14 13L18 13V17H9V16Z", ""},
+    Dibujo{"CmdPara",       "M6 6H18V18H6Z",                                     "M6 6H18V18H6Z"},
     Dibujo{"CmdContinuar",  "M4 12H20M14 6L20 12L14 18",                         ""},
 };
 // clang-format on

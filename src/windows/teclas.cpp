@@ -53,6 +53,9 @@ constexpr std::array kTeclas{
     FilaTecla{texto::kVisor,    "",              "L",                         texto::kNombres},
     FilaTecla{texto::kVisor,    "",              "F1; F2; F3; F4; F5; F6; F7; F8; F9; F10; F11", texto::kVistasFijas},
     FilaTecla{texto::kVisor,    "",              "Esc",                       texto::kCierraVisor},
+    FilaTecla{texto::kChapas,   "",              "0; Home",                   texto::kZoomTodo},
+    FilaTecla{texto::kChapas,   "",              "+; -",                      texto::kZoom},
+    FilaTecla{texto::kChapas,   "",              "Left; Right; Up; Down",     texto::kMueve},
     FilaTecla{texto::kTodas,    "",              "Space; Return",             texto::kPulsaBoton},
     FilaTecla{texto::kTodas,    "ayuda",         "F12; ?",                    texto::kAyuda},
 };

@@ -64,8 +64,8 @@ TEST_F(Piezas, WhatIsNoListIsTold) {
 }
 
 TEST_F(Piezas, AJobOfTheSameNameIsReplaced) {
-  auto trabajos =
-      LeeLista(R"([{"name": "Ä", "piece": "x", "H": 1, "picks": [[1.5, -2e300]]}, {"name": "b", "piece": "x"}])");
+  auto trabajos = LeeLista(
+      R"([{"name": "Ä", "piece": "x", "quantity": 7, "thickness": 1e-5, "H": 1, "picks": [[1.5, -2e300]]}, {"name": "b", "piece": "x"}])");
   for (Trabajo& otro :
        LeeLista(R"([{"name": "ä", "piece": "y"}, {"name": "c", "piece": "z", "picks": [[0.1, 1e-7]]}])"))
     PonTrabajo(trabajos, otro);
@@ -73,6 +73,7 @@ TEST_F(Piezas, AJobOfTheSameNameIsReplaced) {
   ASSERT_EQ(otra.size(), 3U);
   EXPECT_EQ(otra[0].nombre + otra[0].pieza + otra[1].nombre + otra[2].pieza, "äybz");
   EXPECT_EQ(*otra[2].puntos, *trabajos[2].puntos);
+  EXPECT_TRUE(otra[0].cantidad == 7 && otra[0].espesor == 1e-5 && otra[1].cantidad == 1 && !otra[1].espesor);
 }
 
 TEST_F(Piezas, LastValuesAreThoseOfPieceAndUnit) {

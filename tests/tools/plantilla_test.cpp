@@ -20,6 +20,7 @@ TEST(Plantilla, TemplatesAreWhatTheirProgramMakes) {
   };
   exige(Plantilla::dibujo, "Template.dxf", {});
   exige(Plantilla::corte, "Cut.dxf", {"$INSUNITS", "$MEASUREMENT", "CUT", "BEND_UP", "BEND_DOWN", "MARK"});
+  exige(Plantilla::chapa, "Sheet.dxf", {"$INSUNITS", "$MEASUREMENT", "CUT", "BEND_UP", "BEND_DOWN", "MARK", "SHEET"});
 }
 
 }  // namespace

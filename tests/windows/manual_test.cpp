@@ -19,7 +19,7 @@ namespace {
 /// at the end may be left out, as the settings do.
 std::vector<QRegularExpression> Textos() {
   std::vector<QRegularExpression> textos;
-  for (int n = 0; n < 400; ++n) {
+  for (int n = 0; n < 500; ++n) {
     try {
       QString texto = QRegularExpression::escape(QString::fromStdString(Texto(n)));
       texto.replace(QRegularExpression(R"(\\%\d)"), ".+").replace(QRegularExpression(R"(\\:$)"), ":?");

@@ -99,7 +99,7 @@ class ConVentanas : public testing::Test {
     namespace fs = std::filesystem;
     const fs::path duct = Ruta("Duct"), raiz = DUKTORES_RAIZ;
     fs::create_directories(duct / "Template");
-    for (const char* nombre : {"Template.dxf", "Cut.dxf"}) {
+    for (const char* nombre : {"Template.dxf", "Cut.dxf", "Sheet.dxf"}) {
       fs::copy_file(raiz / "Template" / nombre, duct / "Template" / nombre);
     }
     fs::create_directory_symlink(raiz / "Images", duct / "Images");

@@ -1,0 +1,96 @@
+#include "jobs/chapas.h"
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <new>
+
+#include "jobs/aceptacion.h"
+#include "paint/pintura.h"
+#include "piece/numeros_texto.h"
+#include "shell/corrida.h"
+#include "shell/juicio.h"
+#include "shell/lista.h"
+#include "shell/texto_veredicto.h"
+#include "state/estado.h"
+#include "state/textos.h"
+
+namespace duktores {
+
+namespace {
+
+struct ConPlataforma {
+  explicit ConPlataforma(Plataforma& plataforma) { estado.plataforma = &plataforma; }
+  ~ConPlataforma() { estado.plataforma = nullptr; }
+  ConPlataforma(const ConPlataforma&) = delete;
+  ConPlataforma& operator=(const ConPlataforma&) = delete;
+};
+
+PartesTrabajo Desarrolladas(const Trabajo& trabajo) {
+  const FilaPieza* fila = FilaDeClave(trabajo.pieza);
+  if (!fila) return {{}, Texto(texto::kPiezaDesconocida) + " " + trabajo.pieza};
+  PlataformaCallada plataforma;
+  const ConPlataforma suya(plataforma);
+  if (trabajo.espesor) estado.dEspesor = *trabajo.espesor;
+  Dialogo dialogo(fila->dialogo);
+  const auto rechazo = LlenaYAcepta(dialogo, trabajo, plataforma);
+  if (rechazo) return {{}, rechazo->clave + ": " + rechazo->texto};
+  const Solido solido = SolidoDe(*estado.pieza);
+  const Patron patron = DesarrolloDe(*estado.pieza, solido).patron;
+  const Veredicto veredicto = Juzga(*estado.pieza, solido, patron);
+  const Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
+  return {PartesDe(trabajo, cortes, veredicto, Cuales::sanas), TextoSinCorte(cortes, veredicto)};
+}
+
+Guardado Guarda(const std::vector<ParteCorte>& partes, Punto2 tamano, const std::string& base, std::string& ruta) {
+  const bool milimetros = estado.iUnidad == 1;
+  ruta = base + ".dxf";
+  if (Guardado dxf = GuardaCorte(ruta, partes, estado.maquina, milimetros, tamano); !dxf) return dxf;
+  EWdraw axew;
+  DibujaChapa(axew, partes, tamano);
+  ruta = base + Sufijo(Formato::png);
+  return GuardaImagen(axew, ruta, Formato::png, milimetros ? Escala::milimetros : Escala::pulgadas);
+}
+
+}  // namespace
+
+std::vector<ParteChapa> PartesDe(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
+                                 Cuales cuales) {
+  std::vector<ParteChapa> partes;
+  for (const ParteCorte& parte : cortes.partes) {
+    if (!SeCorta(parte.recorte, veredicto, cuales)) continue;
+    partes.push_back({trabajo.nombre, TextoForma(parte.recorte.forma), parte, trabajo.cantidad, estado.dEspesor});
+  }
+  return partes;
+}
+
+PartesTrabajo PartesDe(const Trabajo& trabajo) {
+  PartesTrabajo suyas;
+  try {
+    suyas = trabajo.rechazo ? PartesTrabajo{{}, trabajo.rechazo->texto} : Desarrolladas(trabajo);
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception&) {
+    suyas.falta = Texto(texto::kIncompleto);
+  }
+  suyas.falta = EnUnaLinea(suyas.falta);
+  return suyas;
+}
+
+ChapaEscrita EscribeChapa(const Lote& lote, const Nido& nido, std::size_t chapa, const std::vector<FallaNido>& fallas,
+                          const std::string& carpeta, const std::string& nombre) {
+  const ChapaPuesta& puesta = nido.chapas[chapa];
+  ChapaEscrita escrita{FilaDe(lote, puesta, nombre + ".dxf"), ""};
+  const auto falla = std::ranges::find(fallas, chapa, &FallaNido::chapa);
+  if (falla != fallas.end()) {
+    escrita.motivo = TextoFalta(falla->falta);
+    return escrita;
+  }
+  std::string ruta;
+  const Guardado guardado =
+      Guarda(PartesEn(lote, puesta), escrita.fila.tamano, std::filesystem::path(carpeta) / nombre, ruta);
+  if (!guardado) escrita.motivo = TextoNoGuardado(ruta, guardado);
+  return escrita;
+}
+
+}  // namespace duktores

@@ -1,0 +1,280 @@
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <exception>
+#include <mutex>
+#include <random>
+#include <system_error>
+#include <thread>
+
+#include "nest/revisa.h"
+#include "nest/tanda.h"
+
+namespace duktores {
+
+namespace {
+
+using Reloj = std::chrono::steady_clock;
+constexpr double kInfinito = 1e300;
+
+// The library's distributions give other numbers with another library.
+class Azar {
+ public:
+  explicit Azar(std::uint64_t semilla) : motor_(semilla) {}
+  std::size_t Menor(std::size_t n) { return static_cast<std::size_t>(motor_() % n); }
+  double Parte() { return static_cast<double>(motor_() >> 11) * 0x1p-53; }
+
+ private:
+  std::mt19937_64 motor_;
+};
+
+enum class Orden : std::uint8_t { area, largo, caja };
+constexpr int kOrdenes = 3;
+constexpr double kAltos[] = {0.05, 0.5, 0.01, 2};
+
+/// The best layout of all starts. Of two that cost the same it is that of the earlier start.
+class Mejor {
+ public:
+  Mejor(const EncargoNido& encargo, const VigiaNido& vigia) : encargo_(encargo), vigia_(vigia) {}
+  /// False if the layout isn't sound. Such a one is taken only where there is no other.
+  bool Ofrece(const Tanda& tanda, double coste, std::size_t salida) {
+    Nido nido = tanda.Resultado();
+    const bool sano = RevisaChapas(encargo_, nido).empty();
+    if (!sano) coste = kInfinito;
+    const std::lock_guard guarda(cerrojo_);
+    if (nido_ && (coste > coste_ || (coste == coste_ && salida >= salida_))) return sano;
+    coste_ = coste;
+    salida_ = salida;
+    nido_ = std::move(nido);
+    vigia_.mejora(*nido_);
+    return sano;
+  }
+  Nido Toma() { return nido_ ? std::move(*nido_) : Nido{}; }
+
+ private:
+  const EncargoNido& encargo_;
+  const VigiaNido& vigia_;
+  std::mutex cerrojo_;
+  std::optional<Nido> nido_;
+  double coste_ = 0;
+  std::size_t salida_ = 0;
+};
+
+class Salida {
+ public:
+  Salida(const EncargoNido& encargo, Moldes& moldes, const std::vector<std::size_t>& partes,
+         const EsfuerzoNido& esfuerzo, std::size_t numero)
+      : moldes_(moldes),
+        tanteo_(moldes),
+        azar_(esfuerzo.semilla * 1000003 + numero),
+        numero_(numero),
+        actual_(encargo, moldes) {
+    for (const std::size_t parte : partes) actual_.turnos.push_back({parte});
+  }
+
+  /// The first layout is whole, unless the watcher stops it.
+  void Trabaja(const EsfuerzoNido& esfuerzo, Reloj::time_point hasta, const VigiaNido& vigia, Mejor& mejor) {
+    Ordena(actual_, numero_);
+    const bool entera = actual_.Coloca(tanteo_, 0, kInfinito, vigia.sigue);
+    coste_ = optimo_ = entera ? actual_.Coste() : kInfinito;
+    if (!mejor.Ofrece(actual_, coste_, numero_)) coste_ = optimo_ = kInfinito;
+    if (actual_.turnos.size() < 2) return;
+    Tanda sana = actual_;
+    tardes_.assign(kTardes, coste_);
+    const auto sigue = [&] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < hasta); };
+    for (int vuelta = 0; (!esfuerzo.vueltas || vuelta < *esfuerzo.vueltas) && sigue(); ++vuelta) {
+      if (!Vuelta(vuelta, sigue) || coste_ >= optimo_) continue;
+      if (mejor.Ofrece(actual_, coste_, numero_)) {
+        optimo_ = coste_;
+        sana = actual_;
+      } else if (optimo_ < kInfinito) {
+        actual_ = sana;
+        coste_ = optimo_;
+      } else {
+        coste_ = kInfinito;
+      }
+    }
+  }
+
+ private:
+  static constexpr std::size_t kTardes = 10;
+
+  // The ways to begin: other orders, and other tastes.
+  void Ordena(Tanda& tanda, std::size_t manera) {
+    const auto orden = static_cast<Orden>(manera % kOrdenes);
+    tanda.gusto.alto = kAltos[(manera / kOrdenes + manera) % std::size(kAltos)];
+    const auto talla = [&](const Turno& t) {
+      const Extremos& caja = moldes_.ExtremosEn(t.parte, 0);
+      if (orden == Orden::largo) return std::max(caja.Ancho(), caja.Alto());
+      return orden == Orden::caja ? caja.Ancho() * caja.Alto() : moldes_.Area(t.parte);
+    };
+    std::ranges::stable_sort(tanda.turnos, std::ranges::greater{}, talla);
+  }
+
+  // Accepts what is no worse than now, or than some rounds ago.
+  bool Vuelta(int vuelta, const std::function<bool()>& sigue) {
+    constexpr int kManeras = 6;
+    Tanda prueba = actual_;
+    std::size_t desde = 0;
+    if (vuelta < kManeras) {
+      Ordena(prueba, numero_ + 1 + static_cast<std::size_t>(vuelta));
+    } else {
+      desde = Cambia(prueba);
+    }
+    double& tarde = tardes_[static_cast<std::size_t>(vuelta) % kTardes];
+    const double tope = std::max(coste_, tarde);
+    const bool vale = prueba.Coloca(tanteo_, desde, tope, sigue);
+    if (vale) {
+      actual_ = std::move(prueba);
+      coste_ = actual_.Coste();
+    }
+    tarde = coste_;
+    return vale;
+  }
+
+  // Each gives the first place of the order that is another now.
+  std::size_t Cambia(Tanda& tanda) {
+    if (tanda.Hojas().size() > 2 && azar_.Parte() < 0.7) return Redistribuye(tanda);
+    const double suerte = azar_.Parte();
+    if (suerte < 0.4) return Intercambia(tanda);
+    if (suerte < 0.6) return Traslada(tanda);
+    if (suerte < 0.7 && moldes_.Giros().size() > 1) return Gira(tanda);
+    return Arruina(tanda);
+  }
+  // Clears some sheets, most often the emptiest one with them, and lays their parts anew, the larger ones first.
+  std::size_t Redistribuye(Tanda& tanda) {
+    const auto& hojas = tanda.Hojas();
+    const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
+    std::vector<std::size_t> cuales;
+    if (azar_.Parte() < 0.8) cuales.push_back(static_cast<std::size_t>(floja - hojas.begin()));
+    for (std::size_t i = 1 + azar_.Menor(2); i > 0; --i) cuales.push_back(azar_.Menor(hojas.size()));
+    const std::size_t desde = tanda.Aparta(cuales);
+    const double ruido = azar_.Parte();
+    std::vector<std::pair<double, Turno>> sueltos;
+    for (std::size_t i = desde; i < tanda.turnos.size(); ++i) {
+      sueltos.emplace_back(moldes_.Area(tanda.turnos[i].parte) * (1 + 2 * ruido * azar_.Parte()), tanda.turnos[i]);
+    }
+    std::ranges::stable_sort(sueltos, std::ranges::greater{}, [](const auto& s) { return s.first; });
+    for (std::size_t i = 0; i < sueltos.size(); ++i) tanda.turnos[desde + i] = sueltos[i].second;
+    return desde;
+  }
+  std::size_t Intercambia(Tanda& tanda) {
+    auto& turnos = tanda.turnos;
+    const std::size_t i = azar_.Menor(turnos.size());
+    std::size_t j = i;
+    for (int intento = 0; intento < 8 && turnos[i].parte == turnos[j].parte; ++intento) j = azar_.Menor(turnos.size());
+    std::swap(turnos[i], turnos[j]);
+    return std::min(i, j);
+  }
+  std::size_t Traslada(Tanda& tanda) {
+    auto& turnos = tanda.turnos;
+    const std::size_t i = azar_.Menor(turnos.size()), j = azar_.Menor(turnos.size());
+    const Turno turno = turnos[i];
+    turnos.erase(turnos.begin() + static_cast<std::ptrdiff_t>(i));
+    turnos.insert(turnos.begin() + static_cast<std::ptrdiff_t>(j), turno);
+    return std::min(i, j);
+  }
+  std::size_t Gira(Tanda& tanda) {
+    const std::size_t i = azar_.Menor(tanda.turnos.size());
+    auto& giro = tanda.turnos[i].giro;
+    giro = giro ? std::nullopt : std::optional(azar_.Menor(moldes_.Giros().size()));
+    return i;
+  }
+  // Takes neighbours from a sheet, and some of the emptiest one, and lays them first, the larger ones before.
+  std::size_t Arruina(Tanda& tanda) {
+    const auto& hojas = tanda.Hojas();
+    if (hojas.empty()) return Intercambia(tanda);
+    std::vector<std::size_t> fuera;
+    const Tanda::Hoja& hoja = hojas[azar_.Menor(hojas.size())];
+    const Punto2 centro = hoja.puestas[azar_.Menor(hoja.puestas.size())].sitio;
+    std::vector<std::pair<double, std::size_t>> cerca;
+    for (std::size_t i = 0; i < hoja.puestas.size(); ++i) {
+      cerca.emplace_back(Distancia(hoja.puestas[i].sitio, centro), hoja.turnos[i]);
+    }
+    std::ranges::sort(cerca);
+    const std::size_t cuantos = std::min(cerca.size(), 2 + azar_.Menor(5));
+    for (std::size_t i = 0; i < cuantos; ++i) fuera.push_back(cerca[i].second);
+    const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
+    for (std::size_t i = azar_.Menor(4); i > 0; --i) fuera.push_back(floja->turnos[azar_.Menor(floja->turnos.size())]);
+    std::ranges::sort(fuera);
+    fuera.erase(std::unique(fuera.begin(), fuera.end()), fuera.end());
+
+    auto& turnos = tanda.turnos;
+    std::vector<std::pair<double, Turno>> sueltos;
+    for (const std::size_t i : fuera) {
+      sueltos.emplace_back(moldes_.Area(turnos[i].parte) * (1 + azar_.Parte()), Turno{turnos[i].parte});
+    }
+    for (auto i = fuera.rbegin(); i != fuera.rend(); ++i)
+      turnos.erase(turnos.begin() + static_cast<std::ptrdiff_t>(*i));
+    std::ranges::stable_sort(sueltos, std::ranges::greater{}, [](const auto& s) { return s.first; });
+    const auto sitio = turnos.begin() + static_cast<std::ptrdiff_t>(fuera.front());
+    std::vector<Turno> nuevos;
+    for (const auto& [talla, turno] : sueltos) nuevos.push_back(turno);
+    turnos.insert(sitio, nuevos.begin(), nuevos.end());
+    return fuera.front();
+  }
+
+  Moldes& moldes_;
+  Tanteo tanteo_;
+  Azar azar_;
+  std::size_t numero_;
+  Tanda actual_;
+  double coste_ = 0, optimo_ = 0;
+  std::vector<double> tardes_;
+};
+
+// The same work on so many threads, or on as many as the system gives. What one of them throws comes out here.
+void EnHilos(std::size_t cuantos, const std::function<void()>& trabajo) {
+  std::mutex cerrojo;
+  std::exception_ptr fallo;
+  const auto obrero = [&] {
+    try {
+      trabajo();
+    } catch (...) {
+      const std::lock_guard guarda(cerrojo);
+      fallo = std::current_exception();
+    }
+  };
+  if (cuantos == 0) return;
+  {
+    std::vector<std::jthread> otros;
+    try {
+      while (otros.size() + 1 < cuantos) otros.emplace_back(obrero);
+    } catch (const std::system_error&) {
+    }
+    obrero();
+  }
+  if (fallo) std::rethrow_exception(fallo);
+}
+
+}  // namespace
+
+Nido Anida(const EncargoNido& encargo, const EsfuerzoNido& esfuerzo, const VigiaNido& vigia) {
+  constexpr std::size_t kSalidas = 4;
+  const auto hasta =
+      Reloj::now() + std::chrono::duration_cast<Reloj::duration>(std::chrono::duration<double>(esfuerzo.segundos));
+  Moldes moldes(encargo);
+  const Tanda tanda(encargo, moldes);
+  std::vector<std::size_t> partes;
+  std::vector<NoPuesta> faltan;
+  for (std::size_t i = 0; i < encargo.partes.size(); ++i) {
+    const int cantidad = encargo.partes[i].cantidad;
+    if (cantidad <= 0) continue;
+    const bool cabe = moldes.Sirve(i) && tanda.CabeEnAlguna(i);
+    if (!cabe) faltan.push_back({i, cantidad, moldes.Sirve(i) ? FaltaNido::noCabe : FaltaNido::sinArea});
+    if (cabe) partes.insert(partes.end(), static_cast<std::size_t>(cantidad), i);
+  }
+  Mejor mejor(encargo, vigia);
+  const std::size_t hilos = std::max(1U, esfuerzo.hilos), salidas = esfuerzo.vueltas ? kSalidas : hilos;
+  std::atomic<std::size_t> siguiente = 0;
+  EnHilos(partes.empty() ? 0 : std::min(hilos, salidas), [&] {
+    for (std::size_t i = siguiente++; i < salidas; i = siguiente++) {
+      Salida(encargo, moldes, partes, esfuerzo, i).Trabaja(esfuerzo, hasta, vigia, mejor);
+    }
+  });
+  Nido nido = mejor.Toma();
+  nido.faltan.insert(nido.faltan.begin(), faltan.begin(), faltan.end());
+  return nido;
+}
+
+}  // namespace duktores

@@ -1,0 +1,176 @@
+#include "nest/no_cabe.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <span>
+
+#include "geometry/planas.h"
+
+namespace duktores {
+
+namespace {
+
+using ClipperLib::cInt;
+using ClipperLib::IntPoint;
+using ClipperLib::Path;
+using ClipperLib::Paths;
+
+constexpr double kRendija = 1e4;  // square units
+constexpr double kRoto = 3;       // units: as wide as slits may be
+constexpr double kHolgura = 2;    // units: so deep a place may lie inside
+
+// Exact: coordinates have less than 29 bits.
+cInt Vuelta(IntPoint a, IntPoint b) { return a.X * b.Y - a.Y * b.X; }
+IntPoint Resta(IntPoint a, IntPoint b) { return {a.X - b.X, a.Y - b.Y}; }
+IntPoint Suma(IntPoint a, IntPoint b) { return {a.X + b.X, a.Y + b.Y}; }
+
+/// The convolution of two outlines that run counter-clockwise: each edge of one at those vertices of the other where
+/// that turns past its direction, backwards where it turns to the right. Its edges make closed paths, which wind round
+/// just those points that are a sum of one of each inside.
+class Convolucion {
+ public:
+  Convolucion(const Path& a, const Path& b) {
+    Barre(a, b, true);
+    Barre(b, a, false);
+  }
+
+  /// None where roundings have made a corner a spike, so that paths don't close.
+  std::optional<Paths> Caminos() {
+    std::ranges::sort(pasos_, [](const Paso& p, const Paso& q) { return Antes(p.desde, q.desde); });
+    std::vector<std::size_t> usados(pasos_.size());  // at the first of those that leave a point: how many are used
+    Paths caminos;
+    for (std::size_t i = 0; i < pasos_.size(); ++i) {
+      const std::size_t suyo = Primero(pasos_[i].desde);
+      while (suyo + usados[suyo] <= i) {
+        Path& camino = caminos.emplace_back();
+        IntPoint donde = pasos_[i].desde;
+        do {
+          camino.push_back(donde);
+          const std::size_t primero = Primero(donde);
+          const bool sigue = primero < pasos_.size() && primero + usados[primero] < pasos_.size() &&
+                             pasos_[primero + usados[primero]].desde == donde;
+          if (!sigue) return std::nullopt;
+          donde = pasos_[primero + usados[primero]++].hasta;
+        } while (donde != pasos_[i].desde);
+      }
+    }
+    return caminos;
+  }
+
+ private:
+  struct Paso {
+    IntPoint desde, hasta;
+  };
+  static bool Antes(IntPoint p, IntPoint q) { return p.X != q.X ? p.X < q.X : p.Y < q.Y; }
+
+  std::size_t Primero(IntPoint p) const {
+    const auto i = std::ranges::lower_bound(pasos_, p, Antes, &Paso::desde);
+    return static_cast<std::size_t>(i - pasos_.begin());
+  }
+
+  // Of equal directions that of the second outline counts as the one further round.
+  void Barre(const Path& esquinas, const Path& cantos, bool primera) {
+    const std::size_t n = esquinas.size(), m = cantos.size();
+    for (std::size_t i = 0; i < n; ++i) {
+      const IntPoint p = esquinas[i], llega = Resta(p, esquinas[(i + n - 1) % n]),
+                     sale = Resta(esquinas[(i + 1) % n], p);
+      const bool derecha = Vuelta(llega, sale) < 0;
+      const IntPoint desde = derecha ? sale : llega, hasta = derecha ? llega : sale;
+      if (Vuelta(desde, hasta) == 0) continue;
+      for (std::size_t j = 0; j < m; ++j) {
+        const IntPoint q = cantos[j], r = cantos[(j + 1) % m], canto = Resta(r, q);
+        const cInt tras = Vuelta(desde, canto), ante = Vuelta(canto, hasta);
+        if (primera ? tras < 0 || ante <= 0 : tras <= 0 || ante < 0) continue;
+        pasos_.push_back(derecha ? Paso{Suma(p, r), Suma(p, q)} : Paso{Suma(p, q), Suma(p, r)});
+      }
+    }
+  }
+
+  std::vector<Paso> pasos_;
+};
+
+// The same, slower: one outline along the other, and where one lies within the other.
+Paths Barrido(const Path& a, const Path& b) {
+  const auto movido = [](const Path& que, IntPoint cuanto) {
+    Path salida;
+    for (const IntPoint p : que) salida.push_back(Suma(p, cuanto));
+    return salida;
+  };
+  Paths barrido;
+  ClipperLib::MinkowskiSum(a, b, barrido, true);
+  barrido.push_back(movido(a, b[0]));
+  barrido.push_back(movido(b, a[0]));
+  return barrido;
+}
+
+}  // namespace
+
+NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados) {
+  ClipperLib::Clipper union_;
+  const Path vuelta = Girado(movida.contorno, grados + 180);
+  const auto caminos = Convolucion(fija.contorno, vuelta).Caminos();
+  union_.AddPaths(caminos ? *caminos : Barrido(fija.contorno, vuelta), ClipperLib::ptSubject, true);
+  Paths anillos;
+  union_.Execute(ClipperLib::ctUnion, anillos, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
+  // Nearly parallel edges leave slits that go far inside, and are no room.
+  ClipperLib::CleanPolygons(anillos, kRoto);
+  std::vector<NoCabe::Canto> cantos;
+  for (const Path& anillo : anillos) {
+    // Where roundings leave a gap between two pieces there is none.
+    if (std::abs(ClipperLib::Area(anillo)) < kRendija) continue;
+    const auto en = [&](std::size_t i) {
+      return Punto2{static_cast<double>(anillo[i].X), static_cast<double>(anillo[i].Y)};
+    };
+    for (std::size_t i = 0; i < anillo.size(); ++i) cantos.push_back({en(i), en((i + 1) % anillo.size())});
+  }
+  return NoCabe(std::move(cantos));
+}
+
+NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
+  constexpr std::size_t kPorFranja = 2, kFranjas = 64;
+  for (const Canto& canto : cantos_) caja_.Incluye(canto.p);
+  if (cantos_.empty()) return;
+  const std::size_t franjas = std::clamp<std::size_t>(cantos_.size() / kPorFranja, 1, kFranjas);
+  alto_ = std::max(1.0, caja_.Alto() / static_cast<double>(franjas));
+  for (std::size_t i = 0; i < franjas; ++i) {
+    inicios_.push_back(porFranja_.size());
+    const double abajo = caja_.desde.y + static_cast<double>(i) * alto_ - kHolgura,
+                 arriba = abajo + alto_ + 2 * kHolgura;
+    for (const Canto& c : cantos_) {
+      if (std::max(c.p.y, c.q.y) >= abajo && std::min(c.p.y, c.q.y) <= arriba) porFranja_.push_back(c);
+    }
+  }
+  inicios_.push_back(porFranja_.size());
+}
+
+bool NoCabe::Tapa(Punto2 p) const {
+  if (p.x < caja_.desde.x || p.x > caja_.hasta.x || p.y < caja_.desde.y || p.y > caja_.hasta.y) return false;
+  const auto franja = std::min(inicios_.size() - 2, static_cast<std::size_t>((p.y - caja_.desde.y) / alto_));
+  const std::span suyos(porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
+                        porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1]));
+  bool dentro = false;
+  for (const auto& [a, b] : suyos) {
+    if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x)) dentro = !dentro;
+  }
+  return dentro && std::ranges::none_of(suyos, [&](const Canto& c) {
+           return p.x >= std::min(c.p.x, c.q.x) - kHolgura && p.x <= std::max(c.p.x, c.q.x) + kHolgura &&
+                  DistanciaASegmento(p, c.p, c.q) < kHolgura;
+         });
+}
+
+std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {
+  constexpr std::size_t kMaximo = 8192;  // on a shelf
+  const std::uint64_t clave = ((static_cast<std::uint64_t>(fija) << 28) + movida) * 512 + pasos;
+  Estante& estante = estantes_[(clave * 0x9E3779B97F4A7C15U) >> 58];
+  {
+    const std::lock_guard guarda(estante.cerrojo);
+    if (const auto esta = estante.guardados.find(clave); esta != estante.guardados.end()) return esta->second;
+  }
+  auto nuevo = std::make_shared<const NoCabe>(NoCabeDe(siluetas_[fija], siluetas_[movida], grados));
+  const std::lock_guard guarda(estante.cerrojo);
+  if (estante.guardados.size() < kMaximo) estante.guardados.emplace(clave, nuevo);
+  return nuevo;
+}
+
+}  // namespace duktores

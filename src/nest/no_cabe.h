@@ -1,0 +1,54 @@
+#pragma once
+// No-fit polygons: where the origin of one outline may not lie while another one lies at the origin.
+
+#include <array>
+#include <memory>
+#include <mutex>
+#include <unordered_map>
+#include <vector>
+
+#include "nest/silueta.h"
+
+namespace duktores {
+
+/// Bounded by the edges of some rings; a point is inside if it lies within an odd number of them.
+class NoCabe {
+ public:
+  struct Canto {
+    Punto2 p, q;
+  };
+  explicit NoCabe(std::vector<Canto> cantos);
+
+  const std::vector<Canto>& Cantos() const { return cantos_; }
+  /// Whether the point lies inside, deeper than what corners are rounded by.
+  bool Tapa(Punto2 p) const;
+
+ private:
+  std::vector<Canto> cantos_;
+  Extremos caja_;
+  // The edges once more, those of each of some level strips together.
+  double alto_ = 0;
+  std::vector<std::size_t> inicios_;
+  std::vector<Canto> porFranja_;
+};
+
+/// `movida` is turned before.
+NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados);
+
+/// Keeps what has been asked for. For all threads.
+class NoCaben {
+ public:
+  explicit NoCaben(const std::vector<Silueta>& siluetas) : siluetas_(siluetas) {}
+  /// `grados` is how much further the moved one is turned than the other, `pasos` the same in steps.
+  std::shared_ptr<const NoCabe> De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados);
+
+ private:
+  struct Estante {
+    std::mutex cerrojo;
+    std::unordered_map<std::uint64_t, std::shared_ptr<const NoCabe>> guardados;
+  };
+  const std::vector<Silueta>& siluetas_;
+  std::array<Estante, 64> estantes_;
+};
+
+}  // namespace duktores
