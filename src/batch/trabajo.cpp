@@ -98,7 +98,7 @@ class Salida {
     vista.EwViewDirection(1, -1, 1);
     return Imagenes(vista, Escala::ajustada, kSufijoSolido);
   }
-  bool Maquina(Cortes cortes, const Veredicto& veredicto) {
+  bool Corte(Cortes cortes, const Veredicto& veredicto) {
     if (opciones_.cortes || opciones_.chapas) {
       const std::string faltas = TextoSinCorte(cortes, veredicto);
       resultado_.sinCorte = !opciones_.fuerza && !faltas.empty();
@@ -149,7 +149,7 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   resultado.fichero = salida.Dxf();
   if (!salida.Solidos(solido) || !opciones.QuierePartes()) return;
   const Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
-  if (!salida.Maquina(cortes, veredicto)) return;
+  if (!salida.Corte(cortes, veredicto)) return;
   if (opciones.chapas) {
     resultado.partes = PartesDe(trabajo, cortes, veredicto, opciones.fuerza ? Cuales::todas : Cuales::sanas);
   }

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPrintDialog>
@@ -26,6 +25,7 @@
 #include "windows/guarda.h"
 #include "windows/iconos.h"
 #include "windows/proporcion.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
@@ -84,13 +84,15 @@ class Exportacion {
   /// Asks what has to be asked; false if the user would rather not.
   bool Pregunta(QWidget* padre) {
     const std::string faltas = elegidas_[kDeCorte] ? TextoSinCorte(cortes_, que_.veredicto) : "";
-    const bool todas = !faltas.empty() && Si(padre, Q(faltas) + "\n\n" + Q(Texto(texto::kCortarIgual)));
+    const bool todas = !faltas.empty() && Confirma(padre, Q(faltas) + "\n\n" + Q(Texto(texto::kCortarIgual)));
+    const Cortes todos = cortes_;
     Deja(cortes_, que_.veredicto, todas ? Cuales::todas : Cuales::sanas);
+    viejos_ = TextoViejos(todos, cortes_, carpeta_);
     QStringList estan;
     for (const std::string& nombre : Nombres()) {
       if (QFileInfo::exists(Q(Ruta(nombre)))) estan += Q(nombre);
     }
-    return estan.isEmpty() || Si(padre, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)));
+    return estan.isEmpty() || Confirma(padre, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)));
   }
 
   /// Writes until something can't be written, which the user is told. What was written, in one line.
@@ -120,20 +122,14 @@ class Exportacion {
       anade(nombre_ + Sufijo(formato),
             [&](const std::string& donde) { return GuardaImagen(que_.axew, donde, formato, escala); });
     }
-    if (escritos.empty()) return {};
-    QStringList nombres;
+    QStringList nombres, hecho;
     for (const std::string& fichero : escritos) nombres += Q(fichero);
-    return Q(Texto(texto::kEscrito)) + " " + Q(carpeta_) + ": " + nombres.join(", ");
+    if (!escritos.empty()) hecho += Q(Texto(texto::kEscrito)) + " " + Q(carpeta_) + ": " + nombres.join(", ");
+    if (!viejos_.empty()) hecho += Q(viejos_);
+    return hecho.join(". ");
   }
 
  private:
-  static bool Si(QWidget* padre, const QString& pregunta) {
-    QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
-    caja.setTextFormat(Qt::PlainText);  // names of files
-    caja.setText(pregunta);
-    caja.setDefaultButton(QMessageBox::No);
-    return caja.exec() == QMessageBox::Yes;
-  }
   std::string Ruta(const std::string& fichero) const { return std::filesystem::path(carpeta_) / fichero; }
   std::vector<std::string> Nombres() const {
     std::vector<std::string> nombres = Ficheros(cortes_);
@@ -145,7 +141,7 @@ class Exportacion {
   }
 
   const Exportable& que_;
-  std::string carpeta_, nombre_;
+  std::string carpeta_, nombre_, viejos_;
   std::vector<bool> elegidas_;
   Cortes cortes_;
 };

@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
@@ -22,6 +21,7 @@
 #include "windows/iconos.h"
 #include "windows/proporcion.h"
 #include "windows/teclas.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
@@ -37,13 +37,6 @@ QPushButton* Boton(int texto, const char* nombre) {
   PonBoton(*boton, nombre, {});
   boton->setAutoDefault(false);
   return boton;
-}
-
-bool Si(QWidget* padre, const QString& pregunta) {
-  QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
-  caja.setTextFormat(Qt::PlainText);
-  caja.setText(pregunta);
-  return caja.exec() == QMessageBox::Yes;
 }
 
 QString Resumen(const Reparto& reparto) {
@@ -239,7 +232,7 @@ void FrChapas::Exporta() {
   for (const std::string& nombre : EscrituraChapas::Ficheros(*reparto_)) {
     if (QFileInfo::exists(Q(std::filesystem::path(carpeta) / nombre))) estan += Q(nombre);
   }
-  if (!estan.isEmpty() && !Si(this, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)))) return;
+  if (!estan.isEmpty() && !Confirma(this, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)))) return;
   const HabitoCsv habito = estado.bComaDecimal ? kConComa : kConPunto;
   escritura_ = std::make_unique<EscrituraChapas>(*reparto_, carpeta, habito);
   Habilita();

@@ -3,7 +3,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
 
 #include "piece/numeros_texto.h"
 #include "shell/nombre_pieza.h"
@@ -12,6 +11,7 @@
 #include "state/propio.h"
 #include "state/textos.h"
 #include "windows/proporcion.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
@@ -33,11 +33,6 @@ void Propone(QFileDialog& dialogo) {
   if (auto* nombre = dialogo.findChild<QLineEdit*>("fileNameEdit")) nombre->selectAll();
 }
 
-bool Reemplaza(QWidget& padre, const QString& fichero) {
-  return QMessageBox::question(&padre, {}, Q(Texto(texto::kReemplazar)) + " " + fichero,
-                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
-}
-
 }  // namespace
 
 std::string CarpetaDeGuardado() {
@@ -57,7 +52,7 @@ std::string GuardaConNombre(QWidget& padre) {
     const QString elegido = dialogo.selectedFiles().value(0), final = Q(NombreDxf(elegido.toStdString()));
     // The dialog has asked about the name as it was typed.
     const bool otro = final != elegido && QFileInfo::exists(final);
-    if (otro && !Reemplaza(padre, final)) continue;
+    if (otro && !Confirma(&padre, Q(Texto(texto::kReemplazar)) + " " + final)) continue;
     if (!GuardaDibujo(final.toStdString())) return {};
     RecuerdaCarpeta(final.toStdString());
     return final.toStdString();

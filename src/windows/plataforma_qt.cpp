@@ -109,6 +109,14 @@ void PlataformaQt::HabilitaVentana(Ventana ventana, bool habilitada) {
   delete anterior;
 }
 
+bool Confirma(QWidget* padre, const QString& pregunta) {
+  QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(pregunta);
+  caja.setDefaultButton(QMessageBox::No);
+  return caja.exec() == QMessageBox::Yes;
+}
+
 void TraeAlFrente(QWidget& ventana) {
   ventana.raise();
   ventana.activateWindow();

@@ -2,6 +2,7 @@
 // What all windows of the program need.
 
 #include <QEvent>
+#include <QString>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,6 +24,9 @@ struct ConfiguracionLeida : QEvent {
 
 /// Brings a window in front of all others without keeping it there.
 void TraeAlFrente(QWidget& ventana);
+
+/// A question with yes and no; Enter says no. Names of files may stand in it.
+bool Confirma(QWidget* padre, const QString& pregunta);
 
 /// Enables the host's window and ends the program. Waiting windows and picks end with it. False if a pattern that was
 /// placed by hand isn't saved and the user stays.
