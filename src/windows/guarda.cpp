@@ -53,7 +53,7 @@ std::string GuardaConNombre(QWidget& padre) {
     // The dialog has asked about the name as it was typed.
     const bool otro = final != elegido && QFileInfo::exists(final);
     if (otro && !Confirma(&padre, Q(Texto(texto::kReemplazar)) + " " + final)) continue;
-    if (!GuardaDibujo(final.toStdString())) return {};
+    if (!GuardaDibujo(final.toStdString())) continue;  // another name or folder may do
     RecuerdaCarpeta(final.toStdString());
     return final.toStdString();
   }
