@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <cstdlib>
@@ -51,13 +52,19 @@ std::uint32_t Propiedad(xcb_connection_t* x, xcb_window_t ventana, const char* n
   return numero;
 }
 
+/// A name may be longer than the screen is wide: it may be broken at a blank that has no width.
+QString Partible(QString texto) {
+  static const QRegularExpression larga("(\\S{60})(?=\\S)");
+  return texto.replace(larga, "\\1\u200b");
+}
+
 }  // namespace
 
 void PlataformaQt::CajaMensaje(std::string_view texto, EstiloMensaje estilo, std::string_view titulo) {
   const auto icono = estilo == EstiloMensaje::exclamacion ? QMessageBox::Warning : QMessageBox::Information;
   QMessageBox caja(icono, Q(titulo), {}, QMessageBox::Ok, Padre());
   caja.setTextFormat(Qt::PlainText);
-  caja.setText(Q(texto));
+  caja.setText(Partible(Q(texto)));
   caja.setInformativeText(Q(detalle_));
   caja.exec();
 }
@@ -112,7 +119,7 @@ void PlataformaQt::HabilitaVentana(Ventana ventana, bool habilitada) {
 bool Confirma(QWidget* padre, const QString& pregunta) {
   QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
   caja.setTextFormat(Qt::PlainText);
-  caja.setText(pregunta);
+  caja.setText(Partible(pregunta));
   caja.setDefaultButton(QMessageBox::No);
   return caja.exec() == QMessageBox::Yes;
 }
