@@ -10,6 +10,7 @@
 #include "shell/lista.h"
 #include "state/textos.h"
 #include "windows/proporcion.h"
+#include "windows/teclas.h"
 
 namespace duktores {
 
@@ -43,6 +44,7 @@ class FrEligePieza : public QDialog {
     Boton(texto::kAceptar, "CmdAceptar", 2)->setDefault(true);
     connect(findChild<QPushButton*>("CmdAceptar"), &QPushButton::clicked, this, &QDialog::accept);
     connect(Boton(texto::kCancelar, "CmdCancelar", 1), &QPushButton::clicked, this, &QDialog::reject);
+    PonAyuda(*this);
   }
 
   /// -1 if none is.
