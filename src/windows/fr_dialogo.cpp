@@ -148,11 +148,11 @@ void FrDialogo::Ajustes(int y) {
   ajustes->setCursor(Qt::PointingHandCursor);
   textos_.Pon([ajustes] {
     ajustes->setText(ResumenAjustes());
-    PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + " (Ctrl+,)");
+    PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + TextoTeclas("CmdAjustes"));
   });
   ConectaAjustes(*ajustes);
   auto* manual = new QPushButton(this);
-  textos_.Pon([manual] { PonBoton(*manual, "CmdManual", Q(Texto(texto::kManual))); });
+  textos_.Pon([manual] { PonBotonManual(*manual); });
   ConectaManual(*manual);
   const int x = 2 * kMargen + kAnchoImagen, fin = Diseno(dialogo_.Definicion()).width() - kMargen;
   proporcion_.Coloca(*ajustes, {x, y, fin - kAltoBoton - kMargen - x, kAltoAjustes - 4});
@@ -178,7 +178,9 @@ void FrDialogo::Pie(int y) {
     cancelar->setText(Q(Texto(texto::kCancelar)));
     PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
     PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
+    if (!chino) cancelar->setToolTip(cancelar->toolTip() + TextoTeclas("CmdCancelar"));
     if (!dialogo_.lblerror().empty()) lblerror_->setText(Q(Texto(dialogo_.Definicion().textoError)));
+    if (!lblerror_->toolTip().isEmpty()) lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
   });
   aceptar->setDefault(true);
   const int derecha = Diseno(dialogo_.Definicion()).width() - kMargen;
@@ -210,18 +212,18 @@ void FrDialogo::Barra(int y) {
     proporcion_.Coloca(boton, {x, y, ancho, kAltoBoton});
     x += ancho + kHueco;
   };
-  const auto boton = [&](std::string_view nombre, int texto, const QString& teclas, auto hace) {
+  const auto boton = [&](std::string_view nombre, int texto, auto hace) {
     auto* nuevo = new QPushButton(this);
     textos_.Pon([=] {
       nuevo->setText(Q(Texto(texto)));
-      PonBoton(*nuevo, nombre, nuevo->text() + teclas);
+      PonBoton(*nuevo, nombre, nuevo->text() + TextoTeclas(Q(nombre)));
     });
     nuevo->setAutoDefault(false);
     coloca(*nuevo);
     connect(nuevo, &QPushButton::clicked, this, hace);
     return nuevo;
   };
-  auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, " (Ctrl+L)", [this] {
+  auto* ultimos = boton("CmdUltimos", texto::kUltimosValores, [this] {
     if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
   });
   connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, ultimos, &QPushButton::click);
@@ -229,7 +231,7 @@ void FrDialogo::Barra(int y) {
   for (const DefCampo& campo : dialogo_.Definicion().campos) {
     if (campo.uso == Uso::desvio) ceros += Q(campo.palabra);
   }
-  auto* cero = boton("CmdCeros", texto::kCeros, {}, [this] {
+  auto* cero = boton("CmdCeros", texto::kCeros, [this] {
     Dialogo lleno = dialogo_;
     lleno.PonCeros();
     Pon(lleno);
@@ -239,7 +241,7 @@ void FrDialogo::Barra(int y) {
   textos_.Pon([abre] { abre->PonTexto(); });
   coloca(*abre);
   connect(abre, &BotonAbre::elegido, this, &FrDialogo::CmdAbre);
-  boton("CmdGuardaPieza", texto::kGuardaPieza, {}, [this] { GuardaPieza(*this, Pieza()); });
+  boton("CmdGuardaPieza", texto::kGuardaPieza, [this] { GuardaPieza(*this, Pieza()); });
 }
 
 void FrDialogo::Pon(const Dialogo& lleno) {

@@ -14,6 +14,7 @@
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/iconos.h"
 #include "windows/proporcion.h"
 #include "windows/teclas.h"
 #include "windows/ventanas.h"
@@ -156,6 +157,11 @@ void AbreManual(QWidget& padre) {
   }
   manual ? manual->PonIdioma() : (manual = new FrManual(padre))->show();
   TraeAlFrente(*manual);
+}
+
+void PonBotonManual(QPushButton& boton) {
+  PonBoton(boton, "CmdManual", Q(Texto(texto::kManual)));
+  boton.setToolTip(boton.toolTip() + " - " + Q(Texto(texto::kAyuda)) + TextoTeclas("ayuda"));
 }
 
 void ConectaManual(QPushButton& boton) {

@@ -12,6 +12,9 @@ namespace duktores {
 /// missing page is told.
 void AbreManual(QWidget& padre);
 
+/// Gives its button name, icon and tooltip, which names the page of the keys too.
+void PonBotonManual(QPushButton& boton);
+
 /// Makes a button open the manual over its window. The focus stays where it is.
 void ConectaManual(QPushButton& boton);
 
