@@ -52,12 +52,9 @@ TEST_F(Ajustes, WhatIsChangedIsInForceAtOnceAndNothingElseIsWritten) {
         {"BendColour", "2.5", "Bend colour: a whole number from 0 to 256"},
         {"NDivi", "18", "Divisions: a multiple of 4, from 4 to 908"},
         {"Path", "/no/such/folder", "Save folder: a folder that exists, or nothing"},
-        {"CutLayer", "MY LAYER/..",
-         "Layer of the cut: 1 to 31 letters (A-Z), digits, _ - $; not 0 alone, no two layers alike"},
-        {"BendUpLayer", "",
-         "Layer of the bends up: 1 to 31 letters (A-Z), digits, _ - $; not 0 alone, no two layers alike"},
-        {"MarkLayer", "bend_up",
-         "Layer of the marks: 1 to 31 letters (A-Z), digits, _ - $; not 0 alone, no two layers alike"}};
+        {"CutLayer", "MY LAYER/..", "Layer of the cut: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"},
+        {"BendUpLayer", "", "Layer of the bends up: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"},
+        {"MarkLayer", "bend_up", "Layer of the marks: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"}};
     for (const auto& [campo, mal, dice] : malos) {
       const QString antes = Hijo<QLineEdit>(ventana, campo).text();
       Teclea(ventana, campo, mal);
