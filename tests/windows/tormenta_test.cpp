@@ -41,9 +41,12 @@ class Tormenta : public ConVentanas {
   int Al(int n) { return static_cast<int>(azar_() % static_cast<unsigned>(n)); }
   QPoint EnAlguna(const QWidget& w) { return {Al(std::max(1, w.width())), Al(std::max(1, w.height()))}; }
 
-  /// The window that the user can reach.
-  static QWidget* Alcanzable() {
+  /// The window that the user can reach; the manual too, unless a window of its own waits.
+  QWidget* Alcanzable() {
     if (QWidget* menu = QApplication::activePopupWidget()) return menu;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+      if (w->objectName() == "FrManual" && w->isVisible() && !w->findChild<QDialog*>() && Al(4) == 0) return w;
+    }
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     for (QWidget* w : QApplication::topLevelWidgets()) {
       if (w->isVisible()) return w;
@@ -154,6 +157,7 @@ TEST_F(Tormenta, NothingCrashesHangsOrIsLeftHalf) {
   estado.sRutaPropia = Ruta("home/duktores.ini");
   estado.sRutaDuct = carpeta_.path().toStdString();
   QFile::copy(DUKTORES_RAIZ "/Samples/pieces.json", carpeta_.filePath("pieces.json"));
+  std::filesystem::create_directory_symlink(DUKTORES_RAIZ "/docs/manual", Ruta("Duct/Manual"));
   reloj_.start();
   while (!reloj_.hasExpired(1000LL * segundos_)) {
     FrListaDuktores lista;
