@@ -101,7 +101,7 @@ inline constexpr int kQueCotas = 257, kQueCajetin = 258, kQueColor = 259, kQueDi
 inline constexpr int kQueCarpeta = 262;
 inline constexpr int kMilimetros = 263, kPulgadas = 264;
 inline constexpr int kSuperficieInterior = 265, kSuperficieMedia = 266, kSuperficieExterior = 267;
-inline constexpr int kNumeroDesde = 268, kMayorQueCero = 269, kNumeroEntre = 270, kEnteroEntre = 271, kMultiplo = 272;
+inline constexpr int kNumeroDesde = 268, kNumeroEntre = 270, kEnteroEntre = 271, kMultiplo = 272;
 inline constexpr int kCarpetaQueExiste = 273, kDeLaLista = 274;
 inline constexpr int kSinConfiguracion = 275;  ///< no configuration file; a click helps
 inline constexpr int kSeGuardan = 276;         ///< the file that keeps the settings
@@ -138,5 +138,10 @@ inline constexpr int kSinColocar = 396, kSinAreaOLarga = 397, kMayorQueChapas = 
 inline constexpr int kNoQuedanChapas = 400, kParadoAntes = 401;
 inline constexpr int kFueraDelMargen = 402, kDemasiadoCerca = 403, kUnaEnOtra = 404, kGiroProhibido = 405;
 inline constexpr int kNoCuadran = 406, kNoSeEscribe = 407, kUnaChapaAlMenos = 408, kSinGiro = 409;
+
+// What more settings mean; the rule for a layer's name.
+inline constexpr int kQueIdioma = 420, kQueCapaCorte = 421, kQueCapaArriba = 422, kQueCapaAbajo = 423;
+inline constexpr int kQueCapaMarcas = 424, kQueDobleces = 425, kQueNombre = 426, kQueTolerancia = 427;
+inline constexpr int kQueDoblezMinimo = 428, kQueArcos = 429, kQueUnFichero = 430, kReglaCapa = 431;
 
 }  // namespace duktores::texto

@@ -101,17 +101,6 @@ constexpr ClaveCapa kCapas[]{{"CutLayer", &Maquina::capaCorte},
                              {"BendDownLayer", &Maquina::capaAbajo},
                              {"MarkLayer", &Maquina::capaMarca}};
 
-/// What every reader of a drawing takes, and no name that another layer has.
-bool EsCapa(const std::string& nombre, const std::vector<std::string>& otras) {
-  constexpr std::size_t kLargo = 31;
-  const auto vale = [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '-' ||
-           c == '$';
-  };
-  return !nombre.empty() && nombre.size() <= kLargo && nombre != "0" && std::ranges::all_of(nombre, vale) &&
-         std::ranges::find(otras, Mayusculas(nombre)) == otras.end();
-}
-
 /// The language base; an unlisted language is Spanish.
 double LeeIdioma(const std::string& nombre) {
   const auto* idioma = std::ranges::find(kIdiomas, Mayusculas(Recorta(nombre)));
@@ -146,7 +135,8 @@ void LeeCapas(const std::vector<EntradaIni>& entradas, LecturaConfiguracion& lec
   for (const auto& [nombre, capa] : kCapas) {
     std::string& queda = estado.maquina.*capa = usual.*capa;
     const auto texto = LeeIni(entradas, kMaquina, nombre);
-    if (texto && EsCapa(*texto, ocupadas)) {
+    const bool libre = texto && std::ranges::find(ocupadas, Mayusculas(*texto)) == ocupadas.end();
+    if (libre && EsCapa(*texto)) {
       queda = *texto;
     } else if (texto) {
       while (std::ranges::find(ocupadas, Mayusculas(queda)) != ocupadas.end()) queda += '_';
@@ -158,8 +148,8 @@ void LeeCapas(const std::vector<EntradaIni>& entradas, LecturaConfiguracion& lec
 }
 
 void Lee(const std::string& contenido, const std::string& propio, LecturaConfiguracion& lectura) {
-  const auto deInstalacion = EntradasIni(contenido);
   auto entradas = EntradasIni(propio);
+  const auto deInstalacion = EntradasIni(contenido);
   entradas.insert(entradas.end(), deInstalacion.begin(), deInstalacion.end());
   const auto idioma = LeeIni(entradas, "LANGUAGE", "Language");
   estado.dIdioma = LeeIdioma(idioma.value_or(""));
@@ -184,7 +174,7 @@ void Lee(const std::string& contenido, const std::string& propio, LecturaConfigu
       lectura.avisos.push_back(Aviso(clave.seccion, clave.nombre, *texto, texto::kValorMalo, vale));
     }
   }
-  for (const EntradaIni& entrada : deInstalacion) {
+  for (const EntradaIni& entrada : entradas) {
     if (const ClaveLeida* nuestra = Parecida(lectura.claves, entrada)) {
       const std::string vale = std::string(nuestra->clave) + "=" + nuestra->vale;
       lectura.avisos.push_back(Aviso(entrada.seccion, entrada.clave, TextoIni(entrada.valor), texto::kClaveMala, vale));
@@ -197,6 +187,15 @@ void Lee(const std::string& contenido, const std::string& propio, LecturaConfigu
 bool TieneSentido(const Limites& limites, std::string_view texto) {
   const auto v = NumeroEntero(texto);
   return v && *v >= limites.minimo && *v <= limites.maximo && (limites.paso == 0 || std::fmod(*v, limites.paso) == 0);
+}
+
+bool EsCapa(std::string_view nombre) {
+  constexpr std::size_t kLargo = 31;
+  const auto vale = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '-' ||
+           c == '$';
+  };
+  return !nombre.empty() && nombre.size() <= kLargo && nombre != "0" && std::ranges::all_of(nombre, vale);
 }
 
 std::span<const std::string_view> Idiomas() { return kIdiomas; }

@@ -24,6 +24,9 @@ struct Limites {
 /// Whether a text is a number within the limits, and nothing else.
 bool TieneSentido(const Limites& limites, std::string_view texto);
 
+/// Whether every reader of a drawing takes this as the name of a layer.
+bool EsCapa(std::string_view nombre);
+
 /// What a Language key may hold, in the order of the language bases.
 std::span<const std::string_view> Idiomas();
 

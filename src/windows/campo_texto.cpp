@@ -75,6 +75,12 @@ void TextoFiltrado::Pega(const QString& texto) {
 
 void TextoFiltrado::PegaPortapapeles() { Pega(QApplication::clipboard()->text()); }
 
+// A line edit claims all that can be typed. A question mark is none of a number's: it is left to the window.
+bool TextoFiltrado::event(QEvent* suceso) {
+  const bool tecla = suceso->type() == QEvent::ShortcutOverride;
+  return (!tecla || static_cast<QKeyEvent*>(suceso)->text() != "?") && QLineEdit::event(suceso);
+}
+
 void TextoFiltrado::keyPressEvent(QKeyEvent* suceso) {
   const bool orden =
       suceso->modifiers().testFlag(Qt::ControlModifier) && !suceso->modifiers().testFlag(Qt::AltModifier);

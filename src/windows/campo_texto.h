@@ -19,6 +19,7 @@ class TextoFiltrado : public QLineEdit {
   void rechazado(const QString& motivo);
 
  protected:
+  bool event(QEvent* suceso) override;
   void keyPressEvent(QKeyEvent* suceso) override;
   void mousePressEvent(QMouseEvent* suceso) override;
   void mouseMoveEvent(QMouseEvent* suceso) override;

@@ -2,8 +2,11 @@
 // The rows of the settings window, in their order. What a key takes is the configuration's; a row whose key the
 // configuration doesn't know isn't shown.
 
+#include <optional>
 #include <span>
 #include <string_view>
+
+#include "state/configuracion.h"
 
 namespace duktores {
 
@@ -20,10 +23,11 @@ struct FilaAjuste {
   int pagina;  ///< text of its tab
   std::string_view seccion, clave;
   ClaseAjuste clase;
-  int rotulo = 0, significado = 0;     ///< texts; a meaning of 0: the label says all
-  int primera = 0;                     ///< number of a list's first choice
-  std::span<const int> opciones = {};  ///< texts of a list's choices
-  std::string_view propuesta = {};     ///< shown where nothing is written and what counts then makes no sense
+  int rotulo, significado;              ///< texts
+  int primera = 0;                      ///< number of a list's first choice
+  std::span<const int> opciones = {};   ///< texts of a list's choices
+  std::string_view propuesta = {};      ///< shown where nothing is configured, or what counts makes no sense
+  std::optional<Limites> limites = {};  ///< of what is typed here, if narrower than those of the key
 };
 
 std::span<const FilaAjuste> FilasAjuste();

@@ -16,6 +16,7 @@
 
 #include "piece/numeros_texto.h"
 #include "state/ajustes.h"
+#include "state/caracteres.h"
 #include "state/estado.h"
 #include "state/numeros.h"
 #include "state/textos.h"
@@ -34,13 +35,10 @@ constexpr int kAltoFila = 30;
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 
-/// "of the sheet, in the chosen unit (a number from 0 up)"; either part may be missing.
+/// "of the sheet, in the chosen unit (a number from 0 to 100)"; where one can only choose there are no limits.
 QString Significado(const RenglonAjuste& renglon) {
-  const FilaAjuste& fila = renglon.Fila();
-  const bool escrito = fila.clase == ClaseAjuste::numero || fila.clase == ClaseAjuste::carpeta;
-  const QString regla = escrito ? renglon.Regla() : QString();
-  if (fila.significado == 0) return regla;
-  return Q(Texto(fila.significado)) + (regla.isEmpty() ? regla : " (" + regla + ")");
+  const QString significado = Q(Texto(renglon.Fila().significado));
+  return qobject_cast<QLineEdit*>(renglon.Foco()) ? significado + " (" + renglon.Regla() + ")" : significado;
 }
 
 }  // namespace
@@ -80,12 +78,14 @@ QWidget* FrAjustes::Pagina(int pagina) {
   auto* hoja = new QWidget;
   auto* rejilla = new QGridLayout(hoja);
   int fila = 0;
+  const auto escrita = [](const ClaveLeida& leida) { return leida.escrito.has_value(); };
+  const bool propone = std::ranges::none_of(lectura_.claves, escrita);
   for (const FilaAjuste& def : FilasAjuste()) {
     const auto clave = std::ranges::find_if(lectura_.claves, [&](const ClaveLeida& leida) {
       return leida.seccion == def.seccion && leida.clave == def.clave;
     });
     if (def.pagina != pagina || clave == lectura_.claves.end()) continue;
-    const RenglonAjuste& renglon = renglones_.emplace_back(def, *clave, *hoja);
+    const RenglonAjuste& renglon = renglones_.emplace_back(def, *clave, propone, *hoja);
     auto* rotulo = new QLabel(renglon.Rotulo());
     rotulo->setBuddy(renglon.Foco());
     auto* significado = new QLabel(Significado(renglon));
@@ -108,7 +108,7 @@ QWidget* FrAjustes::Pagina(int pagina) {
 }
 
 QWidget* FrAjustes::Pie() {
-  auto* pie = new QWidget;
+  auto* pie = new QWidget(this);  // the default button has to know its window
   auto* fila = new QHBoxLayout(pie);
   fila->setContentsMargins(0, 0, 0, 0);
   auto* LblFichero = new QLabel(Q(Texto(texto::kSeGuardan) + " " + RutaAjustes()));
@@ -120,12 +120,12 @@ QWidget* FrAjustes::Pie() {
   auto* cancelar = new QPushButton(Q(Texto(texto::kCancelar)));
   PonBoton(*aceptar, "CmdAceptar", {});
   PonBoton(*cancelar, "CmdCancelar", {});
-  aceptar->setDefault(true);
   connect(aceptar, &QPushButton::clicked, this, &FrAjustes::accept);
   connect(cancelar, &QPushButton::clicked, this, &FrAjustes::reject);
   fila->addWidget(LblFichero, 1);
   fila->addWidget(aceptar);
   fila->addWidget(cancelar);
+  aceptar->setDefault(true);
   return pie;
 }
 
@@ -145,13 +145,21 @@ void FrAjustes::Enfoca(QWidget& control) {
   control.setFocus(Qt::OtherFocusReason);
 }
 
+/// Two layers of one name would be one to the machine.
+bool FrAjustes::Repetido(const RenglonAjuste& renglon) const {
+  const auto igual = [&](const RenglonAjuste& otro) {
+    return otro.Fila().clase == ClaseAjuste::nombre && Mayusculas(otro.Valor()) == Mayusculas(renglon.Valor());
+  };
+  return renglon.Fila().clase == ClaseAjuste::nombre && std::ranges::count_if(renglones_, igual) > 1;
+}
+
 void FrAjustes::accept() {
   std::vector<std::string> valores;
   std::vector<EntradaIni> cambios;
   valores.reserve(renglones_.size());  // the changes are views of them
   for (const RenglonAjuste& renglon : renglones_) {
     if (!renglon.Cambiado()) continue;
-    if (!renglon.Sirve()) {
+    if (!renglon.Sirve() || Repetido(renglon)) {
       Rechaza(renglon.Rotulo() + ": " + renglon.Regla());
       return Enfoca(*renglon.Foco());
     }

@@ -29,6 +29,7 @@ class FrAjustes : public QDialog {
  private:
   QWidget* Pagina(int pagina);
   QWidget* Pie();
+  bool Repetido(const RenglonAjuste& renglon) const;
   void Rechaza(const QString& porque);
   void Enfoca(QWidget& control);
 

@@ -147,11 +147,11 @@ void FrDialogo::Ajustes(int y) {
   ajustes->setCursor(Qt::PointingHandCursor);
   textos_.Pon([ajustes] {
     ajustes->setText(ResumenAjustes());
-    PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + " (Ctrl+,)");
+    PonBoton(*ajustes, "CmdAjustes", Q(Texto(texto::kAjustes)) + TextoTeclas("CmdAjustes"));
   });
   ConectaAjustes(*ajustes);
   auto* manual = new QPushButton(this);
-  textos_.Pon([manual] { PonBoton(*manual, "CmdManual", Q(Texto(texto::kManual))); });
+  textos_.Pon([manual] { PonBotonManual(*manual); });
   ConectaManual(*manual);
   const int x = 2 * kMargen + kAnchoImagen, fin = Diseno(dialogo_.Definicion()).width() - kMargen;
   proporcion_.Coloca(*ajustes, {x, y, fin - kAltoBoton - kMargen - x, kAltoAjustes - 4});
@@ -177,6 +177,7 @@ void FrDialogo::Pie(int y) {
     cancelar->setText(Q(Texto(texto::kCancelar)));
     PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
     PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
+    if (!chino) cancelar->setToolTip(cancelar->toolTip() + TextoTeclas("CmdCancelar"));
     lblerror_->hide();
   });
   aceptar->setDefault(true);
@@ -209,18 +210,18 @@ void FrDialogo::Barra(int y) {
     proporcion_.Coloca(boton, {x, y, ancho, kAltoBoton});
     x += ancho + kHueco;
   };
-  const auto boton = [&](std::string_view nombre, int texto, const QString& teclas, auto hace) {
+  const auto boton = [&](std::string_view nombre, int texto, auto hace) {
     auto* nuevo = new QPushButton(this);
     textos_.Pon([=] {
       nuevo->setText(Q(Texto(texto)));
-      PonBoton(*nuevo, nombre, nuevo->text() + teclas);
+      PonBoton(*nuevo, nombre, nuevo->text() + TextoTeclas(Q(nombre)));
     });
     nuevo->setAutoDefault(false);
     coloca(*nuevo);
     connect(nuevo, &QPushButton::clicked, this, hace);
     return nuevo;
   };
-  CmdUltimos_ = boton("CmdUltimos", texto::kUltimosValores, " (Ctrl+L)", [this] {
+  CmdUltimos_ = boton("CmdUltimos", texto::kUltimosValores, [this] {
     if (Dialogo lleno = dialogo_; LlenaUltimos(lleno)) Pon(lleno);
   });
   connect(new QShortcut(Qt::CTRL | Qt::Key_L, this), &QShortcut::activated, CmdUltimos_, &QPushButton::click);
@@ -228,7 +229,7 @@ void FrDialogo::Barra(int y) {
   for (const DefCampo& campo : dialogo_.Definicion().campos) {
     if (campo.uso == Uso::desvio) ceros += Q(campo.palabra);
   }
-  auto* cero = boton("CmdCeros", texto::kCeros, {}, [this] {
+  auto* cero = boton("CmdCeros", texto::kCeros, [this] {
     Dialogo lleno = dialogo_;
     lleno.PonCeros();
     Pon(lleno);
@@ -238,7 +239,7 @@ void FrDialogo::Barra(int y) {
   textos_.Pon([abre] { abre->PonTexto(); });
   coloca(*abre);
   connect(abre, &BotonAbre::elegido, this, &FrDialogo::CmdAbre);
-  boton("CmdGuardaPieza", texto::kGuardaPieza, {}, [this] { CmdGuardaPieza(); });
+  boton("CmdGuardaPieza", texto::kGuardaPieza, [this] { CmdGuardaPieza(); });
 }
 
 void FrDialogo::Pon(const Dialogo& lleno) {

@@ -11,6 +11,7 @@
 #include "state/textos.h"
 #include "windows/fr_chapas.h"
 #include "windows/proporcion.h"
+#include "windows/teclas.h"
 
 namespace duktores {
 
@@ -47,6 +48,7 @@ class FrEligePieza : public QDialog {
     QPushButton* chapas = Boton(texto::kChapas, "CmdChapas", kALaIzquierda);
     chapas->setAutoDefault(false);
     connect(chapas, &QPushButton::clicked, this, [this, trabajos] { FrChapas(this, trabajos).exec(); });
+    PonAyuda(*this);
   }
 
   /// -1 if none is.

@@ -54,8 +54,8 @@ FrListaDuktores::FrListaDuktores(const std::vector<std::string>& avisos)
     salir->setText(QString::fromStdString(Texto(texto::kSalir)));
     PonBoton(*continuar, "CmdContinuar", chino ? QString() : continuar->text());
     PonBoton(*salir, "CmdSalir", chino ? QString() : salir->text());
-    PonBoton(*ajustes, "CmdAjustes", QString::fromStdString(Texto(texto::kAjustes)) + " (Ctrl+,)");
-    PonBoton(*manual, "CmdManual", QString::fromStdString(Texto(texto::kManual)));
+    PonBoton(*ajustes, "CmdAjustes", QString::fromStdString(Texto(texto::kAjustes)) + TextoTeclas("CmdAjustes"));
+    PonBotonManual(*manual);
     setWindowTitle(chino ? "duktores" : QString::fromStdString(Texto(texto::kDuktores)));
   });
   ConectaAjustes(*ajustes);

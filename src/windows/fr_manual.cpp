@@ -5,20 +5,24 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QTextTable>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "piece/numeros_texto.h"
 #include "state/estado.h"
 #include "state/textos.h"
+#include "windows/iconos.h"
 #include "windows/proporcion.h"
+#include "windows/teclas.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 
 namespace {
 
-constexpr const char* kNombre = "FrManual";
 constexpr QSize kTamano{900, 740};
 
 QString Q(const std::string& texto) { return QString::fromStdString(texto); }
@@ -68,34 +72,96 @@ QTextBrowser* Paginas() {
   return paginas;
 }
 
+// A window of its own, and no dialog of the opener's: so the desktop lets the user look at either. What waits for an
+// answer lets through only windows that belong to it, so the manual belongs to what waits at the time.
+class FrManual : public QDialog {
+ public:
+  explicit FrManual(QWidget& padre);
+  /// The page that is open, in the language that is configured.
+  void PonIdioma();
+
+ protected:
+  bool event(QEvent* suceso) override;
+  bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
+ private:
+  void Sigue();
+
+  QTextBrowser* paginas_ = Paginas();
+  QPushButton* atras_;
+  QPushButton* primera_;
+  QMetaObject::Connection sigue_;
+};
+
+FrManual::FrManual(QWidget& padre) : QDialog(&padre, Qt::Window) {
+  setObjectName("FrManual");
+  setAttribute(Qt::WA_DeleteOnClose);
+  padre.installEventFilter(this);
+  auto* botones = new QDialogButtonBox(QDialogButtonBox::Close);
+  atras_ = botones->addButton(QString(), QDialogButtonBox::ActionRole);
+  primera_ = botones->addButton(QString(), QDialogButtonBox::ActionRole);
+  atras_->setEnabled(false);
+  connect(paginas_, &QTextBrowser::backwardAvailable, atras_, &QPushButton::setEnabled);
+  connect(atras_, &QPushButton::clicked, paginas_, &QTextBrowser::backward);
+  connect(primera_, &QPushButton::clicked, paginas_, [this] { paginas_->setSource(Indice()); });
+  connect(botones, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* columna = new QVBoxLayout(this);
+  columna->addWidget(paginas_);
+  columna->addWidget(botones);
+  PonAyuda(*this);
+  // At the side, so that most of the opener can be seen.
+  const QSize libre = SitioLibre(padre), tamano = kTamano.boundedTo(libre), sobra = libre - tamano;
+  resize(tamano);
+  move(padre.screen()->availableGeometry().topLeft() + QPoint(sobra.width(), sobra.height() / 2));
+  paginas_->setSource(Indice());
+  PonIdioma();
+  paginas_->setFocus();
+}
+
+void FrManual::PonIdioma() {
+  setWindowTitle(Q(Texto(texto::kManual)));
+  atras_->setText(Q(Texto(texto::kAtras)));
+  primera_->setText(Q(Texto(texto::kIndice)));
+  const QUrl pagina = Indice().resolved(QUrl(paginas_->source().fileName()));
+  if (pagina == paginas_->source()) return;
+  paginas_->setSource(pagina);
+  paginas_->clearHistory();
+}
+
+void FrManual::Sigue() {
+  QWindow* espera = QGuiApplication::modalWindow();
+  if (espera && windowHandle()->isAncestorOf(espera, QWindow::IncludeTransients)) return;
+  disconnect(sigue_);
+  if (espera) sigue_ = connect(espera, &QWindow::visibleChanged, this, &FrManual::Sigue, Qt::QueuedConnection);
+  windowHandle()->setTransientParent(espera ? espera : parentWidget()->windowHandle());
+}
+
+bool FrManual::event(QEvent* suceso) {
+  if (suceso->type() == QEvent::WindowBlocked) QMetaObject::invokeMethod(this, &FrManual::Sigue, Qt::QueuedConnection);
+  if (suceso->type() == ConfiguracionLeida::Tipo()) PonIdioma();
+  return QDialog::event(suceso);
+}
+
+bool FrManual::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (objeto == parentWidget() && suceso->type() == QEvent::Hide && !suceso->spontaneous()) close();
+  return QDialog::eventFilter(objeto, suceso);
+}
+
 }  // namespace
 
 void AbreManual(QWidget& padre) {
-  const QUrl indice = Indice();
-  if (!Esta(indice)) return;
+  if (!Esta(Indice())) return;
+  FrManual* manual = nullptr;
   for (QWidget* abierto : QApplication::topLevelWidgets()) {
-    if (abierto->objectName() == kNombre) abierto->close();
+    if (abierto->isVisible() && !manual) manual = dynamic_cast<FrManual*>(abierto);
   }
-  auto* ventana = new QDialog(&padre);
-  ventana->setObjectName(kNombre);
-  ventana->setAttribute(Qt::WA_DeleteOnClose);
-  ventana->setWindowTitle(Q(Texto(texto::kManual)));
-  QTextBrowser* paginas = Paginas();
-  auto* botones = new QDialogButtonBox(QDialogButtonBox::Close);
-  auto* atras = botones->addButton(Q(Texto(texto::kAtras)), QDialogButtonBox::ActionRole);
-  auto* primera = botones->addButton(Q(Texto(texto::kIndice)), QDialogButtonBox::ActionRole);
-  atras->setEnabled(false);
-  QObject::connect(paginas, &QTextBrowser::backwardAvailable, atras, &QPushButton::setEnabled);
-  QObject::connect(atras, &QPushButton::clicked, paginas, &QTextBrowser::backward);
-  QObject::connect(primera, &QPushButton::clicked, paginas, [paginas, indice] { paginas->setSource(indice); });
-  QObject::connect(botones, &QDialogButtonBox::rejected, ventana, &QDialog::reject);
-  auto* columna = new QVBoxLayout(ventana);
-  columna->addWidget(paginas);
-  columna->addWidget(botones);
-  ventana->resize(kTamano.boundedTo(SitioLibre(padre)));
-  paginas->setSource(indice);
-  paginas->setFocus();
-  ventana->show();
+  manual ? manual->PonIdioma() : (manual = new FrManual(padre))->show();
+  TraeAlFrente(*manual);
+}
+
+void PonBotonManual(QPushButton& boton) {
+  PonBoton(boton, "CmdManual", Q(Texto(texto::kManual)));
+  boton.setToolTip(boton.toolTip() + " - " + Q(Texto(texto::kAyuda)) + TextoTeclas("ayuda"));
 }
 
 void ConectaManual(QPushButton& boton) {

@@ -156,7 +156,9 @@ void FrmViewUnfold::Botones() {
   connect(CmdSolido_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSolido);
   connect(CmdDesplegado_, &QPushButton::clicked, this, &FrmViewUnfold::CmdDesplegado);
   connect(CmdSave_, &QPushButton::clicked, this, &FrmViewUnfold::CmdSave);
-  connect(suelto("CmdCancelar", texto::kCierraVisor), &QPushButton::clicked, this, &FrmViewUnfold::reject);
+  QPushButton* cierra = suelto("CmdCancelar", texto::kCierraVisor);
+  cierra->setToolTip(cierra->toolTip() + TextoTeclas("CmdCancelar"));
+  connect(cierra, &QPushButton::clicked, this, &FrmViewUnfold::reject);
   connect(suelto("CmdExit", texto::kSalir), &QPushButton::clicked, this, [] { Termina(); });
 }
 

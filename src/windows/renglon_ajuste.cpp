@@ -49,16 +49,20 @@ bool EsIdioma(const std::string& valor) {
 /// What counts, if it makes sense: then it needn't be written.
 std::optional<std::string> Cuenta(const FilaAjuste& fila, const ClaveLeida& clave) {
   const std::string valor = clave.escrito.value_or(clave.limites ? ConPunto(clave.vale) : clave.vale);
-  const bool sirve =
-      clave.limites ? TieneSentido(*clave.limites, valor) : fila.clase != ClaseAjuste::idioma || EsIdioma(valor);
+  bool sirve = true;
+  if (clave.limites) sirve = TieneSentido(*clave.limites, valor);
+  if (fila.clase == ClaseAjuste::idioma) sirve = EsIdioma(valor);
+  if (fila.clase == ClaseAjuste::nombre) sirve = valor == clave.vale;
   return sirve ? std::optional(valor) : std::nullopt;
 }
 
 }  // namespace
 
-RenglonAjuste::RenglonAjuste(const FilaAjuste& fila, const ClaveLeida& clave, QWidget& padre)
+RenglonAjuste::RenglonAjuste(const FilaAjuste& fila, const ClaveLeida& clave, bool propone, QWidget& padre)
     : fila_(&fila), clave_(clave), cuenta_(Cuenta(fila, clave)) {
-  const std::string mostrado = clave.escrito.value_or(cuenta_.value_or(std::string(fila.propuesta)));
+  if (fila.limites) clave_.limites = fila.limites;
+  const bool propuesto = !cuenta_ || (propone && !fila.propuesta.empty());
+  const std::string mostrado = clave.escrito.value_or(propuesto ? std::string(fila.propuesta) : *cuenta_);
   switch (fila.clase) {
     case ClaseAjuste::idioma:
     case ClaseAjuste::lista:
@@ -138,6 +142,7 @@ bool RenglonAjuste::Sirve() const {
   const std::string valor = Valor();
   if (lista_ != nullptr) return !valor.empty();
   if (fila_->clase == ClaseAjuste::carpeta) return valor.empty() || QFileInfo(Q(valor)).isDir();
+  if (fila_->clase == ClaseAjuste::nombre) return EsCapa(valor);
   return !clave_.limites || TieneSentido(*clave_.limites, valor);
 }
 
@@ -150,12 +155,11 @@ QString RenglonAjuste::Rotulo() const {
 QString RenglonAjuste::Regla() const {
   if (lista_ != nullptr) return TextoQ(texto::kDeLaLista);
   if (fila_->clase == ClaseAjuste::carpeta) return TextoQ(texto::kCarpetaQueExiste);
+  if (fila_->clase == ClaseAjuste::nombre) return TextoQ(texto::kReglaCapa);
   if (marca_ != nullptr || !clave_.limites) return {};
   const auto [minimo, maximo, paso] = *clave_.limites;
-  const QString desde = Q(TextoDeNumero(minimo == kMasQueCero ? 0 : minimo)), hasta = Q(TextoDeNumero(maximo));
-  if (maximo == kSinTope) {
-    return minimo == kMasQueCero ? TextoQ(texto::kMayorQueCero) : TextoQ(texto::kNumeroDesde).arg(desde);
-  }
+  const QString desde = Q(TextoDeNumero(minimo)), hasta = Q(TextoDeNumero(maximo));
+  if (maximo == kSinTope) return TextoQ(texto::kNumeroDesde).arg(desde);
   if (paso > 1) return TextoQ(texto::kMultiplo).arg(desde, hasta, Q(TextoDeNumero(paso)));
   return TextoQ(paso == 1 ? texto::kEnteroEntre : texto::kNumeroEntre).arg(desde, hasta);
 }

@@ -17,8 +17,9 @@ namespace duktores {
 
 class RenglonAjuste {
  public:
-  /// Shows what the key holds. The controls get the key's name, and belong to `padre`.
-  RenglonAjuste(const FilaAjuste& fila, const ClaveLeida& clave, QWidget& padre);
+  /// Shows what the key holds or, with `propone`, what the row proposes if no file has the key. The controls get the
+  /// key's name, and belong to `padre`.
+  RenglonAjuste(const FilaAjuste& fila, const ClaveLeida& clave, bool propone, QWidget& padre);
 
   const FilaAjuste& Fila() const { return *fila_; }
   /// What stands in the window, and what of it takes the focus.

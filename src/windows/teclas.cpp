@@ -22,7 +22,7 @@ namespace {
 
 struct FilaTecla {
   int lugar;           // heading of the page: the window
-  const char* nombre;  // of the button; empty: the window takes the keys itself
+  const char* nombre;  // of the button; in each window that has it its keys are the same
   const char* teclas;  // one behind the other
   int texto;           // what they do
 };
@@ -32,12 +32,12 @@ constexpr std::array kTeclas{
     //        window            button           keys                         what they do
     FilaTecla{texto::kCatalogo, "",              "Up; Down",                  texto::kEligeFila},
     FilaTecla{texto::kCatalogo, "",              "Return",                    texto::kContinuar},
-    FilaTecla{texto::kCatalogo, "",              "Ctrl+,",                    texto::kAjustes},
+    FilaTecla{texto::kCatalogo, "CmdAjustes",    "Ctrl+,",                    texto::kAjustes},
     FilaTecla{texto::kMedidas,  "",              "Tab; Return",               texto::kCampoSiguiente},
     FilaTecla{texto::kMedidas,  "",              "F4; Alt+Down",              texto::kAbreLista},
-    FilaTecla{texto::kMedidas,  "",              "Ctrl+,",                    texto::kAjustes},
-    FilaTecla{texto::kMedidas,  "",              "Ctrl+L",                    texto::kUltimosValores},
-    FilaTecla{texto::kMedidas,  "",              "Esc",                       texto::kCancelar},
+    FilaTecla{texto::kMedidas,  "CmdAjustes",    "Ctrl+,",                    texto::kAjustes},
+    FilaTecla{texto::kMedidas,  "CmdUltimos",    "Ctrl+L",                    texto::kUltimosValores},
+    FilaTecla{texto::kMedidas,  "CmdCancelar",   "Esc",                       texto::kCancelar},
     FilaTecla{texto::kVisor,    "CmdDesplegado", "U",                         texto::kDesplegado},
     FilaTecla{texto::kVisor,    "CmdExacto",     "E",                         texto::kExacto},
     FilaTecla{texto::kVisor,    "CmdSolido",     "B",                         texto::kSolidoODesarrollo},
@@ -52,7 +52,7 @@ constexpr std::array kTeclas{
     FilaTecla{texto::kVisor,    "",              "Ctrl+Y; Ctrl+Shift+Z",      texto::kRehace},
     FilaTecla{texto::kVisor,    "",              "L",                         texto::kNombres},
     FilaTecla{texto::kVisor,    "",              "F1; F2; F3; F4; F5; F6; F7; F8; F9; F10; F11", texto::kVistasFijas},
-    FilaTecla{texto::kVisor,    "",              "Esc",                       texto::kCierraVisor},
+    FilaTecla{texto::kVisor,    "CmdCancelar",   "Esc",                       texto::kCierraVisor},
     FilaTecla{texto::kChapas,   "",              "0; Home",                   texto::kZoomTodo},
     FilaTecla{texto::kChapas,   "",              "+; -",                      texto::kZoom},
     FilaTecla{texto::kChapas,   "",              "Left; Right; Up; Down",     texto::kMueve},
@@ -114,10 +114,15 @@ QString Pagina() {
 
 }  // namespace
 
+QString TextoTeclas(const QString& boton) {
+  const FilaTecla* fila = FilaDe(boton);
+  return fila ? " (" + NombreTeclas(*fila) + ")" : QString();
+}
+
 void PonTeclas(QPushButton& boton, const std::function<void(int)>& hace) {
   const FilaTecla* fila = FilaDe(boton.objectName());
   if (!fila) return;
-  boton.setToolTip(boton.toolTip() + " (" + NombreTeclas(*fila) + ")");
+  boton.setToolTip(boton.toolTip() + TextoTeclas(boton.objectName()));
   Atajos(
       *fila, *boton.window(), hace ? hace : [&boton](int) { boton.click(); });
 }

@@ -1,14 +1,17 @@
 #pragma once
 // The keys of the windows as one table: what they press, what the tooltips say of them, and the page that lists them.
 
+#include <QString>
 #include <functional>
-#include <string_view>
 
 class QKeyEvent;
 class QPushButton;
 class QWidget;
 
 namespace duktores {
+
+/// What a tooltip says of the button's keys, at its end: " (F12, ?)". The page of the keys goes by the name of "ayuda".
+QString TextoTeclas(const QString& boton);
 
 /// Has the keys of the button's row press it, or call `hace` with the key's place in the row. They work throughout the
 /// button's window, and its tooltip tells them.

@@ -214,15 +214,18 @@ TEST_F(Arranque, SettingsGoToTheInstallationElseToTheUsersOwnFileWhichWins) {
   EXPECT_EQ(AvisosDe(ReleeConfiguracion(true)),
             std::vector{"No hay configuración. Pulse aquí para ajustarla: " + ini_});
   EXPECT_EQ(RutaAjustes(), propia);
-  EXPECT_TRUE(GuardaAjustes({{"DUCT", "Fiber", "1"}, {"DUCT", "NDivi", "18"}, {"SAVE", "Fibr", "x"}}));
-  EXPECT_EQ(AvisosDe(ReleeConfiguracion(true)), std::vector<std::string>{"DUCT NDivi=18: valor no válido, se usa: 18"});
+  EXPECT_TRUE(
+      GuardaAjustes({{"DUCT", "Fiber", "1"}, {"DUCT", "NDivi", "18"}, {"SAVE", "Fibr", "x"}, {"DUCT", "Fibr", "3"}}));
+  EXPECT_EQ(AvisosDe(ReleeConfiguracion(true)),
+            (std::vector<std::string>{"DUCT NDivi=18: valor no válido, se usa: 18",
+                                      "DUCT Fibr=3: clave desconocida, vale: Fiber=1"}));
 
   fs::create_directories(raiz_ / "Config");
   EXPECT_TRUE(Lanza("[DUCT]\nFiber=2\nBox=1\n").ends_with(" 1 0 0 0 18 1 0"));
   // What the user's own file hides there is changed in both.
   EXPECT_TRUE(GuardaAjustes({{"DUCT", "Fiber", "3"}, {"DUCT", "Box", "0"}}));
   EXPECT_EQ(*LeeFichero(ini_) + *LeeFichero(propia),
-            "[DUCT]\nFiber=3\nBox=0\n[DUCT]\nFiber=3\nNDivi=18\n[SAVE]\nFibr=x\n");
+            "[DUCT]\nFiber=3\nBox=0\n[DUCT]\nFiber=3\nNDivi=18\nFibr=3\n[SAVE]\nFibr=x\n");
   estado.sRutaPropia.clear();  // as in the batch program
   EXPECT_TRUE(Lanza().ends_with(" 3 0 0 0 0 0 0"));
   fs::remove_all(raiz_ / "Config");

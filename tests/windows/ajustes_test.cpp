@@ -2,7 +2,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTabWidget>
+#include <QTabBar>
 
 #include "shell/lista.h"
 #include "state/ajustes.h"
@@ -29,7 +29,7 @@ class Ajustes : public ConVentanas {
   }
   static void Teclea(QWidget& ventana, const char* campo, const char* texto) {
     auto& linea = Hijo<QLineEdit>(ventana, campo);
-    linea.selectAll();
+    linea.clear();
     QTest::keyClicks(&linea, texto);
   }
 };
@@ -47,26 +47,30 @@ TEST_F(Ajustes, WhatIsChangedIsInForceAtOnceAndNothingElseIsWritten) {
   estado.iDivisiones = 24;
   usuario_.Cuando("FrAjustes", [&](QWidget& ventana) {
     const std::tuple<const char*, const char*, const char*> malos[] = {
-        {"Thickness", "-1", "Thickness: a number from 0 up"},
-        {"Sizetxt", "0", "Text height: a number above 0"},
+        {"Thickness", "-1", "Thickness: a number from 0 to 100"},
+        {"Sizetxt", "0", "Text height: a number from 0.01 to 1000"},
         {"BendColour", "2.5", "Bend colour: a whole number from 0 to 256"},
         {"NDivi", "18", "Divisions: a multiple of 4, from 4 to 908"},
-        {"Path", "/no/such/folder", "Save folder: a folder that exists, or nothing"}};
+        {"Path", "/no/such/folder", "Save folder: a folder that exists, or nothing"},
+        {"CutLayer", "MY LAYER/..", "Layer of the cut: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"},
+        {"BendUpLayer", "", "Layer of the bends up: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"},
+        {"MarkLayer", "bend_up", "Layer of the marks: 1 to 31 letters (A-Z), digits, _ - $; not just 0, no two alike"}};
     for (const auto& [campo, mal, dice] : malos) {
       const QString antes = Hijo<QLineEdit>(ventana, campo).text();
       Teclea(ventana, campo, mal);
-      Pulsa(ventana, "CmdAceptar");
+      QTest::keyClick(&Hijo(ventana, campo), Qt::Key_Return);
       EXPECT_EQ(Dice(ventana, "lblerror"), dice);
       EXPECT_TRUE(ventana.focusWidget() == &Hijo(ventana, campo) && Hijo(ventana, "lblerror").isVisible());
       Hijo<QLineEdit>(ventana, campo).setText(antes);
       EXPECT_FALSE(Hijo(ventana, "lblerror").isVisible());
     }
+    QTest::keyClick(ventana.focusWidget(), Qt::Key_Backtab, Qt::ControlModifier);
     EXPECT_TRUE(Hijo<QCheckBox>(ventana, "Box").isChecked());
     Teclea(ventana, "Thickness", "0,04");
     for (const auto& [combo, texto] :
          {std::pair("Language", "Deutsch"), {"Unit", "inches"}, {"Fiber", "outer surface"}})
       Hijo<QComboBox>(ventana, combo).setCurrentText(texto);
-    QTest::keyClick(&ventana, Qt::Key_Return);
+    QTest::keyClick(ventana.focusWidget(), Qt::Key_Return);
   });
   QTest::keyClick(&Hijo(abierto, "TxtH"), Qt::Key_Comma, Qt::ControlModifier);
   EXPECT_EQ(LeeFichero(estado.sRutaIni),
@@ -95,15 +99,19 @@ TEST_F(Ajustes, WithoutAConfigurationTheFootLeadsToTheSettings) {
   Pulsa(lista, "CmdAjustes");
   EXPECT_TRUE(Hijo(lista, "LblAviso").isVisible() && !LeeFichero(estado.sRutaIni));
   usuario_.Cuando("FrAjustes", [](QWidget& ventana) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
     Hijo<QComboBox>(ventana, "Fiber").setCurrentIndex(-1);
-    Pulsa(ventana, "CmdAceptar");
+    auto* pestanas = ventana.findChild<QTabBar*>();
+    QTest::mouseClick(pestanas, Qt::LeftButton, {}, pestanas->tabRect(1).center());
+    QTest::keyClick(ventana.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(Dice(ventana, "lblerror"), "Superficie: elija un valor de la lista");
     Hijo<QComboBox>(ventana, "Fiber").setCurrentIndex(1);
     QTest::mouseClick(&Hijo(ventana, "Dimensions"), Qt::LeftButton, {}, {8, Hijo(ventana, "Dimensions").height() / 2});
     Pulsa(ventana, "CmdAceptar");
   });
   Pulsa(lista, "LblAviso");
-  EXPECT_EQ(LeeFichero(estado.sRutaIni), "[DUCT]\nFiber=2\nSizetxt=10\nDimensions=1\nNDivi=16\n");
+  EXPECT_EQ(LeeFichero(estado.sRutaIni),
+            "[DUCT]\nThickness=1\nFiber=2\nDensity=7.85\nSizetxt=10\nBox=1\nBendColour=3\nNDivi=16\n");
   EXPECT_FALSE(Hijo(lista, "LblAviso").isVisible());
 }
 

@@ -13,6 +13,7 @@
 #include "windows/fr_dialogo.h"
 #include "windows/fr_lista_duktores.h"
 #include "windows/usuario.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 namespace {
@@ -246,6 +247,12 @@ TEST_F(VentanaCR, AMisplacedMinusKeepsTheFocus) {
   EXPECT_EQ(Foco(), "CmbDivi");
   EXPECT_EQ(Texto_("TxtAlfa").text(), "-3");
 
+  // What no field takes is the window's, and the tooltips say so.
+  usuario_.Cuando("FrAyuda", [](QWidget& teclas) { teclas.close(); });
+  QTest::keyClicks(&Texto_("TxtH"), "?");
+  EXPECT_EQ(Hijo(dialogo_, "CmdManual").toolTip(), "Manual - Teclas (F12, ?)");
+  EXPECT_TRUE(Hijo(dialogo_, "CmdCancelar").toolTip().startsWith("Cancelar (Esc"));
+
   // Cancelling is always possible, also with the time of a hand between press and release.
   Teclea("TxtAlfa", "3-");
   auto& cancelar = Hijo<QPushButton>(dialogo_, "CmdCancelar");
@@ -287,6 +294,11 @@ TEST_F(VentanaCR, RefusalsAreShownAndAcceptedValuesStay) {
   EXPECT_EQ(lblerror.text().toStdString(), Texto(20));
   EXPECT_EQ(lblerror.toolTip(), "RS: el doble del radio es como mucho el mayor de LI y AI, 400");
   EXPECT_TRUE(lblerror.isVisible());
+  estado.dIdioma = 10000;
+  ConfiguracionLeida suceso({});
+  QApplication::sendEvent(&dialogo_, &suceso);
+  EXPECT_EQ(lblerror.toolTip(), "RS: twice the radius is at most the larger of LI and AI, 400");
+  estado.dIdioma = 0;
   Teclea("TxtAY", "25.5");
   EXPECT_TRUE(lblerror.isVisible());
   Teclea("TxtRS", "100");

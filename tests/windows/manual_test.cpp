@@ -1,5 +1,7 @@
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -9,8 +11,10 @@
 
 #include "piece/numeros_texto.h"
 #include "state/textos.h"
+#include "windows/fr_manual.h"
 #include "windows/teclas.h"
 #include "windows/usuario.h"
+#include "windows/ventanas.h"
 
 namespace duktores {
 namespace {
@@ -113,8 +117,57 @@ TEST_F(Manual, LeadsFromPageToPageAndNowhereElse) {
     }
     EXPECT_EQ(manual.source().toString(), indice);
   }
+  EXPECT_EQ(padre_.findChildren<QTextBrowser*>().size(), 1) << "the one that is open comes back";
+}
+
+TEST_F(Manual, CanBeReadWhileAnotherWindowWaitsAndGoesWithItsOpener) {
+  estado.dIdioma = 10000;
+  QDialog dueno, espera(&dueno);
+  espera.setObjectName("Espera");
+  dueno.show();
+  AbreManual(dueno);
+  QPointer<QTextBrowser> paginas = dueno.findChild<QTextBrowser*>();
+  QWidget& manual = *paginas->window();
+  // As the window system brings it: a window that is blocked gets no click.
+  const auto vuelveAlIndice = [&] {
+    emit paginas->anchorClicked(QUrl("lists.md"));
+    QApplication::processEvents();
+    for (const auto* boton : manual.findChildren<QPushButton*>()) {
+      const QPoint centro = boton->mapTo(&manual, boton->rect().center());
+      if (boton->text() == "Contents") QTest::mouseClick(manual.windowHandle(), Qt::LeftButton, {}, centro);
+    }
+    return paginas->source().fileName() == "index.md";
+  };
+  usuario_.Cuando("Espera", [&](QWidget&) {
+    EXPECT_TRUE(vuelveAlIndice());
+    usuario_.Cuando("QMessageBox", [&](QWidget& caja) {
+      EXPECT_TRUE(vuelveAlIndice());
+      caja.close();
+    });
+    plataforma_.CajaMensaje("wait", EstiloMensaje::informacion, "");
+    EXPECT_TRUE(vuelveAlIndice());
+    usuario_.Cuando("FrAyuda", [&](QWidget& teclas) {
+      EXPECT_FALSE(vuelveAlIndice()) << "its own window waits";
+      teclas.close();
+    });
+    manual.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&manual));
+    QTest::keyClick(paginas, Qt::Key_F12);
+    estado.dIdioma = 0;
+    ConfiguracionLeida suceso({});
+    QApplication::sendEvent(&manual, &suceso);
+    EXPECT_TRUE(paginas->source().path().endsWith("/es/lists.md") && manual.windowTitle() == "Manual");
+    QTest::keyClick(paginas, Qt::Key_Escape);
+    EXPECT_TRUE(!manual.isVisible() && espera.isVisible());
+    espera.close();
+  });
+  espera.exec();
+  AbreManual(dueno);
+  paginas = dueno.findChildren<QTextBrowser*>().back();
+  EXPECT_TRUE(paginas->isVisible());
+  dueno.hide();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_EQ(padre_.findChildren<QTextBrowser*>().size(), 1) << "the one in the other language has closed";
+  EXPECT_FALSE(paginas);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
@@ -41,9 +42,12 @@ class Tormenta : public ConVentanas {
   int Al(int n) { return static_cast<int>(azar_() % static_cast<unsigned>(n)); }
   QPoint EnAlguna(const QWidget& w) { return {Al(std::max(1, w.width())), Al(std::max(1, w.height()))}; }
 
-  /// The window that the user can reach.
-  static QWidget* Alcanzable() {
+  /// The window that the user can reach; the manual too, unless a window of its own waits.
+  QWidget* Alcanzable() {
     if (QWidget* menu = QApplication::activePopupWidget()) return menu;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+      if (w->objectName() == "FrManual" && w->isVisible() && !w->findChild<QDialog*>() && Al(4) == 0) return w;
+    }
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     for (QWidget* w : QApplication::topLevelWidgets()) {
       if (w->isVisible()) return w;
@@ -107,6 +111,16 @@ class Tormenta : public ConVentanas {
     }
   }
 
+  /// A file dialog makes, renames and deletes whatever the machine has, folders with all that is in them: it may do
+  /// none of this, and goes as soon as it shows another folder than the test's own.
+  bool EsAjena(QWidget& ventana) const {
+    auto* ficheros = qobject_cast<QFileDialog*>(&ventana);
+    if (!ficheros) return qobject_cast<QPrintDialog*>(&ventana) != nullptr;  // a printer is somebody else's
+    ficheros->setOption(QFileDialog::ReadOnly);
+    const QString suya = QDir(carpeta_.path()).canonicalPath(), mostrada = ficheros->directory().canonicalPath();
+    return mostrada != suya && !mostrada.startsWith(suya + "/");
+  }
+
   void Paso() {
     if (reloj_.hasExpired(1000LL * segundos_)) return QApplication::exit();
     QTimer::singleShot(1, qApp, [this] { Paso(); });  // a window that is closed goes before the next step
@@ -117,8 +131,7 @@ class Tormenta : public ConVentanas {
     ++vistas_[ventana->objectName().toStdString() + " " + ventana->metaObject()->className()];
     constexpr int kMuyHondo = 24;
     const int que = Al(100);
-    // A printer is somebody else's.
-    if (hondo_ > kMuyHondo || qobject_cast<QPrintDialog*>(ventana)) {
+    if (hondo_ > kMuyHondo || EsAjena(*ventana)) {
       ventana->close();
     } else if (que < 45) {
       Tecla(*Hijo(*ventana));
@@ -154,6 +167,7 @@ TEST_F(Tormenta, NothingCrashesHangsOrIsLeftHalf) {
   estado.sRutaPropia = Ruta("home/duktores.ini");
   estado.sRutaDuct = carpeta_.path().toStdString();
   QFile::copy(DUKTORES_RAIZ "/Samples/pieces.json", carpeta_.filePath("pieces.json"));
+  std::filesystem::create_directory_symlink(DUKTORES_RAIZ "/docs/manual", Ruta("Duct/Manual"));
   reloj_.start();
   while (!reloj_.hasExpired(1000LL * segundos_)) {
     FrListaDuktores lista;
