@@ -129,7 +129,8 @@ void PonAyuda(QWidget& ventana) {
 }
 
 void MuestraAyuda(QWidget& padre) {
-  QDialog ventana(&padre);
+  auto& ventana = *new QDialog(&padre);  // the manual may go, with all that is its own, while this waits
+  ventana.setAttribute(Qt::WA_DeleteOnClose);
   ventana.setObjectName("FrAyuda");
   ventana.setWindowTitle(Q(Texto(texto::kAyuda)));
   auto* pagina = new QTextBrowser;

@@ -12,6 +12,7 @@
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMimeData>
@@ -110,6 +111,16 @@ class Tormenta : public ConVentanas {
     }
   }
 
+  /// A file dialog makes, renames and deletes whatever the machine has, folders with all that is in them: it may do
+  /// none of this, and goes as soon as it shows another folder than the test's own.
+  bool EsAjena(QWidget& ventana) const {
+    auto* ficheros = qobject_cast<QFileDialog*>(&ventana);
+    if (!ficheros) return qobject_cast<QPrintDialog*>(&ventana) != nullptr;  // a printer is somebody else's
+    ficheros->setOption(QFileDialog::ReadOnly);
+    const QString suya = QDir(carpeta_.path()).canonicalPath(), mostrada = ficheros->directory().canonicalPath();
+    return mostrada != suya && !mostrada.startsWith(suya + "/");
+  }
+
   void Paso() {
     if (reloj_.hasExpired(1000LL * segundos_)) return QApplication::exit();
     QTimer::singleShot(1, qApp, [this] { Paso(); });  // a window that is closed goes before the next step
@@ -120,8 +131,7 @@ class Tormenta : public ConVentanas {
     ++vistas_[ventana->objectName().toStdString() + " " + ventana->metaObject()->className()];
     constexpr int kMuyHondo = 24;
     const int que = Al(100);
-    // A printer is somebody else's.
-    if (hondo_ > kMuyHondo || qobject_cast<QPrintDialog*>(ventana)) {
+    if (hondo_ > kMuyHondo || EsAjena(*ventana)) {
       ventana->close();
     } else if (que < 45) {
       Tecla(*Hijo(*ventana));
