@@ -18,7 +18,6 @@ using ClipperLib::Paths;
 
 constexpr double kRendija = 1e4;  // square units
 constexpr double kRoto = 3;       // units: as wide as slits may be
-constexpr double kHolgura = 2;    // units: so deep a place may lie inside
 
 // Exact: coordinates have less than 29 bits.
 cInt Vuelta(IntPoint a, IntPoint b) { return a.X * b.Y - a.Y * b.X; }
@@ -144,19 +143,38 @@ NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
   inicios_.push_back(porFranja_.size());
 }
 
-bool NoCabe::Tapa(Punto2 p) const {
+// And the edges that are on level with it.
+bool NoCabe::Encierra(Punto2 p, std::span<const Canto>& suyos) const {
   if (p.x < caja_.desde.x || p.x > caja_.hasta.x || p.y < caja_.desde.y || p.y > caja_.hasta.y) return false;
   const auto franja = std::min(inicios_.size() - 2, static_cast<std::size_t>((p.y - caja_.desde.y) / alto_));
-  const std::span suyos(porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
-                        porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1]));
+  suyos = {porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
+           porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1])};
   bool dentro = false;
   for (const auto& [a, b] : suyos) {
     if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x)) dentro = !dentro;
   }
-  return dentro && std::ranges::none_of(suyos, [&](const Canto& c) {
+  return dentro;
+}
+
+bool NoCabe::Tapa(Punto2 p) const {
+  std::span<const Canto> suyos;
+  return Encierra(p, suyos) && std::ranges::none_of(suyos, [&](const Canto& c) {
            return p.x >= std::min(c.p.x, c.q.x) - kHolgura && p.x <= std::max(c.p.x, c.q.x) + kHolgura &&
                   DistanciaASegmento(p, c.p, c.q) < kHolgura;
          });
+}
+
+double NoCabe::Hondura(Punto2 p) const {
+  std::span<const Canto> suyos;
+  if (!Encierra(p, suyos)) return 0;
+  double menor = 1e300;
+  for (const auto& [a, b] : cantos_) {
+    const Punto2 u = b - a, v = p - a;
+    const double largo = u.x * u.x + u.y * u.y, t = std::clamp((u.x * v.x + u.y * v.y) / largo, 0.0, 1.0);
+    const double x = v.x - t * u.x, y = v.y - t * u.y;
+    menor = std::min(menor, x * x + y * y);
+  }
+  return std::sqrt(menor);
 }
 
 std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {

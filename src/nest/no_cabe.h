@@ -4,12 +4,16 @@
 #include <array>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
 #include "nest/silueta.h"
 
 namespace duktores {
+
+/// Units: so deep a place may lie inside, which corners are rounded by.
+inline constexpr double kHolgura = 2;
 
 /// Bounded by the edges of some rings; a point is inside if it lies within an odd number of them.
 class NoCabe {
@@ -20,10 +24,14 @@ class NoCabe {
   explicit NoCabe(std::vector<Canto> cantos);
 
   const std::vector<Canto>& Cantos() const { return cantos_; }
-  /// Whether the point lies inside, deeper than what corners are rounded by.
+  /// Whether the point lies deeper inside.
   bool Tapa(Punto2 p) const;
+  /// How far it is from a point inside to where it is free; 0 outside.
+  double Hondura(Punto2 p) const;
 
  private:
+  bool Encierra(Punto2 p, std::span<const Canto>& suyos) const;
+
   std::vector<Canto> cantos_;
   Extremos caja_;
   // The edges once more, those of each of some level strips together.
