@@ -92,7 +92,7 @@ class Salida {
  private:
   static constexpr std::size_t kTardes = 10;
   static constexpr int kSinFin = std::numeric_limits<int>::max();
-  static constexpr double kParteOrdenes = 0.3;  // of the time
+  static constexpr double kParteOrdenes = 0.2;  // of the time
 
   void CambiaOrdenes(int vueltas, const std::function<bool()>& sigue, Tanda& sana, Mejor& mejor) {
     for (int vuelta = 0; vuelta < vueltas && sigue(); ++vuelta) {
@@ -109,9 +109,47 @@ class Salida {
     }
   }
 
-  // Takes a strip away from the emptiest sheet, so that parts overlap, and moves them apart again.
+  // Sheets that have less room now than what lies there needs: the emptiest one, and some others.
+  struct Reto {
+    std::vector<std::size_t> hojas;
+    std::vector<Punto2> tamanos;
+    std::vector<Suelta> partes;
+    bool echa;  // one part may not stay on the emptiest sheet; else a strip of that is taken away
+  };
+  Reto Reta(const Tanda& tanda, double paso) {
+    constexpr std::size_t kOtras = 6, kPartes = 400;
+    constexpr double kEcha = 0.7, kEntra = 0.8;
+    const auto& hojas = tanda.Hojas();
+    const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
+    Reto reto{{static_cast<std::size_t>(floja - hojas.begin())}, {}, {}, hojas.size() > 1 && azar_.Parte() < kEcha};
+    std::size_t cuantas = floja->puestas.size();
+    for (std::size_t i = hojas.size() > 1 ? 1 + azar_.Menor(kOtras) : 0; i > 0; --i) {
+      const std::size_t otra = azar_.Menor(hojas.size());
+      cuantas += hojas[otra].puestas.size();
+      if (cuantas > kPartes) break;
+      if (std::ranges::find(reto.hojas, otra) == reto.hojas.end()) reto.hojas.push_back(otra);
+    }
+    for (const std::size_t hoja : reto.hojas) reto.tamanos.push_back(tanda.Tamano(hojas[hoja].chapa));
+    reto.partes = tanda.Sueltas(reto.hojas);
+    reto.echa = reto.echa && reto.hojas.size() > 1;
+    if (!reto.echa) {
+      reto.tamanos[0].x = (1 - paso) * floja->derecha + margen_;
+      return reto;
+    }
+    Suelta& fuera = reto.partes[azar_.Menor(floja->puestas.size())];
+    fuera.vedada = 0;
+    // What comes in its place has to be smaller.
+    const double entra = azar_.Parte() < 0.5 ? 0 : kEntra * moldes_.Area(fuera.parte);
+    for (Suelta& parte : reto.partes) {
+      if (parte.hoja != 0 && moldes_.Area(parte.parte) > entra) parte.vedada = 0;
+    }
+    return reto;
+  }
+
+  // Parts overlap for want of room, and are moved apart again.
   void Aprieta(int vueltas, const std::function<bool()>& sigue, Tanda& sana, Mejor& mejor, bool juntas) {
     constexpr double kPasoMinimo = 0.002, kPasoMaximo = 0.25;
+    constexpr std::size_t kDemasiadas = 3000;  // parts on a sheet
     Separador separador(moldes_, margen_, azar_);
     double paso = 0.03;
     for (int vuelta = 0; vuelta < vueltas && sigue(); ++vuelta) {
@@ -119,19 +157,17 @@ class Salida {
         const auto otra = mejor.Sana();
         if (otra && otra->Coste() < sana.Coste()) sana = *otra;
       }
-      const auto& hojas = sana.Hojas();
-      const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
-      std::vector<Punto2> tamanos;
-      for (const Tanda::Hoja& hoja : hojas) tamanos.push_back(sana.Tamano(hoja.chapa));
-      tamanos[static_cast<std::size_t>(floja - hojas.begin())].x = (1 - paso) * floja->derecha + margen_;
-      auto partes = sana.Sueltas();
+      Reto reto = Reta(sana, paso);
+      const bool sirve = reto.partes.size() > 1 && reto.partes.size() <= kDemasiadas;
+      if (!sirve && sana.Hojas().size() == 1) return;
+      if (!sirve) continue;
       Tanda nueva = sana;
-      const bool sueltas = separador.Separa(partes, tamanos, sigue);
-      if (sueltas) nueva.Toma(partes);
+      const bool sueltas = separador.Separa(reto.partes, reto.tamanos, sigue);
+      if (sueltas) nueva.Toma(reto.hojas, reto.partes);
       if (sueltas && nueva.Coste() < sana.Coste() && mejor.Ofrece(nueva, nueva.Coste(), numero_)) {
         sana = std::move(nueva);
         paso = std::min(1.5 * paso, kPasoMaximo);
-      } else {
+      } else if (!reto.echa) {
         paso = std::max(paso / 2, kPasoMinimo);
       }
     }

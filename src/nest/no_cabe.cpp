@@ -130,6 +130,21 @@ NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
   constexpr std::size_t kPorFranja = 2, kFranjas = 64;
   for (const Canto& canto : cantos_) caja_.Incluye(canto.p);
   if (cantos_.empty()) return;
+  medio_ = 0.5 * (caja_.desde + caja_.hasta);
+  for (std::size_t i = 0; i < cantos_.size(); ++i) {
+    // The last group is filled up with its last edge.
+    if (i % kALaVez == 0) grupos_.emplace_back();
+    const Punto2 p = cantos_[i].p - medio_, u = cantos_[i].q - cantos_[i].p;
+    const double largo = u.x * u.x + u.y * u.y;
+    for (std::size_t k = i % kALaVez; k < kALaVez; ++k) {
+      Grupo& g = grupos_.back();
+      g.x[k] = static_cast<float>(p.x);
+      g.y[k] = static_cast<float>(p.y);
+      g.ux[k] = static_cast<float>(u.x);
+      g.uy[k] = static_cast<float>(u.y);
+      g.inverso[k] = static_cast<float>(largo > 0 ? 1 / largo : 0);
+    }
+  }
   const std::size_t franjas = std::clamp<std::size_t>(cantos_.size() / kPorFranja, 1, kFranjas);
   alto_ = std::max(1.0, caja_.Alto() / static_cast<double>(franjas));
   for (std::size_t i = 0; i < franjas; ++i) {
@@ -167,14 +182,20 @@ bool NoCabe::Tapa(Punto2 p) const {
 double NoCabe::Hondura(Punto2 p) const {
   std::span<const Canto> suyos;
   if (!Encierra(p, suyos)) return 0;
-  double menor = 1e300;
-  for (const auto& [a, b] : cantos_) {
-    const Punto2 u = b - a, v = p - a;
-    const double largo = u.x * u.x + u.y * u.y, t = std::clamp((u.x * v.x + u.y * v.y) / largo, 0.0, 1.0);
-    const double x = v.x - t * u.x, y = v.y - t * u.y;
-    menor = std::min(menor, x * x + y * y);
+  const auto px = static_cast<float>(p.x - medio_.x), py = static_cast<float>(p.y - medio_.y);
+  const Cuatro cero{}, uno = cero + 1;
+  Cuatro menor = cero + 1e30F;
+  for (const Grupo& g : grupos_) {
+    const Cuatro vx = px - g.x, vy = py - g.y;
+    Cuatro t = (g.ux * vx + g.uy * vy) * g.inverso;
+    t = t > cero ? t : cero;
+    t = t < uno ? t : uno;
+    const Cuatro x = vx - t * g.ux, y = vy - t * g.uy, d = x * x + y * y;
+    menor = d < menor ? d : menor;
   }
-  return std::sqrt(menor);
+  float ya = menor[0];
+  for (std::size_t k = 1; k < kALaVez; ++k) ya = std::min(ya, menor[k]);
+  return std::sqrt(static_cast<double>(ya));
 }
 
 std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {

@@ -26,7 +26,7 @@ class NoCabe {
   const std::vector<Canto>& Cantos() const { return cantos_; }
   /// Whether the point lies deeper inside.
   bool Tapa(Punto2 p) const;
-  /// How far it is from a point inside to where it is free; 0 outside.
+  /// How far it is from a point inside to where it is free, to about a unit; 0 outside.
   double Hondura(Punto2 p) const;
 
  private:
@@ -38,6 +38,14 @@ class NoCabe {
   double alto_ = 0;
   std::vector<std::size_t> inicios_;
   std::vector<Canto> porFranja_;
+  // And once more, seen from the middle, as the processor works several at once.
+  static constexpr std::size_t kALaVez = 4;
+  using Cuatro = float __attribute__((vector_size(kALaVez * sizeof(float))));
+  struct Grupo {
+    Cuatro x, y, ux, uy, inverso;  // where an edge begins, what it adds, one over the square of its length
+  };
+  Punto2 medio_;
+  std::vector<Grupo> grupos_;
 };
 
 /// `movida` is turned before.

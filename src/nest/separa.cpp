@@ -7,6 +7,8 @@ namespace duktores {
 
 namespace {
 
+constexpr double kSegura = kHolgura / 2;  // so deep parts may overlap, by depths that are rounded
+
 Punto2 Acotado(Punto2 p, const Extremos& donde) {
   return {std::clamp(p.x, donde.desde.x, donde.hasta.x), std::clamp(p.y, donde.desde.y, donde.hasta.y)};
 }
@@ -20,6 +22,7 @@ Extremos Separador::Sitios(std::size_t parte, std::size_t giro, std::size_t hoja
 }
 
 bool Separador::Dentro(const Suelta& parte) const {
+  if (parte.vedada == parte.hoja) return false;
   const Extremos donde = Sitios(parte.parte, parte.giro, parte.hoja);
   const Punto2 p = parte.sitio;
   return p.x >= donde.desde.x - kRoce && p.x <= donde.hasta.x + kRoce && p.y >= donde.desde.y - kRoce &&
@@ -42,8 +45,9 @@ double Separador::Mide(std::vector<bool>& solapan) {
       for (std::size_t b = a + 1; b < hoja.size(); ++b) {
         const Suelta& otra = (*partes_)[hoja[b]];
         const auto no = moldes_.NoCabeEntre(fija.parte, fija.giro, otra.parte, otra.giro);
-        const double d = no->Hondura(moldes_.ContragiroDe(fija.giro)(otra.sitio - fija.sitio));
-        if (d <= kHolgura) continue;
+        const Punto2 donde = moldes_.ContragiroDe(fija.giro)(otra.sitio - fija.sitio);
+        if (!no->Tapa(donde)) continue;
+        const double d = std::max(kHolgura, no->Hondura(donde));
         pares.push_back({hoja[a], hoja[b], d});
         suma += d;
         mayor = std::max(mayor, d);
@@ -67,7 +71,7 @@ double Separador::Valor(const Lugar& lugar, Punto2 sitio, double tope) {
   double suma = 0;
   for (const Vecino& v : lugar.vecinos) {
     const double d = v.no->Hondura(v.contragiro(sitio - v.sitio));
-    if (d <= kHolgura) continue;
+    if (d <= kSegura) continue;
     suma += v.peso * d;
     if (suma >= tope) break;
   }
@@ -80,6 +84,7 @@ const Separador::Lugar* Separador::LugarDe(std::size_t cual, std::size_t hoja, s
     if (lugar->hoja == hoja && lugar->giro == giro) return lugar.get();
   }
   const std::size_t parte = (*partes_)[cual].parte;
+  if ((*partes_)[cual].vedada == hoja) return nullptr;
   Extremos donde = Sitios(parte, giro, hoja);
   if (donde.Ancho() < -kRoce || donde.Alto() < -kRoce) return nullptr;
   donde.hasta = {std::max(donde.desde.x, donde.hasta.x), std::max(donde.desde.y, donde.hasta.y)};
@@ -167,12 +172,12 @@ void Separador::Mueve(std::size_t cual) {
     std::erase(enHoja_[parte.hoja], cual);
     enHoja_[mejor.lugar->hoja].push_back(cual);
   }
-  parte = {parte.parte, mejor.lugar->giro, mejor.lugar->hoja, mejor.sitio};
+  parte = {parte.parte, mejor.lugar->giro, mejor.lugar->hoja, mejor.sitio, parte.vedada};
 }
 
 bool Separador::Separa(std::vector<Suelta>& partes, const std::vector<Punto2>& tamanos,
                        const std::function<bool()>& sigue) {
-  constexpr int kPaciencia = 60;
+  constexpr std::size_t kPaciencia = 25;  // moves of each part without getting better
   constexpr double kMejora = 0.98;
   partes_ = &partes;
   tamanos_ = &tamanos;
@@ -181,7 +186,7 @@ bool Separador::Separa(std::vector<Suelta>& partes, const std::vector<Punto2>& t
   pesos_.assign(partes.size() * (partes.size() - 1) / 2, 1);
   double menor = 1e300;
   std::vector<bool> solapan;
-  for (int fallos = 0; fallos < kPaciencia; ++fallos) {
+  for (std::size_t fallos = 0; fallos < kPaciencia * partes.size();) {
     const double suma = Mide(solapan);
     if (suma <= 0) return true;
     if (suma < kMejora * menor) fallos = 0;
@@ -194,6 +199,7 @@ bool Separador::Separa(std::vector<Suelta>& partes, const std::vector<Punto2>& t
     for (const std::size_t i : orden) {
       if (!sigue()) return false;
       Mueve(i);
+      ++fallos;
     }
   }
   return false;

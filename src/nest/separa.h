@@ -14,6 +14,7 @@ namespace duktores {
 struct Suelta {
   std::size_t parte, giro, hoja;
   Punto2 sitio;
+  std::optional<std::size_t> vedada{};  ///< the sheet that it may not stay on
 };
 
 class Separador {

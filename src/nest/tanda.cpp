@@ -64,27 +64,28 @@ void Tanda::Suma(Hoja& hoja) const {
   }
 }
 
-std::vector<Suelta> Tanda::Sueltas() const {
+std::vector<Suelta> Tanda::Sueltas(const std::vector<std::size_t>& hojas) const {
   std::vector<Suelta> sueltas;
-  for (std::size_t i = 0; i < hojas_.size(); ++i) {
-    for (const Puesta& p : hojas_[i].puestas) sueltas.push_back({p.parte, p.giro, i, p.sitio});
+  for (std::size_t i = 0; i < hojas.size(); ++i) {
+    for (const Puesta& p : hojas_[hojas[i]].puestas) sueltas.push_back({p.parte, p.giro, i, p.sitio});
   }
   return sueltas;
 }
 
-void Tanda::Toma(const std::vector<Suelta>& partes) {
+void Tanda::Toma(const std::vector<std::size_t>& hojas, const std::vector<Suelta>& partes) {
+  for (const std::size_t hoja : hojas) hojas_[hoja].puestas.clear();
+  for (const Suelta& s : partes) hojas_[hojas[s.hoja]].puestas.push_back({s.parte, s.giro, s.sitio});
   std::vector<Turno> orden, sinHoja;
   for (const std::size_t turno : faltan_) sinHoja.push_back(turnos[turno]);
-  for (std::size_t i = 0; i < hojas_.size(); ++i) {
-    Hoja nueva{hojas_[i].chapa, {}, {}};
-    for (const Suelta& s : partes) {
-      if (s.hoja != i) continue;
-      nueva.puestas.push_back({s.parte, s.giro, s.sitio});
-      nueva.turnos.push_back(orden.size());
-      orden.push_back({s.parte});
+  for (Hoja& hoja : hojas_) {
+    hoja.turnos.clear();
+    hoja.llena.clear();
+    hoja.apartada = false;
+    for (const Puesta& p : hoja.puestas) {
+      hoja.turnos.push_back(orden.size());
+      orden.push_back({p.parte});
     }
-    Suma(nueva);
-    hojas_[i] = std::move(nueva);
+    Suma(hoja);
   }
   std::erase_if(hojas_, [](const Hoja& hoja) { return hoja.puestas.empty(); });
   for (std::size_t i = 0; i < faltan_.size(); ++i) faltan_[i] = orden.size() + i;

@@ -34,9 +34,9 @@ class Tanda {
   bool Coloca(Tanteo& tanteo, std::size_t desde, double tope, const std::function<bool()>& sigue);
   /// Puts the turns of these sheets behind all others and gives the place of the first one; what is laid stays so.
   std::size_t Aparta(const std::vector<std::size_t>& hojas);
-  /// The parts as they lie, by sheets; and a layout of the same parts that lie otherwise.
-  std::vector<Suelta> Sueltas() const;
-  void Toma(const std::vector<Suelta>& partes);
+  /// The parts as they lie on some sheets, each counted by its place among these; and how they are to lie instead.
+  std::vector<Suelta> Sueltas(const std::vector<std::size_t>& hojas) const;
+  void Toma(const std::vector<std::size_t>& hojas, const std::vector<Suelta>& partes);
   Punto2 Tamano(std::size_t chapa) const { return moldes_->Escala() * encargo_->chapas[chapa].tamano; }
   /// What is to be made small: area of sheets; of the emptiest only what is used of it; and of parts without a sheet.
   double Coste() const;
