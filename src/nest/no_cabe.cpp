@@ -199,7 +199,7 @@ double NoCabe::Hondura(Punto2 p) const {
 }
 
 std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {
-  constexpr std::size_t kMaximo = 8192;  // on a shelf
+  constexpr std::size_t kMaximo = 3'000'000;  // edges on all shelves, some 400 MB
   const std::uint64_t clave = ((static_cast<std::uint64_t>(fija) << 28) + movida) * 512 + pasos;
   Estante& estante = estantes_[(clave * 0x9E3779B97F4A7C15U) >> 58];
   {
@@ -208,7 +208,7 @@ std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, 
   }
   auto nuevo = std::make_shared<const NoCabe>(NoCabeDe(siluetas_[fija], siluetas_[movida], grados));
   const std::lock_guard guarda(estante.cerrojo);
-  if (estante.guardados.size() < kMaximo) estante.guardados.emplace(clave, nuevo);
+  if (cantos_ < kMaximo && estante.guardados.emplace(clave, nuevo).second) cantos_ += nuevo->Cantos().size();
   return nuevo;
 }
 

@@ -2,6 +2,7 @@
 // No-fit polygons: where the origin of one outline may not lie while another one lies at the origin.
 
 #include <array>
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <span>
@@ -51,7 +52,7 @@ class NoCabe {
 /// `movida` is turned before.
 NoCabe NoCabeDe(const Silueta& fija, const Silueta& movida, double grados);
 
-/// Keeps what has been asked for. For all threads.
+/// Keeps what has been asked for, as long as there is room. For all threads.
 class NoCaben {
  public:
   explicit NoCaben(const std::vector<Silueta>& siluetas) : siluetas_(siluetas) {}
@@ -65,6 +66,7 @@ class NoCaben {
   };
   const std::vector<Silueta>& siluetas_;
   std::array<Estante, 64> estantes_;
+  std::atomic<std::size_t> cantos_ = 0;
 };
 
 }  // namespace duktores
