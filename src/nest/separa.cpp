@@ -148,8 +148,8 @@ void Separador::Prueba(std::size_t cual) {
     const double valor = Valor(*lugar, sitio, tope);
     if (valor >= tope) continue;
     if (mejores_.size() == kQuedan) mejores_.pop_back();
-    const auto donde_va = std::ranges::upper_bound(mejores_, valor, {}, &Postura::valor);
-    mejores_.insert(donde_va, {valor, lugar, sitio});
+    const auto puesto = std::ranges::upper_bound(mejores_, valor, {}, &Postura::valor);
+    mejores_.insert(puesto, {valor, lugar, sitio});
   }
   for (Postura& postura : mejores_) Afina(postura, talla / 16, talla / 2000);
 }
