@@ -2,8 +2,8 @@
 #include <atomic>
 #include <chrono>
 #include <exception>
+#include <limits>
 #include <mutex>
-#include <random>
 #include <system_error>
 #include <thread>
 
@@ -16,17 +16,6 @@ namespace {
 
 using Reloj = std::chrono::steady_clock;
 constexpr double kInfinito = 1e300;
-
-// The library's distributions give other numbers with another library.
-class Azar {
- public:
-  explicit Azar(std::uint64_t semilla) : motor_(semilla) {}
-  std::size_t Menor(std::size_t n) { return static_cast<std::size_t>(motor_() % n); }
-  double Parte() { return static_cast<double>(motor_() >> 11) * 0x1p-53; }
-
- private:
-  std::mt19937_64 motor_;
-};
 
 enum class Orden : std::uint8_t { area, largo, caja };
 constexpr int kOrdenes = 3;
@@ -46,8 +35,14 @@ class Mejor {
     coste_ = coste;
     salida_ = salida;
     nido_ = std::move(nido);
+    if (sano) tanda_ = tanda;
     vigia_.mejora(*nido_);
     return sano;
+  }
+  /// The layout itself; none as long as there is no sound one.
+  std::optional<Tanda> Sana() {
+    const std::lock_guard guarda(cerrojo_);
+    return tanda_;
   }
   Nido Toma() { return nido_ ? std::move(*nido_) : Nido{}; }
 
@@ -56,6 +51,7 @@ class Mejor {
   const VigiaNido& vigia_;
   std::mutex cerrojo_;
   std::optional<Nido> nido_;
+  std::optional<Tanda> tanda_;
   double coste_ = 0;
   std::size_t salida_ = 0;
 };
@@ -68,6 +64,7 @@ class Salida {
         tanteo_(moldes),
         azar_(esfuerzo.semilla * 1000003 + numero),
         numero_(numero),
+        margen_(moldes.Escala() * encargo.margen),
         actual_(encargo, moldes) {
     for (const std::size_t parte : partes) actual_.turnos.push_back({parte});
   }
@@ -81,8 +78,24 @@ class Salida {
     if (actual_.turnos.size() < 2) return;
     Tanda sana = actual_;
     tardes_.assign(kTardes, coste_);
-    const auto sigue = [&] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < hasta); };
-    for (int vuelta = 0; (!esfuerzo.vueltas || vuelta < *esfuerzo.vueltas) && sigue(); ++vuelta) {
+    const auto desde = Reloj::now();
+    const auto medio = desde + std::chrono::duration_cast<Reloj::duration>(kParteOrdenes * (hasta - desde));
+    const auto plazo = [&](Reloj::time_point fin) {
+      return [&, fin] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < fin); };
+    };
+    const int ordenes = esfuerzo.vueltas ? (*esfuerzo.vueltas + 1) / 2 : kSinFin;
+    CambiaOrdenes(ordenes, plazo(medio), sana, mejor);
+    if (optimo_ >= kInfinito) return;
+    Aprieta(esfuerzo.vueltas ? *esfuerzo.vueltas - ordenes : kSinFin, plazo(hasta), sana, mejor, !esfuerzo.vueltas);
+  }
+
+ private:
+  static constexpr std::size_t kTardes = 10;
+  static constexpr int kSinFin = std::numeric_limits<int>::max();
+  static constexpr double kParteOrdenes = 0.2;  // of the time
+
+  void CambiaOrdenes(int vueltas, const std::function<bool()>& sigue, Tanda& sana, Mejor& mejor) {
+    for (int vuelta = 0; vuelta < vueltas && sigue(); ++vuelta) {
       if (!Vuelta(vuelta, sigue) || coste_ >= optimo_) continue;
       if (mejor.Ofrece(actual_, coste_, numero_)) {
         optimo_ = coste_;
@@ -96,8 +109,69 @@ class Salida {
     }
   }
 
- private:
-  static constexpr std::size_t kTardes = 10;
+  // Sheets that have less room now than what lies there needs: the emptiest one, and some others.
+  struct Reto {
+    std::vector<std::size_t> hojas;
+    std::vector<Punto2> tamanos;
+    std::vector<Suelta> partes;
+    bool echa;  // one part may not stay on the emptiest sheet; else a strip of that is taken away
+  };
+  Reto Reta(const Tanda& tanda, double paso) {
+    constexpr std::size_t kOtras = 6, kPartes = 400;
+    constexpr double kEcha = 0.7, kEntra = 0.8;
+    const auto& hojas = tanda.Hojas();
+    const auto floja = std::ranges::min_element(hojas, {}, &Tanda::Hoja::area);
+    Reto reto{{static_cast<std::size_t>(floja - hojas.begin())}, {}, {}, hojas.size() > 1 && azar_.Parte() < kEcha};
+    std::size_t cuantas = floja->puestas.size();
+    for (std::size_t i = hojas.size() > 1 ? 1 + azar_.Menor(kOtras) : 0; i > 0; --i) {
+      const std::size_t otra = azar_.Menor(hojas.size());
+      cuantas += hojas[otra].puestas.size();
+      if (cuantas > kPartes) break;
+      if (std::ranges::find(reto.hojas, otra) == reto.hojas.end()) reto.hojas.push_back(otra);
+    }
+    for (const std::size_t hoja : reto.hojas) reto.tamanos.push_back(tanda.Tamano(hojas[hoja].chapa));
+    reto.partes = tanda.Sueltas(reto.hojas);
+    reto.echa = reto.echa && reto.hojas.size() > 1;
+    if (!reto.echa) {
+      reto.tamanos[0].x = (1 - paso) * floja->derecha + margen_;
+      return reto;
+    }
+    Suelta& fuera = reto.partes[azar_.Menor(floja->puestas.size())];
+    fuera.vedada = 0;
+    // What comes in its place has to be smaller.
+    const double entra = azar_.Parte() < 0.5 ? 0 : kEntra * moldes_.Area(fuera.parte);
+    for (Suelta& parte : reto.partes) {
+      if (parte.hoja != 0 && moldes_.Area(parte.parte) > entra) parte.vedada = 0;
+    }
+    return reto;
+  }
+
+  // Parts overlap for want of room, and are moved apart again.
+  void Aprieta(int vueltas, const std::function<bool()>& sigue, Tanda& sana, Mejor& mejor, bool juntas) {
+    constexpr double kPasoMinimo = 0.002, kPasoMaximo = 0.25;
+    constexpr std::size_t kDemasiadas = 3000;  // parts on a sheet
+    Separador separador(moldes_, margen_, azar_);
+    double paso = 0.03;
+    for (int vuelta = 0; vuelta < vueltas && sigue(); ++vuelta) {
+      if (juntas) {
+        const auto otra = mejor.Sana();
+        if (otra && otra->Coste() < sana.Coste()) sana = *otra;
+      }
+      Reto reto = Reta(sana, paso);
+      const bool sirve = reto.partes.size() > 1 && reto.partes.size() <= kDemasiadas;
+      if (!sirve && sana.Hojas().size() == 1) return;
+      if (!sirve) continue;
+      Tanda nueva = sana;
+      const bool sueltas = separador.Separa(reto.partes, reto.tamanos, sigue);
+      if (sueltas) nueva.Toma(reto.hojas, reto.partes);
+      if (sueltas && nueva.Coste() < sana.Coste() && mejor.Ofrece(nueva, nueva.Coste(), numero_)) {
+        sana = std::move(nueva);
+        paso = std::min(1.5 * paso, kPasoMaximo);
+      } else if (!reto.echa) {
+        paso = std::max(paso / 2, kPasoMinimo);
+      }
+    }
+  }
 
   // The ways to begin: other orders, and other tastes.
   void Ordena(Tanda& tanda, std::size_t manera) {
@@ -218,6 +292,7 @@ class Salida {
   Tanteo tanteo_;
   Azar azar_;
   std::size_t numero_;
+  double margen_;
   Tanda actual_;
   double coste_ = 0, optimo_ = 0;
   std::vector<double> tardes_;

@@ -18,7 +18,6 @@ using ClipperLib::Paths;
 
 constexpr double kRendija = 1e4;  // square units
 constexpr double kRoto = 3;       // units: as wide as slits may be
-constexpr double kHolgura = 2;    // units: so deep a place may lie inside
 
 // Exact: coordinates have less than 29 bits.
 cInt Vuelta(IntPoint a, IntPoint b) { return a.X * b.Y - a.Y * b.X; }
@@ -131,6 +130,21 @@ NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
   constexpr std::size_t kPorFranja = 2, kFranjas = 64;
   for (const Canto& canto : cantos_) caja_.Incluye(canto.p);
   if (cantos_.empty()) return;
+  medio_ = 0.5 * (caja_.desde + caja_.hasta);
+  for (std::size_t i = 0; i < cantos_.size(); ++i) {
+    // The last group is filled up with its last edge.
+    if (i % kALaVez == 0) grupos_.emplace_back();
+    const Punto2 p = cantos_[i].p - medio_, u = cantos_[i].q - cantos_[i].p;
+    const double largo = u.x * u.x + u.y * u.y;
+    for (std::size_t k = i % kALaVez; k < kALaVez; ++k) {
+      Grupo& g = grupos_.back();
+      g.x[k] = static_cast<float>(p.x);
+      g.y[k] = static_cast<float>(p.y);
+      g.ux[k] = static_cast<float>(u.x);
+      g.uy[k] = static_cast<float>(u.y);
+      g.inverso[k] = static_cast<float>(largo > 0 ? 1 / largo : 0);
+    }
+  }
   const std::size_t franjas = std::clamp<std::size_t>(cantos_.size() / kPorFranja, 1, kFranjas);
   alto_ = std::max(1.0, caja_.Alto() / static_cast<double>(franjas));
   for (std::size_t i = 0; i < franjas; ++i) {
@@ -144,23 +158,48 @@ NoCabe::NoCabe(std::vector<Canto> cantos) : cantos_(std::move(cantos)) {
   inicios_.push_back(porFranja_.size());
 }
 
-bool NoCabe::Tapa(Punto2 p) const {
+// And the edges that are on level with it.
+bool NoCabe::Encierra(Punto2 p, std::span<const Canto>& suyos) const {
   if (p.x < caja_.desde.x || p.x > caja_.hasta.x || p.y < caja_.desde.y || p.y > caja_.hasta.y) return false;
   const auto franja = std::min(inicios_.size() - 2, static_cast<std::size_t>((p.y - caja_.desde.y) / alto_));
-  const std::span suyos(porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
-                        porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1]));
+  suyos = {porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja]),
+           porFranja_.begin() + static_cast<std::ptrdiff_t>(inicios_[franja + 1])};
   bool dentro = false;
   for (const auto& [a, b] : suyos) {
     if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x)) dentro = !dentro;
   }
-  return dentro && std::ranges::none_of(suyos, [&](const Canto& c) {
+  return dentro;
+}
+
+bool NoCabe::Tapa(Punto2 p) const {
+  std::span<const Canto> suyos;
+  return Encierra(p, suyos) && std::ranges::none_of(suyos, [&](const Canto& c) {
            return p.x >= std::min(c.p.x, c.q.x) - kHolgura && p.x <= std::max(c.p.x, c.q.x) + kHolgura &&
                   DistanciaASegmento(p, c.p, c.q) < kHolgura;
          });
 }
 
+double NoCabe::Hondura(Punto2 p) const {
+  std::span<const Canto> suyos;
+  if (!Encierra(p, suyos)) return 0;
+  const auto px = static_cast<float>(p.x - medio_.x), py = static_cast<float>(p.y - medio_.y);
+  const Cuatro cero{}, uno = cero + 1;
+  Cuatro menor = cero + 1e30F;
+  for (const Grupo& g : grupos_) {
+    const Cuatro vx = px - g.x, vy = py - g.y;
+    Cuatro t = (g.ux * vx + g.uy * vy) * g.inverso;
+    t = t > cero ? t : cero;
+    t = t < uno ? t : uno;
+    const Cuatro x = vx - t * g.ux, y = vy - t * g.uy, d = x * x + y * y;
+    menor = d < menor ? d : menor;
+  }
+  float ya = menor[0];
+  for (std::size_t k = 1; k < kALaVez; ++k) ya = std::min(ya, menor[k]);
+  return std::sqrt(static_cast<double>(ya));
+}
+
 std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, std::size_t pasos, double grados) {
-  constexpr std::size_t kMaximo = 8192;  // on a shelf
+  constexpr std::size_t kMaximo = 3'000'000;  // edges on all shelves, some 400 MB
   const std::uint64_t clave = ((static_cast<std::uint64_t>(fija) << 28) + movida) * 512 + pasos;
   Estante& estante = estantes_[(clave * 0x9E3779B97F4A7C15U) >> 58];
   {
@@ -169,7 +208,7 @@ std::shared_ptr<const NoCabe> NoCaben::De(std::size_t fija, std::size_t movida, 
   }
   auto nuevo = std::make_shared<const NoCabe>(NoCabeDe(siluetas_[fija], siluetas_[movida], grados));
   const std::lock_guard guarda(estante.cerrojo);
-  if (estante.guardados.size() < kMaximo) estante.guardados.emplace(clave, nuevo);
+  if (cantos_ < kMaximo && estante.guardados.emplace(clave, nuevo).second) cantos_ += nuevo->Cantos().size();
   return nuevo;
 }
 

@@ -47,17 +47,51 @@ void Tanda::Rebobina(std::size_t desde) {
       hoja.apartada = false;
     }
     while (!hoja.llena.empty() && hoja.llena.back().first >= desde) hoja.llena.pop_back();
-    hoja.area = hoja.derecha = 0;
-    for (const Puesta& p : hoja.puestas) {
-      hoja.area += moldes_->Area(p.parte);
-      hoja.derecha = std::max(hoja.derecha, p.sitio.x + moldes_->ExtremosEn(p.parte, p.giro).hasta.x);
-    }
+    Suma(hoja);
   }
   std::erase_if(hojas_, [](const Hoja& hoja) { return hoja.puestas.empty(); });
   while (!faltan_.empty() && faltan_.back() >= desde) faltan_.pop_back();
   faltaArea_ = 0;
   for (const std::size_t turno : faltan_) faltaArea_ += moldes_->Area(turnos[turno].parte);
   hechos_ = std::min(hechos_, desde);
+}
+
+void Tanda::Suma(Hoja& hoja) const {
+  hoja.area = hoja.derecha = 0;
+  for (const Puesta& p : hoja.puestas) {
+    hoja.area += moldes_->Area(p.parte);
+    hoja.derecha = std::max(hoja.derecha, p.sitio.x + moldes_->ExtremosEn(p.parte, p.giro).hasta.x);
+  }
+}
+
+std::vector<Suelta> Tanda::Sueltas(const std::vector<std::size_t>& hojas) const {
+  std::vector<Suelta> sueltas;
+  for (std::size_t i = 0; i < hojas.size(); ++i) {
+    for (const Puesta& p : hojas_[hojas[i]].puestas) sueltas.push_back({p.parte, p.giro, i, p.sitio});
+  }
+  return sueltas;
+}
+
+void Tanda::Toma(const std::vector<std::size_t>& hojas, const std::vector<Suelta>& partes) {
+  for (const std::size_t hoja : hojas) hojas_[hoja].puestas.clear();
+  for (const Suelta& s : partes) hojas_[hojas[s.hoja]].puestas.push_back({s.parte, s.giro, s.sitio});
+  std::vector<Turno> orden, sinHoja;
+  for (const std::size_t turno : faltan_) sinHoja.push_back(turnos[turno]);
+  for (Hoja& hoja : hojas_) {
+    hoja.turnos.clear();
+    hoja.llena.clear();
+    hoja.apartada = false;
+    for (const Puesta& p : hoja.puestas) {
+      hoja.turnos.push_back(orden.size());
+      orden.push_back({p.parte});
+    }
+    Suma(hoja);
+  }
+  std::erase_if(hojas_, [](const Hoja& hoja) { return hoja.puestas.empty(); });
+  for (std::size_t i = 0; i < faltan_.size(); ++i) faltan_[i] = orden.size() + i;
+  orden.insert(orden.end(), sinHoja.begin(), sinHoja.end());
+  turnos = std::move(orden);
+  hechos_ = turnos.size();
 }
 
 std::size_t Tanda::Aparta(const std::vector<std::size_t>& hojas) {

@@ -3,6 +3,7 @@
 // place.
 
 #include "nest/mesa.h"
+#include "nest/separa.h"
 
 namespace duktores {
 
@@ -33,6 +34,10 @@ class Tanda {
   bool Coloca(Tanteo& tanteo, std::size_t desde, double tope, const std::function<bool()>& sigue);
   /// Puts the turns of these sheets behind all others and gives the place of the first one; what is laid stays so.
   std::size_t Aparta(const std::vector<std::size_t>& hojas);
+  /// The parts as they lie on some sheets, each counted by its place among these; and how they are to lie instead.
+  std::vector<Suelta> Sueltas(const std::vector<std::size_t>& hojas) const;
+  void Toma(const std::vector<std::size_t>& hojas, const std::vector<Suelta>& partes);
+  Punto2 Tamano(std::size_t chapa) const { return moldes_->Escala() * encargo_->chapas[chapa].tamano; }
   /// What is to be made small: area of sheets; of the emptiest only what is used of it; and of parts without a sheet.
   double Coste() const;
   const std::vector<Hoja>& Hojas() const { return hojas_; }
@@ -43,10 +48,10 @@ class Tanda {
  private:
   bool CabeEn(std::size_t parte, std::size_t chapa) const;
   void Rebobina(std::size_t desde);
+  void Suma(Hoja& hoja) const;
   bool PonEn(Tanteo& tanteo, Hoja& hoja, std::size_t turno);
   bool Empieza(Tanteo& tanteo, std::size_t turno);
   double AreaDe(std::size_t chapa) const;
-  Punto2 Tamano(std::size_t chapa) const { return moldes_->Escala() * encargo_->chapas[chapa].tamano; }
 
   const EncargoNido* encargo_;
   Moldes* moldes_;

@@ -132,6 +132,25 @@ TEST(Nido, FillsBetterThanBoxesSideBySide) {
   EXPECT_EQ(nido.chapas.size(), 1U);  // where two boxes fit
 }
 
+// Rounds in which the order alone changes leave more room than those in which parts are moved apart.
+TEST(Nido, SqueezesWhatTheBestOrderLeavesLoose) {
+  EncargoNido encargo;
+  encargo.chapas = {{{6000, 1000}, 1}};
+  encargo.hueco = 5;
+  encargo.giro = 90;
+  for (const double grados : {60., 90., 120., 150.}) encargo.partes.push_back({Sector(400, 180, grados, 20), 4});
+  const auto largo = [&](int vueltas) {
+    const Nido nido = Anida(encargo, {.vueltas = vueltas});
+    EXPECT_TRUE(RevisaChapas(encargo, nido).empty() && CuadranCantidades(encargo, nido) && nido.faltan.empty());
+    double derecha = 0;
+    for (const Colocada& c : nido.chapas.at(0).partes) {
+      for (const Punto2 p : ContornoEn(encargo.partes[c.parte], c)) derecha = std::max(derecha, p.x);
+    }
+    return derecha;
+  };
+  EXPECT_LT(largo(8), 0.92 * largo(1));
+}
+
 TEST(Revision, FindsEachFault) {
   EncargoNido encargo;
   encargo.chapas = {{{1000, 1000}, 1}};

@@ -179,6 +179,7 @@ class Tormenta : public ConVentanas {
 };
 
 TEST_F(Tormenta, NothingCrashesHangsOrIsLeftHalf) {
+  GTEST_SKIP() << "STOP: deletes folders of the machine; mended in another tree.";
   SCOPED_TRACE("seed " + std::to_string(semilla_));
   usuario_.Calla();
   QDir().mkpath(carpeta_.filePath("home"));
