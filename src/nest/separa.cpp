@@ -7,6 +7,7 @@ namespace duktores {
 
 namespace {
 
+constexpr double kFuera = 1e9;            // what a part off its sheet counts as
 constexpr double kSegura = kHolgura / 2;  // so deep parts may overlap, by depths that are rounded
 
 Punto2 Acotado(Punto2 p, const Extremos& donde) {
@@ -31,7 +32,7 @@ bool Separador::Dentro(const Suelta& parte) const {
 
 // How much overlaps, and which parts; the weights of those pairs grow, all others shrink.
 double Separador::Mide(std::vector<bool>& solapan) {
-  constexpr double kCrece = 1.2, kCreceMas = 0.8, kMengua = 0.95;
+  constexpr double kCrece = 1.2, kCreceMas = 0.8, kMengua = 0.95, kMaximo = 1e15;
   struct Par {
     std::size_t i, j;
     double hondura;
@@ -57,12 +58,13 @@ double Separador::Mide(std::vector<bool>& solapan) {
   for (double& peso : pesos_) peso = std::max(1.0, kMengua * peso);
   for (const Par& par : pares) {
     solapan[par.i] = solapan[par.j] = true;
-    Peso(par.i, par.j) *= (kCrece + kCreceMas * par.hondura / mayor) / kMengua;
+    double& peso = Peso(par.i, par.j);
+    peso = std::min(kMaximo, peso * (kCrece + kCreceMas * par.hondura / mayor) / kMengua);
   }
   for (std::size_t i = 0; i < partes_->size(); ++i) {
     if (Dentro((*partes_)[i])) continue;
     solapan[i] = true;
-    suma += 1e9;
+    suma += kFuera;
   }
   return suma;
 }
