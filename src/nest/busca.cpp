@@ -69,20 +69,27 @@ class Salida {
     for (const std::size_t parte : partes) actual_.turnos.push_back({parte});
   }
 
-  /// The first layout is whole, unless the watcher stops it.
+  /// The very first layout is there at once, and the first start's next one is whole however long it takes, unless the
+  /// watcher stops it.
   void Trabaja(const EsfuerzoNido& esfuerzo, Reloj::time_point hasta, const VigiaNido& vigia, Mejor& mejor) {
+    if (numero_ == 0) {
+      Tanda deprisa = actual_;
+      deprisa.Estantes();
+      mejor.Ofrece(deprisa, deprisa.Coste(), numero_);
+    }
+    const auto plazo = [&](Reloj::time_point fin) {
+      return [&, fin] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < fin); };
+    };
     Ordena(actual_, numero_);
-    const bool entera = actual_.Coloca(tanteo_, 0, kInfinito, vigia.sigue);
+    const bool entera = actual_.Coloca(tanteo_, 0, kInfinito, numero_ == 0 ? vigia.sigue : plazo(hasta));
     coste_ = optimo_ = entera ? actual_.Coste() : kInfinito;
+    if (!entera && numero_ > 0) return;
     if (!mejor.Ofrece(actual_, coste_, numero_)) coste_ = optimo_ = kInfinito;
-    if (actual_.turnos.size() < 2) return;
+    if (actual_.turnos.size() < 2 || actual_.Hojas().empty()) return;
     Tanda sana = actual_;
     tardes_.assign(kTardes, coste_);
     const auto desde = Reloj::now();
     const auto medio = desde + std::chrono::duration_cast<Reloj::duration>(kParteOrdenes * (hasta - desde));
-    const auto plazo = [&](Reloj::time_point fin) {
-      return [&, fin] { return vigia.sigue() && (esfuerzo.vueltas || Reloj::now() < fin); };
-    };
     const int ordenes = esfuerzo.vueltas ? (*esfuerzo.vueltas + 1) / 2 : kSinFin;
     CambiaOrdenes(ordenes, plazo(medio), sana, mejor);
     if (optimo_ >= kInfinito) return;

@@ -7,15 +7,16 @@ namespace duktores {
 
 namespace {
 
-constexpr int kCeldas = 400;  // along the longer side
+// Squares along the sides of the sheet; of the longer one no more than the last.
+constexpr int kCeldas = 400, kCeldasCorto = 200, kMaximo = 4000;
 
 /// The sheet in squares, of which those are taken that a part covers or comes near to.
 class Cuadricula {
  public:
   explicit Cuadricula(Punto2 tamano)
-      : paso_(std::max(tamano.x, tamano.y) / kCeldas),
-        columnas_(std::max(1, static_cast<int>(tamano.x / paso_ + kResto))),
-        filas_(std::max(1, static_cast<int>(tamano.y / paso_ + kResto))),
+      : paso_(Paso(std::max(tamano.x, tamano.y), std::min(tamano.x, tamano.y))),
+        columnas_(static_cast<int>(tamano.x / paso_ + kResto)),
+        filas_(static_cast<int>(tamano.y / paso_ + kResto)),
         tomadas_(static_cast<std::size_t>(columnas_ * filas_)) {}
 
   void Tapa(const std::vector<Punto2>& contorno, double hueco) {
@@ -52,6 +53,10 @@ class Cuadricula {
 
  private:
   static constexpr double kResto = 1e-9;
+
+  static double Paso(double largo, double corto) {
+    return std::max(largo / kMaximo, std::min(largo / kCeldas, corto / kCeldasCorto));
+  }
 
   std::size_t En(int columna, int fila) const { return static_cast<std::size_t>(fila * columnas_ + columna); }
   int Celda(double v, int cuantas) const {

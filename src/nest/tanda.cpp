@@ -20,14 +20,84 @@ Tanda::Tanda(const EncargoNido& encargo, Moldes& moldes)
 
 double Tanda::AreaDe(std::size_t chapa) const { return Tamano(chapa).x * Tamano(chapa).y; }
 
-bool Tanda::CabeEn(std::size_t parte, std::size_t chapa) const {
+// The turn at which it fits and is lowest.
+std::optional<std::size_t> Tanda::GiroEn(std::size_t parte, std::size_t chapa) const {
   const double borde = 2 * moldes_->Escala() * encargo_->margen;
   const Punto2 hay = Tamano(chapa) - Punto2{borde, borde};
+  std::optional<std::size_t> mejor;
   for (std::size_t g = 0; g < moldes_->Giros().size(); ++g) {
     const Extremos& caja = moldes_->ExtremosEn(parte, g);
-    if (caja.Ancho() <= hay.x + kRoce && caja.Alto() <= hay.y + kRoce) return true;
+    if (caja.Ancho() > hay.x + kRoce || caja.Alto() > hay.y + kRoce) continue;
+    if (!mejor || caja.Alto() < moldes_->ExtremosEn(parte, *mejor).Alto()) mejor = g;
   }
-  return false;
+  return mejor;
+}
+
+// The smallest kind of sheet that takes it and of which one is left.
+std::optional<std::size_t> Tanda::ChapaPara(std::size_t parte) const {
+  for (const std::size_t chapa : porTamano_) {
+    const auto& cuantas = encargo_->chapas[chapa].cuantas;
+    const bool queda = !cuantas || std::ranges::count(hojas_, chapa, &Hoja::chapa) < *cuantas;
+    if (queda && CabeEn(parte, chapa)) return chapa;
+  }
+  return {};
+}
+
+void Tanda::Estantes() {
+  struct Estante {
+    std::size_t hoja;
+    double x, y, alto;
+  };
+  const double margen = moldes_->Escala() * encargo_->margen, hueco = moldes_->Escala() * encargo_->hueco + kHolgura;
+  Rebobina(0);
+  std::vector<Estante> estantes;
+  std::vector<double> techos;  // of each sheet, where its next shelf goes
+  const auto alto = [&](const Turno& t) {
+    const auto giro = porTamano_.empty() ? std::nullopt : GiroEn(t.parte, porTamano_.back());
+    return moldes_->ExtremosEn(t.parte, giro.value_or(0)).Alto();
+  };
+  std::ranges::stable_sort(turnos, std::ranges::greater{}, alto);
+  // The shelf that takes it, made if it has to be.
+  const auto busca = [&](std::size_t parte) -> Estante* {
+    const auto cabe = [&](double x, double y, double techo, std::size_t hoja) {
+      const auto giro = GiroEn(parte, hojas_[hoja].chapa);
+      if (!giro) return false;
+      const Extremos& caja = moldes_->ExtremosEn(parte, *giro);
+      return x + caja.Ancho() <= Tamano(hojas_[hoja].chapa).x - margen + kRoce && y + caja.Alto() <= techo + kRoce;
+    };
+    for (Estante& e : estantes) {
+      if (cabe(e.x, e.y, e.y + e.alto, e.hoja)) return &e;
+    }
+    const auto nuevo = [&](std::size_t hoja) {
+      const double y = techos[hoja], suyo = moldes_->ExtremosEn(parte, *GiroEn(parte, hojas_[hoja].chapa)).Alto();
+      techos[hoja] += suyo + hueco;
+      return &estantes.emplace_back(Estante{hoja, margen, y, suyo});
+    };
+    for (std::size_t hoja = 0; hoja < hojas_.size(); ++hoja) {
+      if (cabe(margen, techos[hoja], Tamano(hojas_[hoja].chapa).y - margen, hoja)) return nuevo(hoja);
+    }
+    const auto chapa = ChapaPara(parte);
+    if (!chapa) return nullptr;
+    hojas_.push_back({*chapa, {}, {}});
+    techos.push_back(margen);
+    return nuevo(hojas_.size() - 1);
+  };
+  for (; hechos_ < turnos.size(); ++hechos_) {
+    const std::size_t parte = turnos[hechos_].parte;
+    Estante* estante = busca(parte);
+    if (!estante) {
+      faltan_.push_back(hechos_);
+      faltaArea_ += moldes_->Area(parte);
+      continue;
+    }
+    Hoja& hoja = hojas_[estante->hoja];
+    const std::size_t giro = *GiroEn(parte, hoja.chapa);
+    const Extremos& caja = moldes_->ExtremosEn(parte, giro);
+    hoja.puestas.push_back({parte, giro, Punto2{estante->x, estante->y} - caja.desde});
+    hoja.turnos.push_back(hechos_);
+    estante->x += caja.Ancho() + hueco;
+  }
+  for (Hoja& hoja : hojas_) Suma(hoja);
 }
 
 bool Tanda::CabeEnAlguna(std::size_t parte) const {

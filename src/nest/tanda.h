@@ -32,6 +32,8 @@ class Tanda {
   /// Lays what stands from this place of the order on; the rest stays. False if it was given up: because it would cost
   /// more than `tope`, or because `sigue` says so.
   bool Coloca(Tanteo& tanteo, std::size_t desde, double tope, const std::function<bool()>& sigue);
+  /// Lays all anew at once, box beside box on shelves: loosely, but in no time.
+  void Estantes();
   /// Puts the turns of these sheets behind all others and gives the place of the first one; what is laid stays so.
   std::size_t Aparta(const std::vector<std::size_t>& hojas);
   /// The parts as they lie on some sheets, each counted by its place among these; and how they are to lie instead.
@@ -46,7 +48,9 @@ class Tanda {
   bool CabeEnAlguna(std::size_t parte) const;
 
  private:
-  bool CabeEn(std::size_t parte, std::size_t chapa) const;
+  std::optional<std::size_t> GiroEn(std::size_t parte, std::size_t chapa) const;
+  bool CabeEn(std::size_t parte, std::size_t chapa) const { return GiroEn(parte, chapa).has_value(); }
+  std::optional<std::size_t> ChapaPara(std::size_t parte) const;
   void Rebobina(std::size_t desde);
   void Suma(Hoja& hoja) const;
   bool PonEn(Tanteo& tanteo, Hoja& hoja, std::size_t turno);
