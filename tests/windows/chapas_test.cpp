@@ -60,8 +60,7 @@ TEST_F(Chapas, AListIsLaidStoppedWrittenAndNothingIsLost) {
   const auto& faltan = Hijo<QListWidget>(ventana, "LstFaltan");
   std::string textos;
   for (int i = 0; i < faltan.count(); ++i) textos += faltan.item(i)->text().toStdString() + "\n";
-  for (const char* falta :
-       {"big - Pieza 1: mayor que", "big - Pieza 2: mayor que", "empty: RS: ", "bad: quantity"}) {
+  for (const char* falta : {"big - Pieza 1: mayor que", "big - Pieza 2: mayor que", "empty: RS: ", "bad: quantity"}) {
     EXPECT_TRUE(std::regex_search(textos, std::regex(falta))) << falta << " in\n" << textos;
   }
   EXPECT_EQ(faltan.count(), 4) << textos;
