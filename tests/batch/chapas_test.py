@@ -115,8 +115,7 @@ class Sheets(Batch):
 
     def interrupted(self, command, after, seconds):
         with subprocess.Popen(command, stdout=subprocess.PIPE, text=True) as run:
-            while not run.stdout.readline().startswith(after):
-                pass
+            next(line for line in run.stdout if line.startswith(after))
             time.sleep(seconds)
             run.send_signal(signal.SIGINT)
             answers = run.stdout.read()
