@@ -80,18 +80,18 @@ class Sheets(Batch):
 
     def test_stock_and_what_finds_no_sheet(self):
         stock = self.folder / "stock.json"
-        stock.write_text('[{"size": "1200x1000", "count": 1, "thickness": 2}, {"size": "600x600", "count": 2}]')
+        stock.write_text('[{"size": "1200x1000", "count": 1, "thickness": 2}, {"size": "1000x800", "count": 2}]')
         big = dict(JOBS[6], name="big")
-        run, report = self.lay([dict(JOBS[0], quantity=1), big, dict(JOBS[1], thickness=3, quantity=9)],
+        run, report = self.lay([dict(JOBS[0], quantity=3), big, dict(JOBS[4], thickness=3, quantity=9)],
                                "--stock", stock)
         self.assertEqual(run.returncode, 1, run.stderr)
         sizes = {(s["width"], s["height"], s["thickness"]) for s in report["sheets"]}
-        self.assertLessEqual(sizes, {(1200, 1000, 2), (600, 600, 2), (600, 600, 3)})
-        self.assertLessEqual(sum(s["width"] == 600 for s in report["sheets"]), 2)
+        self.assertLessEqual(sizes, {(1200, 1000, 2), (1000, 800, 2), (1000, 800, 3)})
+        self.assertLessEqual(sum(s["width"] == 1000 for s in report["sheets"]), 2)
         self.assertEqual({f["reason"] for f in report["left_out"] if f["piece"] == "big"}, {"larger than any sheet"})
         self.assertIn("big: left out 1 of ", run.stdout)
         laid, lost = sum(s["parts"] for s in report["sheets"]), sum(f["quantity"] for f in report["left_out"])
-        self.assertEqual(laid + lost, sum({"hood-400": 1, "big": 1}.get(s["piece"], 9) for s in report["shapes"]))
+        self.assertEqual(laid + lost, sum({"hood-400": 3, "big": 1}.get(s["piece"], 9) for s in report["shapes"]))
         stock.write_text('[{"size": "1200x"}]')
         run, _ = self.lay(JOBS[:1], "--stock", stock)
         self.assertEqual((run.returncode, run.stdout), (2, ""))
