@@ -11,16 +11,22 @@
 
 namespace duktores {
 
-/// What came of all sheets. A line of the answers each.
+/// What came of all sheets.
 struct InformeChapas {
   std::vector<FilaChapa> chapas;
   std::vector<FilaSinChapa> faltan;
-  std::vector<std::string> lineas;
-  bool bien = true;  ///< all lies on sheets that are written
+  std::vector<std::string> viejas;  ///< files of sheets that stand in the folder from an earlier time
+  bool bien = true;                 ///< all lies on sheets that are written
 };
 
-/// Lays the parts of each thickness and writes the sheets into the folder. `avance` is told the best so far in words.
+/// Who is told what in words: the best so far while it is searched, and each answer once it is there.
+struct OyenteChapas {
+  std::function<void(const std::string&)> avance, respuesta;
+};
+
+/// Lays the parts of each thickness and writes the sheets into the folder. A signal ends the search, and the best of it
+/// is written; another one ends the writing between two sheets.
 InformeChapas PonEnChapas(const std::vector<ParteChapa>& partes, const OrdenesChapas& ordenes,
-                          const std::string& carpeta, const std::function<void(const std::string&)>& avance);
+                          const std::string& carpeta, const OyenteChapas& oyente);
 
 }  // namespace duktores

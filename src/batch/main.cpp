@@ -38,17 +38,17 @@ struct NadaHecho : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// One line, whatever stands in the list that it repeats.
+std::string Motivo(const Rechazo& rechazo) { return EnUnaLinea("refused " + rechazo.clave + ": " + rechazo.texto); }
+
 std::string Linea(const Trabajo& trabajo, const Resultado& resultado) {
-  if (resultado.rechazo) {
-    return EnUnaLinea(trabajo.nombre + ": refused " + resultado.rechazo->clave + ": " + resultado.rechazo->texto);
-  }
-  return EnUnaLinea(trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
-                    (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso) +
-                    (resultado.nota.empty() ? "" : ", note: " + resultado.nota));
+  if (resultado.rechazo) return trabajo.nombre + ": " + Motivo(*resultado.rechazo);
+  return trabajo.nombre + ": ok" + (resultado.fichero.empty() ? "" : " " + resultado.fichero) +
+         (resultado.aviso.empty() ? "" : ", warning: " + resultado.aviso) +
+         (resultado.nota.empty() ? "" : ", note: " + resultado.nota);
 }
 
-/// Writes the answers as they come, and on a terminal how far the work is; at the end sheets and report.
+/// Writes the answers as they come, a line each whatever they repeat of the list, and on a terminal how far the work
+/// is; at the end sheets and report.
 class Respuestas {
  public:
   Respuestas(std::size_t cuantas, const Ordenes& ordenes)
@@ -56,23 +56,31 @@ class Respuestas {
     if (!rutaInforme_.empty()) informe_.emplace(rutaInforme_, ordenes.opciones.habito);
   }
   void Escribe(const Trabajo& trabajo, const Resultado& resultado) {
-    if (terminal_) std::cerr << "\r\033[K" << std::flush;
-    std::cout << Linea(trabajo, resultado) << '\n' << std::flush;
+    Responde(Linea(trabajo, resultado));
     if (informe_) informe_->Anade(trabajo, resultado);
     rechazado_ = rechazado_ || resultado.rechazo || resultado.sinCorte;
     partes_.insert(partes_.end(), resultado.partes.begin(), resultado.partes.end());
+    sinChapa_.insert(sinChapa_.end(), resultado.sinChapa.begin(), resultado.sinChapa.end());
+    if (resultado.rechazo && ordenes_.opciones.chapas) {
+      sinChapa_.push_back(
+          {trabajo.nombre, "", trabajo.espesor.value_or(espesor_), trabajo.cantidad, Motivo(*resultado.rechazo)});
+    }
     ++hechas_;
     if (terminal_ && hechas_ < cuantas_) std::cerr << hechas_ << " of " << cuantas_ << std::flush;
   }
   /// Lays what has come. A signal ends the search and not the writing; then it throws Interrumpido.
   void PonChapas() {
     if (!ordenes_.opciones.chapas) return;
-    const InformeChapas hecho =
-        PonEnChapas(partes_, ordenes_.chapas, ordenes_.opciones.carpeta, [this](const std::string& avance) {
-          if (terminal_) std::cerr << "\r\033[K" << avance << std::flush;
-        });
+    InformeChapas hecho = PonEnChapas(partes_, ordenes_.chapas, ordenes_.opciones.carpeta,
+                                      {[this](const std::string& avance) {
+                                         if (terminal_) std::cerr << "\r\033[K" << EnUnaLinea(avance) << std::flush;
+                                       },
+                                       [this](const std::string& respuesta) { Responde(respuesta); }});
     if (terminal_) std::cerr << "\r\033[K" << std::flush;
-    for (const std::string& linea : hecho.lineas) std::cout << EnUnaLinea(linea) << '\n' << std::flush;
+    std::string viejas;
+    for (const std::string& fichero : hecho.viejas) viejas += (viejas.empty() ? " " : ", ") + fichero;
+    if (!viejas.empty()) Avisa(Texto(texto::kCorteViejo) + viejas);
+    hecho.faltan.insert(hecho.faltan.begin(), sinChapa_.begin(), sinChapa_.end());
     if (informe_) informe_->Anade(hecho);
     rechazado_ = rechazado_ || !hecho.bien;
     ExigeSeguir();
@@ -88,11 +96,18 @@ class Respuestas {
   bool Ninguna() const { return hechas_ == 0; }
 
  private:
+  void Responde(const std::string& linea) {
+    if (terminal_) std::cerr << "\r\033[K" << std::flush;
+    std::cout << EnUnaLinea(linea) << '\n' << std::flush;
+  }
+
   const bool terminal_ = isatty(STDERR_FILENO) != 0;
   std::size_t cuantas_, hechas_ = 0;
   bool rechazado_ = false;
   const Ordenes& ordenes_;
+  const double espesor_ = estado.dEspesor;
   std::vector<ParteChapa> partes_;
+  std::vector<FilaSinChapa> sinChapa_;  // what is known before sheets are laid
   const std::string& rutaInforme_;
   std::optional<Informe> informe_;
 };

@@ -24,12 +24,23 @@ bool LeeParte(std::string_view texto, Parte& parte) {
   return numero(parte.cada) && texto.empty() && parte.primero <= parte.cada;
 }
 
+void ExigeAcuerdo(const CLI::App& app, const Ordenes& ordenes) {
+  const Opciones& opciones = ordenes.opciones;
+  if (!opciones.chapas) ExigeChapas(app);
+  if (opciones.chapas && opciones.soloComprueba) throw CLI::ExcludesError("--check", "--sheet and --stock");
+  if (opciones.chapas && ordenes.parte.cada > 1) throw CLI::ExcludesError("--shard", "--sheet and --stock");
+  if (opciones.soloComprueba && opciones.QuierePartes()) {
+    throw CLI::ExcludesError("--check", "--cut, --bends and --report");
+  }
+}
+
 }  // namespace
 
 std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   bool png = false, svg = false, pdf = false, coma = false;
   Opciones& opciones = ordenes.opciones;
-  ordenes.hilos = std::max(1U, std::thread::hardware_concurrency());
+  const unsigned nucleos = std::max(1U, std::thread::hardware_concurrency());
+  ordenes.hilos = nucleos;
   CLI::App app("Unfolds a list of duct transition pieces into DXF drawings.", "duktores-batch");
   app.set_version_flag("--version", std::string("duktores-batch ") + DUKTORES_VERSION);
   app.add_option("JOBS.json", ordenes.lista, "job list; - for standard input")->required();
@@ -73,15 +84,11 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
     app.parse(argc, argv);
     opciones.informe = !ordenes.informe.empty();
     opciones.chapas = !ordenes.chapas.existencias.empty() || !ordenes.chapas.fichero.empty();
-    if (opciones.chapas && opciones.soloComprueba) throw CLI::ExcludesError("--check", "--sheet and --stock");
-    if (opciones.chapas && ordenes.parte.cada > 1) throw CLI::ExcludesError("--shard", "--sheet and --stock");
-    if (opciones.soloComprueba && opciones.QuierePartes()) {
-      throw CLI::ExcludesError("--check", "--cut, --bends and --report");
-    }
+    ExigeAcuerdo(app, ordenes);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
   }
-  ordenes.chapas.esfuerzo.hilos = ordenes.hilos;
+  ordenes.chapas.esfuerzo.hilos = std::min(ordenes.hilos, nucleos);
   if (coma) opciones.habito = kConComa;
   if (png) opciones.imagenes.push_back(Formato::png);
   if (svg) opciones.imagenes.push_back(Formato::svg);

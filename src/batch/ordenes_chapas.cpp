@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string_view>
@@ -15,6 +16,16 @@ namespace {
 using nlohmann::json;
 
 constexpr double kLargoMaximo = 1e5;
+
+// Refuses what is no number from 0 to this, and what calls itself none.
+std::function<std::string(const std::string&)> Hasta(double maximo) {
+  return [maximo](const std::string& texto) -> std::string {
+    double n = -1;
+    const auto fin = std::from_chars(texto.data(), texto.data() + texto.size(), n);
+    const bool vale = fin.ptr == texto.data() + texto.size() && n >= 0 && n <= maximo;
+    return vale ? "" : "must be a number from 0 to " + std::to_string(std::lround(maximo));
+  };
+}
 
 /// "2500x1250". None if the text is nothing like that.
 std::optional<Punto2> LeeTamano(std::string_view texto) {
@@ -40,7 +51,8 @@ std::optional<std::string> LeeExistencia(const json& entrada, Existencia& existe
       existencia.chapa.tamano = *tamano;
     } else if (clave == "count") {
       constexpr int kMaximo = 100000;
-      if (!valor.is_number_integer() || valor < 0 || valor > kMaximo) return "count must be a whole number";
+      if (!valor.is_number_integer() || valor < 0 || valor > kMaximo)
+        return "count must be a whole number from 0 to 100000";
       existencia.chapa.cuantas = valor.get<int>();
     } else if (clave == "thickness") {
       if (!valor.is_number() || !(valor > 0)) return "thickness must be a number above 0";
@@ -66,16 +78,16 @@ void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
          },
          "lay the parts on sheets of this size, sheet-1.dxf ...; given again: the smallest that serves")
       ->type_name("WxH")
-      ->expected(1);
+      ->allow_extra_args(false);
   app.add_option("--stock", ordenes.fichero,
                  "sheets that there are: a JSON array of {\"size\", \"count\", \"thickness\"}")
       ->type_name("FILE");
   app.add_option("--gap", ordenes.reglas.hueco, "least distance between two parts; default: 5 mm")
       ->type_name("LENGTH")
-      ->check(CLI::Range(0.0, kLargoMaximo));
+      ->check(Hasta(kLargoMaximo));
   app.add_option("--margin", ordenes.reglas.margen, "of the parts from the sheet's rim; default: 10 mm")
       ->type_name("LENGTH")
-      ->check(CLI::Range(0.0, kLargoMaximo));
+      ->check(Hasta(kLargoMaximo));
   app.add_option("--turn", ordenes.reglas.giro, "step by which parts may be turned; 0: not at all")
       ->type_name("DEGREES")
       ->check([](const std::string& texto) -> std::string {
@@ -87,7 +99,7 @@ void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
       ->capture_default_str();
   app.add_option("--seconds", ordenes.esfuerzo.segundos, "how long sheets are improved")
       ->type_name("S")
-      ->check(CLI::Range(0.0, 1e6))
+      ->check(Hasta(1e6))
       ->capture_default_str();
   app.add_option("--rounds", ordenes.esfuerzo.vueltas, "instead: so many rounds, with the same result everywhere")
       ->type_name("R")
@@ -95,6 +107,12 @@ void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
   app.add_option("--seed", ordenes.esfuerzo.semilla, "another one tries other layouts")
       ->type_name("N")
       ->capture_default_str();
+}
+
+void ExigeChapas(const CLI::App& app) {
+  for (const char* suya : {"--gap", "--margin", "--turn", "--seconds", "--rounds", "--seed"}) {
+    if (app.count(suya) > 0) throw CLI::RequiresError(suya, "--sheet or --stock");
+  }
 }
 
 std::vector<Existencia> LeeExistencias(const std::string& ruta) {

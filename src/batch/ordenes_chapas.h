@@ -17,6 +17,8 @@ struct OrdenesChapas {
 };
 
 void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes);
+/// Throws CLI::RequiresError if one of those options is given that mean nothing where no sheets are.
+void ExigeChapas(const CLI::App& app);
 
 /// The sheets of a JSON file: an array of objects with `size`, as in "2500x1250", and if need be `count` and
 /// `thickness`. Throws std::runtime_error, which tells file and entry.

@@ -8,9 +8,12 @@ namespace {
 
 constexpr int kSenales[] = {SIGINT, SIGTERM, SIGHUP};
 
-volatile sig_atomic_t recibida = 0;
+volatile sig_atomic_t recibida = 0, cuantas = 0;
 
-void Anota(int senal) { recibida = senal; }
+void Anota(int senal) {
+  recibida = senal;
+  cuantas = cuantas + 1;
+}
 
 }  // namespace
 
@@ -32,6 +35,8 @@ void SinSenales() {
 }
 
 int SenalRecibida() { return recibida; }
+
+int SenalesRecibidas() { return cuantas; }
 
 void ExigeSeguir() {
   if (recibida != 0) throw Interrumpido();

@@ -10,6 +10,8 @@ void AtiendeSenales();
 void SinSenales();
 /// The signal that has come; 0 if none.
 int SenalRecibida();
+/// How many have come.
+int SenalesRecibidas();
 
 /// Thrown by ExigeSeguir when a signal has come.
 struct Interrumpido {};

@@ -151,7 +151,9 @@ void Guarda(const EWdraw& axew, const Solido& solido, const Patron& patron, cons
   const Cortes cortes = CortesDe(trabajo.nombre, solido, patron);
   if (!salida.Corte(cortes, veredicto)) return;
   if (opciones.chapas) {
-    resultado.partes = PartesDe(trabajo, cortes, veredicto, opciones.fuerza ? Cuales::todas : Cuales::sanas);
+    const Cuales cuales = opciones.fuerza ? Cuales::todas : Cuales::sanas;
+    resultado.partes = PartesDe(trabajo, cortes, veredicto, cuales);
+    resultado.sinChapa = SinCortar(trabajo, cortes, veredicto, cuales);
   }
 }
 

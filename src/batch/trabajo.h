@@ -8,8 +8,8 @@
 
 #include "jobs/lista.h"
 #include "paint/pintura.h"
-#include "shell/chapas.h"
 #include "shell/csv.h"
+#include "shell/informe_chapas.h"
 
 namespace duktores {
 
@@ -45,7 +45,8 @@ struct Resultado {
   std::string aviso{}, nota{};
   bool sinCorte = false;  ///< a cut file that was wanted isn't written
   std::vector<FilaInforme> filas{};
-  std::vector<ParteChapa> partes{};  ///< that can be cut
+  std::vector<ParteChapa> partes{};      ///< that can be cut
+  std::vector<FilaSinChapa> sinChapa{};  ///< the others
   std::optional<Rechazo> rechazo{};
 };
 

@@ -1,8 +1,10 @@
 #include "jobs/chapas.h"
 
 #include <algorithm>
+#include <charconv>
 #include <exception>
 #include <filesystem>
+#include <map>
 #include <new>
 
 #include "jobs/aceptacion.h"
@@ -64,6 +66,18 @@ std::vector<ParteChapa> PartesDe(const Trabajo& trabajo, const Cortes& cortes, c
   return partes;
 }
 
+std::vector<FilaSinChapa> SinCortar(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
+                                    Cuales cuales) {
+  std::vector<FilaSinChapa> filas;
+  for (const auto& [recorte, marca, sitio] : cortes.partes) {
+    if (SeCorta(recorte, veredicto, cuales)) continue;
+    const int motivo = recorte.falta == FaltaRecorte::cruce ? texto::kCruce : texto::kSinArea;
+    filas.push_back({trabajo.nombre, TextoForma(recorte.forma), estado.dEspesor, trabajo.cantidad,
+                     Texto(veredicto.Cierto() || cuales == Cuales::todas ? motivo : texto::kCorteFalso)});
+  }
+  return filas;
+}
+
 PartesTrabajo PartesDe(const Trabajo& trabajo) {
   PartesTrabajo suyas;
   try {
@@ -91,6 +105,21 @@ ChapaEscrita EscribeChapa(const Lote& lote, const Nido& nido, std::size_t chapa,
       Guarda(PartesEn(lote, puesta), escrita.fila.tamano, std::filesystem::path(carpeta) / nombre, ruta);
   if (!guardado) escrita.motivo = TextoNoGuardado(ruta, guardado);
   return escrita;
+}
+
+std::vector<std::string> ChapasViejas(const std::string& carpeta, const std::vector<FilaChapa>& nuevas) {
+  std::map<std::size_t, std::string> viejas;
+  std::error_code error;
+  for (std::filesystem::directory_iterator i(carpeta, error), fin; !error && i != fin; i.increment(error)) {
+    const std::string fichero = i->path().filename();
+    std::size_t numero = 0;
+    std::from_chars(fichero.data() + fichero.find('-') + 1, fichero.data() + fichero.size(), numero);
+    const bool nueva = std::ranges::find(nuevas, fichero, &FilaChapa::fichero) != nuevas.end();
+    if (!nueva && i->is_regular_file(error) && fichero == NombreChapa(numero) + ".dxf") viejas[numero] = fichero;
+  }
+  std::vector<std::string> ficheros;
+  for (const auto& [numero, fichero] : viejas) ficheros.push_back(fichero);
+  return ficheros;
 }
 
 }  // namespace duktores

@@ -14,6 +14,10 @@ namespace duktores {
 std::vector<ParteChapa> PartesDe(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
                                  Cuales cuales);
 
+/// The others, with the reason of each.
+std::vector<FilaSinChapa> SinCortar(const Trabajo& trabajo, const Cortes& cortes, const Veredicto& veredicto,
+                                    Cuales cuales);
+
 struct PartesTrabajo {
   std::vector<ParteChapa> partes;
   std::string falta;  ///< why there are none, or not all, in one line
@@ -31,5 +35,8 @@ struct ChapaEscrita {
 /// of all sheets.
 ChapaEscrita EscribeChapa(const Lote& lote, const Nido& nido, std::size_t chapa, const std::vector<FallaNido>& fallas,
                           const std::string& carpeta, const std::string& nombre);
+
+/// Files of sheets in the folder, without it, that aren't among these.
+std::vector<std::string> ChapasViejas(const std::string& carpeta, const std::vector<FilaChapa>& nuevas);
 
 }  // namespace duktores

@@ -44,8 +44,10 @@ std::vector<Lote> LotesDe(const std::vector<ParteChapa>& partes, const std::vect
   std::vector<Lote> todos;
   for (auto& [espesor, lote] : lotes) {
     lote.espesor = espesor;
-    for (const Existencia& existencia : existencias) {
-      if (!existencia.espesor || *existencia.espesor == espesor) lote.encargo.chapas.push_back(existencia.chapa);
+    for (std::size_t i = 0; i < existencias.size(); ++i) {
+      if (existencias[i].espesor.value_or(espesor) != espesor) continue;
+      lote.encargo.chapas.push_back(existencias[i].chapa);
+      lote.existencias.push_back(i);
     }
     lote.encargo.hueco = reglas.hueco.value_or(kHueco * milimetro);
     lote.encargo.margen = reglas.margen.value_or(kMargen * milimetro);

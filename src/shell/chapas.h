@@ -37,9 +37,11 @@ struct Lote {
   double espesor = 0;
   EncargoNido encargo;
   std::vector<const ParteChapa*> partes;  ///< those of the order, by their numbers
+  std::vector<std::size_t> existencias;   ///< which of the stock each of the order's sheets is
 };
 
-/// The smallest thickness first. The parts must outlive them.
+/// The smallest thickness first. The parts must outlive them. A sheet of any thickness stands in each, with its whole
+/// count.
 std::vector<Lote> LotesDe(const std::vector<ParteChapa>& partes, const std::vector<Existencia>& existencias,
                           const ReglasChapa& reglas, double milimetro);
 

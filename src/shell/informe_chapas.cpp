@@ -80,7 +80,7 @@ std::string TablaChapas(std::span<const FilaChapa> chapas, std::span<const FilaS
   }
   for (const FilaSinChapa& f : faltan) {
     FilaCsv linea(habito);
-    linea.Texto("").Numero(f.cantidad, 0).Texto(f.pieza + " " + f.forma + ": " + f.motivo);
+    linea.Texto("").Numero(f.cantidad, 0).Texto(f.pieza + (f.forma.empty() ? "" : " ") + f.forma + ": " + f.motivo);
     tabla += linea.Numero(f.espesor, kMedida).Linea();
   }
   return tabla;
