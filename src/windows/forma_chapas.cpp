@@ -45,7 +45,7 @@ std::string ValorDe(std::string_view clave) {
 FormaChapas::FormaChapas(QWidget* padre) : QWidget(padre), CmbGiro_(new QComboBox(this)) {
   auto* fila = new QHBoxLayout(this);
   fila->setContentsMargins(0, 0, 0, 0);
-  fila->setSpacing(24);
+  fila->setSpacing(16);
   auto* tamanos = new QGridLayout;
   auto* reglas = new QGridLayout;
   fila->addLayout(tamanos, 3);
@@ -80,28 +80,31 @@ void FormaChapas::AnadeTamanos(QGridLayout& rejilla) {
     Campo& cuantas = Anade("Count" + n, texto::kCantidad, 1, kCuantasMaximo);
     cuantas.entero = true;
     cuantas.texto->setPlaceholderText(Q(Texto(texto::kSinLimite)));
+    QPalette paleta;  // Qt's own for disabled fields is nearly black
+    paleta.setColor(QPalette::Disabled, QPalette::PlaceholderText, palette().color(QPalette::Disabled, QPalette::Text));
+    cuantas.texto->setPalette(paleta);
     rejilla.addWidget(cuantas.texto, fila, 2);
   }
 }
 
 void FormaChapas::AnadeReglas(QGridLayout& rejilla) {
   const QString unidad = " (" + Q(Texto(estado.iUnidad == 1 ? texto::kMilimetros : texto::kPulgadas)) + ")";
-  const auto pon = [&](QWidget* control, const QString& rotulo, int fila, int columna) {
+  const auto pon = [&](QWidget* control, const QString& rotulo, int fila) {
     auto* etiqueta = new QLabel(rotulo);
     etiqueta->setBuddy(control);
-    rejilla.addWidget(etiqueta, fila, 2 * columna);
-    rejilla.addWidget(control, fila, 2 * columna + 1);
+    rejilla.addWidget(etiqueta, fila, 0);
+    rejilla.addWidget(control, fila, 1);
   };
-  pon(Anade("Gap", texto::kSeparacion, 0, kLargoMaximo).texto, Q(Texto(texto::kSeparacion)) + unidad, 0, 0);
-  pon(Anade("Margin", texto::kMargen, 0, kLargoMaximo).texto, Q(Texto(texto::kMargen)) + unidad, 1, 0);
+  pon(Anade("Gap", texto::kSeparacion, 0, kLargoMaximo).texto, Q(Texto(texto::kSeparacion)) + unidad, 0);
+  pon(Anade("Margin", texto::kMargen, 0, kLargoMaximo).texto, Q(Texto(texto::kMargen)) + unidad, 1);
   for (const int grados : kGiros) {
     const QString cada = Q(Texto(texto::kGiroCada)).arg(grados);
     CmbGiro_->addItem(grados == 0 ? Q(Texto(texto::kSinGiro)) : cada, grados);
   }
   CmbGiro_->setObjectName("CmbTurn");
   CmbGiro_->setCurrentIndex(std::max(0, CmbGiro_->findData(Q(ValorDe(kClaveGiro)).toInt())));
-  pon(CmbGiro_, Q(Texto(texto::kGiro)), 0, 1);
-  pon(Anade("Seconds", texto::kSegundos, 1, kSegundosMaximo).texto, Q(Texto(texto::kSegundos)), 1, 1);
+  pon(CmbGiro_, Q(Texto(texto::kGiro)), 2);
+  pon(Anade("Seconds", texto::kSegundos, 1, kSegundosMaximo).texto, Q(Texto(texto::kSegundos)), 3);
 }
 
 std::optional<double> FormaChapas::Numero(const Campo& campo, QString& reparo) const {

@@ -56,16 +56,25 @@ QString Resumen(const Reparto& reparto) {
   return Q(Texto(texto::kResumenChapas)).arg(QString::number(cuantas), QString::number(partes), Q(TextoDeNumero(uso)));
 }
 
-/// Files of sheets with the next numbers, from a time when there were more.
-std::string Viejos(const Reparto& reparto, const std::string& carpeta) {
-  std::string viejos;
-  for (std::size_t n = reparto.chapas.size() + 1;; ++n) {
+/// Files of sheets with the numbers behind these, from a time when there were more.
+QStringList Viejos(std::size_t hechas, const std::string& carpeta) {
+  QStringList viejos;
+  for (std::size_t n = hechas + 1;; ++n) {
     std::error_code error;
     const std::string fichero = NombreChapa(n) + ".dxf";
     if (!std::filesystem::exists(std::filesystem::path(carpeta) / fichero, error)) return viejos;
-    viejos += (viejos.empty() ? Texto(texto::kCorteViejo) + " " : ", ") + fichero;
+    viejos += Q(fichero);
   }
 }
+
+/// All of them; of many the first ones, the last one and how many there are.
+QString Abreviados(const QStringList& lineas, const QString& entre, qsizetype muchas) {
+  if (lineas.size() <= muchas) return lineas.join(entre);
+  QStringList algunas = lineas.first(muchas - 2);
+  algunas << "..." << lineas.last() + " (" + QString::number(lineas.size()) + ")";
+  return algunas.join(entre);
+}
+constexpr qsizetype kMuchos = 10, kMuchasLineas = 25;
 
 }  // namespace
 
@@ -108,7 +117,7 @@ QWidget* FrChapas::Panel() {
   auto* panel = new QWidget;
   auto* fila = new QHBoxLayout(panel);
   fila->setContentsMargins(0, 0, 0, 0);
-  fila->setSpacing(24);
+  fila->setSpacing(16);
   fila->addWidget(forma_, 1);
   panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   auto* botones = new QVBoxLayout;
@@ -154,7 +163,7 @@ void FrChapas::Habilita() {
   const bool trabaja = obra_ || escritura_;
   forma_->setEnabled(!trabaja);
   CmdDistribuye_->setEnabled(!trabaja);
-  CmdPara_->setEnabled(obra_ != nullptr);
+  CmdPara_->setEnabled(trabaja);
   CmdExport_->setEnabled(!trabaja && reparto_ && !reparto_->chapas.empty());
   avance_->setVisible(trabaja);
 }
@@ -169,6 +178,7 @@ void FrChapas::Distribuye() {
   lblerror_->hide();
   segundos_ = pedido->segundos;
   reloj_.invalidate();
+  hay_ = false;
   const bool sirve = reparto_ && reparto_->lista->entera;
   obra_ = std::make_unique<ObraChapas>(trabajos_, *pedido, sirve ? reparto_->lista : nullptr);
   Habilita();
@@ -177,6 +187,12 @@ void FrChapas::Distribuye() {
 
 void FrChapas::Para() {
   if (obra_) obra_->Para();
+  if (escritura_) escritura_->Para();
+}
+
+// New sheets beside old ones aren't left without a word.
+void FrChapas::reject() {
+  if (!escritura_) QDialog::reject();
 }
 
 void FrChapas::Muestra(const Reparto& reparto) {
@@ -199,12 +215,18 @@ void FrChapas::Mira() {
 
 void FrChapas::MiraObra() {
   const bool acabada = obra_->Acabada();  // before what it has left is taken
-  if (const auto reparto = obra_->Toma()) Muestra(*reparto);
+  if (const auto reparto = obra_->Toma()) {
+    hay_ = true;
+    Muestra(*reparto);
+  }
   const std::size_t hechas = obra_->Desarrolladas(), todas = obra_->Trabajos();
   if (hechas < todas) {
     avance_->setRange(0, static_cast<int>(todas));
     avance_->setValue(static_cast<int>(hechas));
     LblEstado_->setText(Q(Texto(texto::kDesarrollando)).arg(hechas).arg(todas));
+  } else if (!hay_) {
+    avance_->setRange(0, 0);
+    LblEstado_->setText(Q(Texto(texto::kDistribuye)) + "...");
   } else {
     constexpr int kPasos = 1000;
     if (!reloj_.isValid()) reloj_.start();
@@ -232,7 +254,8 @@ void FrChapas::Exporta() {
   for (const std::string& nombre : EscrituraChapas::Ficheros(*reparto_)) {
     if (QFileInfo::exists(Q(std::filesystem::path(carpeta) / nombre))) estan += Q(nombre);
   }
-  if (!estan.isEmpty() && !Confirma(this, estan.join(", ") + "\n\n" + Q(Texto(texto::kReemplazarEsos)))) return;
+  if (!estan.isEmpty() && !Confirma(this, Abreviados(estan, ", ", kMuchos) + "\n\n" + Q(Texto(texto::kReemplazarEsos))))
+    return;
   const HabitoCsv habito = estado.bComaDecimal ? kConComa : kConPunto;
   escritura_ = std::make_unique<EscrituraChapas>(*reparto_, carpeta, habito);
   Habilita();
@@ -247,14 +270,19 @@ void FrChapas::MiraEscritura() {
   if (escritura->Fallida()) return Rechaza(Q(Texto(texto::kIncompleto)));
   QStringList escritos;
   for (const std::string& fichero : escritura->Escritos()) escritos += Q(fichero);
-  const std::string carpeta = escritura->Carpeta(), viejos = Viejos(*reparto_, carpeta);
-  LblEstado_->setText(Q(Texto(texto::kEscrito)) + " " + Q(carpeta) + ": " + escritos.join(", ") +
-                      (viejos.empty() ? "" : ". " + Q(viejos)));
-  LblEstado_->setToolTip(LblEstado_->text());
+  LblEstado_->setText(Resumen(*reparto_));
+  LblEstado_->setToolTip(Abreviados(escritos, "\n", kMuchasLineas));
+  if (!escritos.isEmpty()) {
+    const QStringList viejos = Viejos(escritura->Hechas(), escritura->Carpeta());
+    const QString otros = Q(Texto(texto::kCorteViejo)) + " " + Abreviados(viejos, ", ", kMuchos);
+    LblEstado_->setText(Q(Texto(texto::kEscrito)) + " " + Q(escritura->Carpeta()) + ": " +
+                        Abreviados(escritos, ", ", kMuchos) + (viejos.isEmpty() ? "" : ". " + otros));
+  }
   QStringList fallos;
   for (const std::string& fallo : escritura->Fallos()) fallos += Q(fallo);
   if (!fallos.isEmpty()) {
-    MuestraMensaje(Texto(texto::kNoSeEscribe) + " " + fallos.join("\n").toStdString(), EstiloMensaje::exclamacion, "");
+    MuestraMensaje(Texto(texto::kNoSeEscribe) + " " + Abreviados(fallos, "\n", kMuchasLineas).toStdString(),
+                   EstiloMensaje::exclamacion, "");
     CursorEspera(false);
   }
 }

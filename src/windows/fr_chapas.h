@@ -22,6 +22,9 @@ class FrChapas : public QDialog {
   /// Begins to lay them as they were last laid.
   FrChapas(QWidget* padre, std::span<const Trabajo> trabajos);
 
+  /// Not while sheets are written.
+  void reject() override;
+
  private:
   QWidget* Panel();
   QWidget* Pie();
@@ -44,6 +47,7 @@ class FrChapas : public QDialog {
   QPushButton *CmdDistribuye_, *CmdPara_, *CmdExport_;
   QElapsedTimer reloj_;
   double segundos_ = 0;
+  bool hay_ = false;  // a layout of the work that goes on
   std::optional<Reparto> reparto_;
   std::unique_ptr<ObraChapas> obra_;
   std::unique_ptr<EscrituraChapas> escritura_;

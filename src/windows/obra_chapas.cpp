@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <utility>
 
 #include "piece/numeros_texto.h"
@@ -16,8 +17,28 @@ namespace {
 
 constexpr const char* kInforme = "sheets.csv";
 
-bool Entero(const Nido& nido) {
-  return std::ranges::none_of(nido.faltan, [](const NoPuesta& f) { return f.motivo == FaltaNido::interrumpido; });
+/// What a layout costs: area of parts that could lie on a sheet and don't; area of sheets, of the emptiest only what is
+/// used of it.
+std::pair<double, double> Coste(const EncargoNido& encargo, const Nido& nido) {
+  double falta = 0, coste = 0;
+  for (const NoPuesta& f : nido.faltan) {
+    if (f.motivo != FaltaNido::sinChapas && f.motivo != FaltaNido::interrumpido) continue;
+    falta += f.cantidad * AreaDe(encargo.partes[f.parte].contorno);
+  }
+  double menor = std::numeric_limits<double>::infinity(), ahorro = 0;
+  for (const ChapaPuesta& chapa : nido.chapas) {
+    const Punto2 tamano = encargo.chapas[chapa.chapa].tamano;
+    const double entera = tamano.x * tamano.y, area = UsoDe(encargo, chapa) * entera;
+    coste += entera;
+    if (area >= menor) continue;
+    menor = area;
+    double derecha = 0;
+    for (const Colocada& c : chapa.partes) {
+      for (const Punto2 p : ContornoEn(encargo.partes[c.parte], c)) derecha = std::max(derecha, p.x);
+    }
+    ahorro = entera - (area + derecha * tamano.y) / 2;
+  }
+  return {falta, coste - ahorro};
 }
 
 }  // namespace
@@ -103,7 +124,8 @@ void ObraChapas::Ofrece(std::size_t lote, const Nido& nido) {
   const std::lock_guard guarda(cerrojo_);
   Nido& suyo = reparto_.nidos[lote];
   const bool hay = !suyo.chapas.empty() || !suyo.faltan.empty();
-  if (hay && !Entero(nido)) return;
+  const EncargoNido& encargo = (*reparto_.lotes)[lote].encargo;
+  if (hay && Coste(encargo, nido) >= Coste(encargo, suyo)) return;
   suyo = nido;
   nuevo_ = true;
 }

@@ -76,6 +76,8 @@ class EscrituraChapas {
 
   /// Names of the files that it writes, without folder.
   static std::vector<std::string> Ficheros(const Reparto& reparto);
+  /// Ends it behind the sheet that it is at, without the table.
+  void Para() { tarea_.Para(); }
   const std::string& Carpeta() const { return carpeta_; }
   bool Acabada() const { return tarea_.Acabada(); }
   bool Fallida() const { return tarea_.Fallida(); }

@@ -123,31 +123,31 @@ void VistaChapas::Muestra(const Reparto& reparto) {
 
 // In so many columns that they show largest.
 void VistaChapas::Reparte() {
-  constexpr double kHueco = 0.06, kPie = 0.16;  // of the largest sheet
+  constexpr double kHueco = 0.06;  // of the largest sheet
   QSizeF celda;
   for (const Hoja& hoja : hojas_) celda = celda.expandedTo(hoja.sitio.size());
-  const double hueco = kHueco * celda.width(), pie = std::max(kPie * celda.height(), 2 * hueco);
+  const double hueco = kHueco * celda.width(), pie = 2 * fontMetrics().height();  // of the screen
   const auto n = static_cast<int>(hojas_.size());
   int columnas = 1;
   double mejor = 0;
   for (int c = 1; c <= n; ++c) {
     const int filas = (n + c - 1) / c;
     const double escala =
-        std::min(width() / (c * (celda.width() + hueco)), height() / (filas * (celda.height() + pie)));
+        std::min(width() / (c * (celda.width() + hueco)), (1.0 * height() / filas - pie) / celda.height());
     if (escala > mejor) columnas = c;
     mejor = std::max(mejor, escala);
   }
+  pie_ = mejor > 0 ? pie / mejor : 0;
   for (int i = 0; i < n; ++i) {
     QRectF& sitio = hojas_[static_cast<std::size_t>(i)].sitio;
-    sitio.moveTo((i % columnas) * (celda.width() + hueco), -(i / columnas) * (celda.height() + pie));
+    sitio.moveTo((i % columnas) * (celda.width() + hueco), -(i / columnas) * (celda.height() + pie_));
   }
 }
 
 void VistaChapas::Encuadra() {
   QRectF todo;
   for (const Hoja& hoja : hojas_) todo |= hoja.sitio;
-  constexpr double kPie = 0.08;
-  todo.setTop(todo.top() - kPie * todo.height() / std::max<double>(1, std::ceil(std::sqrt(hojas_.size()))));
+  todo.setTop(todo.top() - pie_);
   encuadre_ = Ajusta(todo, size());
   ajustado_ = true;
   update();
@@ -200,6 +200,10 @@ void VistaChapas::PintaHoja(QPainter& pintor, const Hoja& hoja) const {
   for (Parte parte : hoja.partes) {
     parte.renglon.translate(hoja.sitio.topLeft());
     PintaNombre(pintor, parte);
+  }
+  constexpr int kLetras = 8;  // of fewer nothing can be read
+  if (pie_ * encuadre_.escala < fontMetrics().height() || sitio.width() < kLetras * fontMetrics().averageCharWidth()) {
+    return;
   }
   pintor.setFont(letra);
   pintor.setPen(kLetra);

@@ -49,6 +49,7 @@ class VistaChapas : public QWidget {
   QPolygonF EnPantalla(const QPolygonF& contorno) const;
 
   std::vector<Hoja> hojas_;  // in model coordinates, y up
+  double pie_ = 0;           // room below each sheet for its figures
   Encuadre encuadre_;
   bool ajustado_ = true;  // all is shown
   QPointF raton_;
