@@ -178,7 +178,9 @@ void FrDialogo::Pie(int y) {
     PonBoton(*aceptar, "CmdAceptar", chino ? QString() : aceptar->text());
     PonBoton(*cancelar, "CmdCancelar", chino ? QString() : cancelar->text());
     if (!chino) cancelar->setToolTip(cancelar->toolTip() + TextoTeclas("CmdCancelar"));
-    lblerror_->hide();
+    if (lblerror_->toolTip().isEmpty()) return lblerror_->hide();  // why something wasn't pasted
+    lblerror_->setText(Q(Texto(dialogo_.Definicion().textoError)));
+    lblerror_->setToolTip(Q(dialogo_.Lee().reparo));
   });
   aceptar->setDefault(true);
   const int derecha = Diseno(dialogo_.Definicion()).width() - kMargen;

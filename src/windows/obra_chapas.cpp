@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <limits>
 #include <utility>
 
 #include "piece/numeros_texto.h"
+#include "shell/lotes.h"
 #include "state/estado.h"
 #include "state/fichero.h"
 #include "state/numeros.h"
@@ -16,30 +16,6 @@ namespace duktores {
 namespace {
 
 constexpr const char* kInforme = "sheets.csv";
-
-/// What a layout costs: area of parts that could lie on a sheet and don't; area of sheets, of the emptiest only what is
-/// used of it.
-std::pair<double, double> Coste(const EncargoNido& encargo, const Nido& nido) {
-  double falta = 0, coste = 0;
-  for (const NoPuesta& f : nido.faltan) {
-    if (f.motivo != FaltaNido::sinChapas && f.motivo != FaltaNido::interrumpido) continue;
-    falta += f.cantidad * AreaDe(encargo.partes[f.parte].contorno);
-  }
-  double menor = std::numeric_limits<double>::infinity(), ahorro = 0;
-  for (const ChapaPuesta& chapa : nido.chapas) {
-    const Punto2 tamano = encargo.chapas[chapa.chapa].tamano;
-    const double entera = tamano.x * tamano.y, area = UsoDe(encargo, chapa) * entera;
-    coste += entera;
-    if (area >= menor) continue;
-    menor = area;
-    double derecha = 0;
-    for (const Colocada& c : chapa.partes) {
-      for (const Punto2 p : ContornoEn(encargo.partes[c.parte], c)) derecha = std::max(derecha, p.x);
-    }
-    ahorro = entera - (area + derecha * tamano.y) / 2;
-  }
-  return {falta, coste - ahorro};
-}
 
 }  // namespace
 
@@ -103,31 +79,16 @@ void ObraChapas::Trabaja(const std::stop_token& para) {
   nuevo_ = true;
 }
 
-// First all, quickly, so that whoever stops it has all on sheets; then each is improved for its share of the time.
 void ObraChapas::Distribuye(const std::stop_token& para) {
-  const auto& lotes = *reparto_.lotes;
-  const VigiaNido sigue{[&] { return !para.stop_requested(); }};
-  for (const bool mejora : {false, true}) {
-    if (mejora && para.stop_requested()) return;
-    for (std::size_t i = 0; i < lotes.size(); ++i) {
-      const double parte =
-          static_cast<double>(lotes[i].partes.size()) / static_cast<double>(reparto_.lista->partes.size());
-      const EsfuerzoNido esfuerzo{.segundos = mejora ? parte * pedido_.segundos : 0,
-                                  .hilos = std::max(1U, std::thread::hardware_concurrency())};
-      const VigiaNido vigia{sigue.sigue, [&, i](const Nido& nido) { Ofrece(i, nido); }};
-      Ofrece(i, Anida(lotes[i].encargo, esfuerzo, vigia));
-    }
-  }
-}
-
-void ObraChapas::Ofrece(std::size_t lote, const Nido& nido) {
+  const EsfuerzoNido esfuerzo{.segundos = pedido_.segundos, .hilos = std::max(1U, std::thread::hardware_concurrency())};
+  const auto ofrece = [this](std::size_t lote, const Nido& nido) {
+    const std::lock_guard guarda(cerrojo_);
+    reparto_.nidos[lote] = nido;
+    nuevo_ = true;
+  };
+  auto nidos = AnidaLotes(*reparto_.lotes, esfuerzo, {[&] { return !para.stop_requested(); }, ofrece});
   const std::lock_guard guarda(cerrojo_);
-  Nido& suyo = reparto_.nidos[lote];
-  const bool hay = !suyo.chapas.empty() || !suyo.faltan.empty();
-  const EncargoNido& encargo = (*reparto_.lotes)[lote].encargo;
-  if (hay && Coste(encargo, nido) >= Coste(encargo, suyo)) return;
-  suyo = nido;
-  nuevo_ = true;
+  reparto_.nidos = std::move(nidos);
 }
 
 std::optional<Reparto> ObraChapas::Toma() {
@@ -157,7 +118,7 @@ void EscrituraChapas::Trabaja(const std::stop_token& para) {
   for (std::size_t i = 0; i < reparto_.nidos.size(); ++i) {
     const Lote& lote = (*reparto_.lotes)[i];
     const Nido& nido = reparto_.nidos[i];
-    const bool cuadran = CuadranCantidades(lote.encargo, nido);
+    const bool cuadran = CuadranCantidades(ConLoQueQueda(*reparto_.lotes, reparto_.nidos, i), nido);
     const auto fallas = RevisaChapas(lote.encargo, nido);
     for (std::size_t chapa = 0; chapa < nido.chapas.size() && !para.stop_requested(); ++chapa) {
       const std::string nombre = NombreChapa(++numero);

@@ -58,7 +58,6 @@ class ObraChapas {
   void Trabaja(const std::stop_token& para);
   std::shared_ptr<const PartesLista> Desarrolla(const std::stop_token& para);
   void Distribuye(const std::stop_token& para);
-  void Ofrece(std::size_t lote, const Nido& nido);
 
   std::vector<Trabajo> trabajos_;
   PedidoChapas pedido_;
