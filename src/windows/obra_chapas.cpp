@@ -125,7 +125,8 @@ void ObraChapas::Ofrece(std::size_t lote, const Nido& nido) {
   Nido& suyo = reparto_.nidos[lote];
   const bool hay = !suyo.chapas.empty() || !suyo.faltan.empty();
   const EncargoNido& encargo = (*reparto_.lotes)[lote].encargo;
-  if (hay && Coste(encargo, nido) >= Coste(encargo, suyo)) return;
+  // The result costs what its last improvement did, and tells besides what no sheet takes.
+  if (hay && Coste(encargo, nido) > Coste(encargo, suyo)) return;
   suyo = nido;
   nuevo_ = true;
 }
