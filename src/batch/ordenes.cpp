@@ -24,9 +24,9 @@ bool LeeParte(std::string_view texto, Parte& parte) {
   return numero(parte.cada) && texto.empty() && parte.primero <= parte.cada;
 }
 
-void ExigeAcuerdo(const CLI::App& app, const Ordenes& ordenes) {
+void ExigeAcuerdo(const std::vector<const CLI::Option*>& deChapas, const Ordenes& ordenes) {
   const Opciones& opciones = ordenes.opciones;
-  if (!opciones.chapas) ExigeChapas(app);
+  if (!opciones.chapas) ExigeChapas(deChapas);
   if (opciones.chapas && opciones.soloComprueba) throw CLI::ExcludesError("--check", "--sheet and --stock");
   if (opciones.chapas && ordenes.parte.cada > 1) throw CLI::ExcludesError("--shard", "--sheet and --stock");
   if (opciones.soloComprueba && opciones.QuierePartes()) {
@@ -79,12 +79,12 @@ std::optional<int> LeeOrdenes(int argc, char** argv, Ordenes& ordenes) {
   app.add_option("--max-list", ordenes.maximoLista, "longest list from a pipe; default: 1 GiB")
       ->type_name("SIZE")
       ->transform(CLI::AsSizeValue(false));
-  AnadeOrdenesChapas(app, ordenes.chapas);
+  const auto deChapas = AnadeOrdenesChapas(app, ordenes.chapas);
   try {
     app.parse(argc, argv);
     opciones.informe = !ordenes.informe.empty();
     opciones.chapas = !ordenes.chapas.existencias.empty() || !ordenes.chapas.fichero.empty();
-    ExigeAcuerdo(app, ordenes);
+    ExigeAcuerdo(deChapas, ordenes);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? kTodoEscrito : kNadaHecho;
   }

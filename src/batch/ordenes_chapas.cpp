@@ -66,7 +66,12 @@ std::optional<std::string> LeeExistencia(const json& entrada, Existencia& existe
 
 }  // namespace
 
-void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
+std::vector<const CLI::Option*> AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
+  std::vector<const CLI::Option*> suyas;
+  const auto anade = [&](CLI::Option* suya) {
+    suyas.push_back(suya);
+    return suya;
+  };
   app.add_option_function<std::vector<std::string>>(
          "--sheet",
          [&](const std::vector<std::string>& textos) {
@@ -82,13 +87,13 @@ void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
   app.add_option("--stock", ordenes.fichero,
                  "sheets that there are: a JSON array of {\"size\", \"count\", \"thickness\"}")
       ->type_name("FILE");
-  app.add_option("--gap", ordenes.reglas.hueco, "least distance between two parts; default: 5 mm")
+  anade(app.add_option("--gap", ordenes.reglas.hueco, "least distance between two parts; default: 5 mm"))
       ->type_name("LENGTH")
       ->check(Hasta(kLargoMaximo));
-  app.add_option("--margin", ordenes.reglas.margen, "of the parts from the sheet's rim; default: 10 mm")
+  anade(app.add_option("--margin", ordenes.reglas.margen, "of the parts from the sheet's rim; default: 10 mm"))
       ->type_name("LENGTH")
       ->check(Hasta(kLargoMaximo));
-  app.add_option("--turn", ordenes.reglas.giro, "step by which parts may be turned; 0: not at all")
+  anade(app.add_option("--turn", ordenes.reglas.giro, "step by which parts may be turned; 0: not at all"))
       ->type_name("DEGREES")
       ->check([](const std::string& texto) -> std::string {
         double grados = -1;
@@ -97,21 +102,23 @@ void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes) {
         return vale ? "" : "must be 0 or divide 360, from 5 to 180";
       })
       ->capture_default_str();
-  app.add_option("--seconds", ordenes.esfuerzo.segundos, "how long sheets are improved")
+  anade(app.add_option("--seconds", ordenes.esfuerzo.segundos, "how long sheets are improved"))
       ->type_name("S")
       ->check(Hasta(1e6))
       ->capture_default_str();
-  app.add_option("--rounds", ordenes.esfuerzo.vueltas, "instead: so many rounds, with the same result everywhere")
+  anade(
+      app.add_option("--rounds", ordenes.esfuerzo.vueltas, "instead: so many rounds, with the same result everywhere"))
       ->type_name("R")
       ->check(CLI::Range(0, 1000000000));
-  app.add_option("--seed", ordenes.esfuerzo.semilla, "another one tries other layouts")
+  anade(app.add_option("--seed", ordenes.esfuerzo.semilla, "another one tries other layouts"))
       ->type_name("N")
       ->capture_default_str();
+  return suyas;
 }
 
-void ExigeChapas(const CLI::App& app) {
-  for (const char* suya : {"--gap", "--margin", "--turn", "--seconds", "--rounds", "--seed"}) {
-    if (app.count(suya) > 0) throw CLI::RequiresError(suya, "--sheet or --stock");
+void ExigeChapas(const std::vector<const CLI::Option*>& suyas) {
+  for (const CLI::Option* suya : suyas) {
+    if (suya->count() > 0) throw CLI::RequiresError(suya->get_name(), "--sheet or --stock");
   }
 }
 

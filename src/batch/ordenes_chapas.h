@@ -16,9 +16,10 @@ struct OrdenesChapas {
   EsfuerzoNido esfuerzo;
 };
 
-void AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes);
-/// Throws CLI::RequiresError if one of those options is given that mean nothing where no sheets are.
-void ExigeChapas(const CLI::App& app);
+/// Gives back those that mean nothing where no sheets are.
+std::vector<const CLI::Option*> AnadeOrdenesChapas(CLI::App& app, OrdenesChapas& ordenes);
+/// Throws CLI::RequiresError if one of these is given.
+void ExigeChapas(const std::vector<const CLI::Option*>& suyas);
 
 /// The sheets of a JSON file: an array of objects with `size`, as in "2500x1250", and if need be `count` and
 /// `thickness`. Throws std::runtime_error, which tells file and entry.
