@@ -44,20 +44,13 @@ QString Significado(const RenglonAjuste& renglon) {
 }  // namespace
 
 FrAjustes::FrAjustes(QWidget* padre)
-    : QDialog(padre), lectura_(ReleeConfiguracion(false)), paginas_(new QTabWidget), lblerror_(new QLabel) {
+    : QDialog(padre), lectura_(ReleeConfiguracion(false)), paginas_(new QTabWidget), lblerror_(EtiquetaError()) {
   setObjectName("FrAjustes");
   setWindowTitle(Q(Texto(texto::kAjustes)));
   for (const int pagina : {texto::kPiezasYDibujos, texto::kMaquina}) {
     if (QWidget* hoja = Pagina(pagina)) paginas_->addTab(hoja, Q(Texto(pagina)));
   }
   paginas_->setTabBarAutoHide(true);
-  lblerror_->setObjectName("lblerror");
-  lblerror_->setTextFormat(Qt::PlainText);
-  lblerror_->setWordWrap(true);
-  lblerror_->setAlignment(Qt::AlignCenter);
-  lblerror_->setStyleSheet(
-      "QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; padding: 6px; }");
-  lblerror_->hide();
   for (const auto* campo : paginas_->findChildren<QLineEdit*>()) {
     connect(campo, &QLineEdit::textChanged, lblerror_, &QLabel::hide);
   }

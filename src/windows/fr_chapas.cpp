@@ -56,17 +56,6 @@ QString Resumen(const Reparto& reparto) {
   return Q(Texto(texto::kResumenChapas)).arg(QString::number(cuantas), QString::number(partes), Q(TextoDeNumero(uso)));
 }
 
-/// Files of sheets with the numbers behind these, from a time when there were more.
-QStringList Viejos(std::size_t hechas, const std::string& carpeta) {
-  QStringList viejos;
-  for (std::size_t n = hechas + 1;; ++n) {
-    std::error_code error;
-    const std::string fichero = NombreChapa(n) + ".dxf";
-    if (!std::filesystem::exists(std::filesystem::path(carpeta) / fichero, error)) return viejos;
-    viejos += Q(fichero);
-  }
-}
-
 /// All of them; of many the first ones, the last one and how many there are.
 QString Abreviados(const QStringList& lineas, const QString& entre, qsizetype muchas) {
   if (lineas.size() <= muchas) return lineas.join(entre);
@@ -84,20 +73,13 @@ FrChapas::FrChapas(QWidget* padre, std::span<const Trabajo> trabajos)
       forma_(new FormaChapas(this)),
       vista_(new VistaChapas(this)),
       LstFaltan_(new QListWidget(this)),
-      lblerror_(new QLabel(this)) {
+      lblerror_(EtiquetaError()) {
   setObjectName("FrChapas");
   setWindowTitle(Q(Texto(texto::kChapas)));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   LstFaltan_->setObjectName("LstFaltan");
   LstFaltan_->setFixedHeight(5 * fontMetrics().lineSpacing());
   LstFaltan_->hide();
-  lblerror_->setObjectName("lblerror");
-  lblerror_->setTextFormat(Qt::PlainText);
-  lblerror_->setWordWrap(true);
-  lblerror_->setAlignment(Qt::AlignCenter);
-  lblerror_->setStyleSheet(
-      "QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; padding: 6px; }");
-  lblerror_->hide();
   auto* columna = new QVBoxLayout(this);
   columna->addWidget(Panel());
   columna->addWidget(lblerror_);
@@ -273,7 +255,8 @@ void FrChapas::MiraEscritura() {
   LblEstado_->setText(Resumen(*reparto_));
   LblEstado_->setToolTip(Abreviados(escritos, "\n", kMuchasLineas));
   if (!escritos.isEmpty()) {
-    const QStringList viejos = Viejos(escritura->Hechas(), escritura->Carpeta());
+    QStringList viejos;
+    for (const std::string& fichero : escritura->Viejas()) viejos += Q(fichero);
     const QString otros = Q(Texto(texto::kCorteViejo)) + " " + Abreviados(viejos, ", ", kMuchos);
     LblEstado_->setText(Q(Texto(texto::kEscrito)) + " " + Q(escritura->Carpeta()) + ": " +
                         Abreviados(escritos, ", ", kMuchos) + (viejos.isEmpty() ? "" : ". " + otros));

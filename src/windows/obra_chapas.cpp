@@ -133,6 +133,7 @@ void EscrituraChapas::Trabaja(const std::stop_token& para) {
       ++hechas_;
     }
   }
+  viejas_ = ChapasViejas(carpeta_, filas);
   if (para.stop_requested()) return;
   const std::string ruta = std::filesystem::path(carpeta_) / kInforme;
   const Guardado informe =

@@ -82,9 +82,10 @@ class EscrituraChapas {
   bool Fallida() const { return tarea_.Fallida(); }
   std::size_t Hechas() const { return hechas_; }
 
-  /// Once it has ended: the files that stand, and a line for each that doesn't.
+  /// Once it has ended: the files that stand, a line for each that doesn't, and sheets of an earlier time.
   const std::vector<std::string>& Escritos() const { return escritos_; }
   const std::vector<std::string>& Fallos() const { return fallos_; }
+  const std::vector<std::string>& Viejas() const { return viejas_; }
 
  private:
   void Trabaja(const std::stop_token& para);
@@ -93,7 +94,7 @@ class EscrituraChapas {
   std::string carpeta_;
   HabitoCsv habito_;
   std::atomic<std::size_t> hechas_ = 0;
-  std::vector<std::string> escritos_, fallos_;
+  std::vector<std::string> escritos_, fallos_, viejas_;
   Tarea tarea_;
 };
 

@@ -116,6 +116,18 @@ void PlataformaQt::HabilitaVentana(Ventana ventana, bool habilitada) {
   delete anterior;
 }
 
+QLabel* EtiquetaError() {
+  auto* lblerror = new QLabel;
+  lblerror->setObjectName("lblerror");
+  lblerror->setTextFormat(Qt::PlainText);
+  lblerror->setWordWrap(true);
+  lblerror->setAlignment(Qt::AlignCenter);
+  lblerror->setStyleSheet(
+      "QLabel { background: #c62828; color: white; font-weight: bold; border-radius: 4px; padding: 6px; }");
+  lblerror->hide();
+  return lblerror;
+}
+
 bool Confirma(QWidget* padre, const QString& pregunta) {
   QMessageBox caja(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No, padre);
   caja.setTextFormat(Qt::PlainText);

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+class QLabel;
 class QWidget;
 
 namespace duktores {
@@ -24,6 +25,9 @@ struct ConfiguracionLeida : QEvent {
 
 /// Brings a window in front of all others without keeping it there.
 void TraeAlFrente(QWidget& ventana);
+
+/// What was refused, in a colour that nobody overlooks; hidden at first.
+QLabel* EtiquetaError();
 
 /// A question with yes and no; Enter says no. Names of files may stand in it.
 bool Confirma(QWidget* padre, const QString& pregunta);
